@@ -1,0 +1,51 @@
+// What exists: the families of transforms, their lengths and element types, and the names that
+// follow from them. Names are made here and nowhere else; declarations, tables, the symbol map,
+// tests and benchmarks all walk this registry.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kfm::registry {
+
+struct Element {
+    std::string_view suffix;   // "32fc", the tail of every function name
+    std::string_view type;     // "Kfm32fc"
+    int bytes;                 // of one element
+    bool complex;
+    bool doublePrecision;
+};
+
+struct Family {
+    std::string_view name;           // "DFTFwd_CToC"
+    std::string_view folder;         // below src/, where its kernels are assembled
+    std::string_view kernelSource;   // "DFT_CToC": stem of its generated files
+    int first, last;                 // lengths
+    std::vector<const Element*> elements;
+
+    bool inverse() const { return name.starts_with("DFTInv"); }
+};
+
+std::span<const Element> elements();
+const Element* findElement(std::string_view suffix);
+
+std::span<const Family> families();
+const Family* findFamily(std::string_view name);
+
+// "kfmgDFTFwd_CToC_16_32fc", "kfmgDFTFwd_CToC_32fc", "owngDFTFwd_CToC_16_32fc_unaligned".
+std::string functionName(const Family& family, int length, const Element& element);
+std::string genericName(const Family& family, const Element& element);
+std::string unalignedName(const Family& family, int length, const Element& element);
+
+// Whether 16-byte alignment selects between two paths, and whether the second path is a
+// function of its own.
+bool testsAlignment(const Family& family, int length, const Element& element);
+bool hasUnalignedCopy(const Family& family, int length, const Element& element);
+
+// Every exported name: the fixed lengths of each family and element type in order, then the
+// generic entries, then the functions outside families.
+std::vector<std::string> exportedNames();
+
+}   // namespace kfm::registry
