@@ -1,0 +1,26 @@
+# Names of the sources that kernelgen writes, read from the list of families so that a new family
+# needs no line here.
+#
+# kfm_generated_kernels(<variable>): one path per kernel, relative to the generated folder.
+function(kfm_generated_kernels result)
+    set(list ${PROJECT_SOURCE_DIR}/src/registry/families.def)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list})
+    file(STRINGS ${list} rows REGEX "^KFM_FAMILY\\(")
+    set(paths)
+    foreach(row IN LISTS rows)
+        if(NOT row MATCHES "^KFM_FAMILY\\(([^,]+), *([^,]+), *([^,]+), *([0-9]+), *([0-9]+), *([^)]+)\\)")
+            message(FATAL_ERROR "families.def: cannot read this row: ${row}")
+        endif()
+        set(stem ${CMAKE_MATCH_2}/${CMAKE_MATCH_3})
+        set(first ${CMAKE_MATCH_4})
+        set(last ${CMAKE_MATCH_5})
+        separate_arguments(elements UNIX_COMMAND "${CMAKE_MATCH_6}")
+        foreach(element IN LISTS elements)
+            foreach(length RANGE ${first} ${last})
+                list(APPEND paths ${stem}_${length}_${element}.cpp)
+            endforeach()
+        endforeach()
+    endforeach()
+    list(REMOVE_DUPLICATES paths)
+    set(${result} ${paths} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,22 @@
+# Installation: libraries with their development links, headers, pkg-config files, CMake package.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+install(TARGETS kfmgenw7 kfmcore EXPORT kfmgen-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES include/kfmgen.h include/kfmcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kfmgen)
+install(EXPORT kfmgen-targets NAMESPACE kfm:: DESTINATION ${package_dir}
+        FILE kfmgen-config.cmake)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake DESTINATION ${package_dir})
+
+# kfm_pkgconfig(<file> <library> <description>)
+function(kfm_pkgconfig name library description)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc
+            DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
+kfm_pkgconfig(kfmgen kfmgenw7 "${PROJECT_DESCRIPTION}")
+kfm_pkgconfig(kfmcore kfmcore "Aligned memory blocks, the companion of kfmgen")

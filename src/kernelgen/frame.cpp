@@ -1,0 +1,123 @@
+#include "kernelgen/frame.h"
+
+#include <stdexcept>
+
+#include "registry/registry.h"
+
+namespace kfm::kernelgen {
+namespace {
+
+using registry::Element;
+using registry::Family;
+
+constexpr std::string_view doNotEdit = "// Made by kernelgen from the registry. Do not edit.\n";
+constexpr std::string_view endMarker = "/* end of declarations */\n";
+
+std::string beginMarker(const Family& family) {
+    return "/* declarations: " + std::string(family.name) + " */\n";
+}
+
+template <class Visit>
+void forEachVariant(Visit visit) {
+    for (const Family& family : registry::families())
+        for (const Element* element : family.elements) visit(family, *element);
+}
+
+// The pointers every function of an element type starts with.
+std::string signalParameters(const Element& element) {
+    const std::string type(element.type);
+    return "const " + type + " *src, " + type + " *dst, ";
+}
+
+std::string declaration(const std::string& name, const std::string& parameters) {
+    return "KFM_API KfmStatus " + name + "(" + parameters + ");\n";
+}
+
+std::string familyDeclarations(const Family& family) {
+    std::string text;
+    for (const Element* element : family.elements) {
+        const std::string signals = signalParameters(*element);
+        for (int length = family.first; length <= family.last; ++length)
+            text += declaration(registry::functionName(family, length, *element),
+                                signals + "int flag");
+        text += declaration(registry::genericName(family, *element),
+                            signals + "int length, int flag");
+    }
+    return text;
+}
+
+std::string genericEntry(const Family& family, const Element& element) {
+    const std::string type(element.type);
+    const std::string table = std::string(family.name) + "_" + std::string(element.suffix);
+    std::string text = "static KfmStatus (*const " + table + "[])(const " + type + "*, " + type +
+                       "*, int) = {\n";
+    for (int length = family.first; length <= family.last; ++length)
+        text += "    " + registry::functionName(family, length, element) + ",\n";
+    return text + "};\n\nextern \"C\" KfmStatus " + registry::genericName(family, element) + "(" +
+           signalParameters(element) + "int length, int flag) {\n    return kfm::callByLength(" +
+           table + ", " + std::to_string(family.first) + ", length, src, dst, flag);\n}\n\n";
+}
+
+std::string functionRow(const std::string& name, const Family& family, const Element& element,
+                        int length) {
+    return "        {\"" + name + "\", \"" + std::string(family.name) + "\", \"" +
+           std::string(element.suffix) + "\", " + std::to_string(length) +
+           ",\n         reinterpret_cast<void (*)()>(&" + name + ")},\n";
+}
+
+}   // namespace
+
+std::string symbolMap() {
+    std::string text = "{\n  global:\n";
+    for (const std::string& name : registry::exportedNames()) text += "    " + name + ";\n";
+    return text + "  local:\n    *;\n};\n";
+}
+
+std::string genericEntries() {
+    std::string text(doNotEdit);
+    text += "#include \"core/generic_entry.h\"\n\n";
+    forEachVariant([&](const Family& family, const Element& element) {
+        text += genericEntry(family, element);
+    });
+    return text;
+}
+
+std::string functionsTable() {
+    std::string text(doNotEdit);
+    text +=
+        "#include \"registry/functions.h\"\n\n"
+        "#include \"kfmgen.h\"\n\n"
+        "std::span<const kfm::registry::Function> kfm::registry::functions() {\n"
+        "    static const Function all[] = {\n";
+    forEachVariant([&](const Family& family, const Element& element) {
+        for (int length = family.first; length <= family.last; ++length)
+            text += functionRow(registry::functionName(family, length, element), family, element,
+                                length);
+        text += functionRow(registry::genericName(family, element), family, element, 0);
+    });
+    return text + "    };\n    return all;\n}\n";
+}
+
+std::string declarations() {
+    std::string text;
+    for (const Family& family : registry::families())
+        text += beginMarker(family) + familyDeclarations(family) + std::string(endMarker) + "\n";
+    return text;
+}
+
+std::string withDeclarations(std::string_view header) {
+    std::string text(header);
+    for (const Family& family : registry::families()) {
+        const std::string marker = beginMarker(family);
+        const std::size_t begin = text.find(marker);
+        const std::size_t end = text.find(endMarker, begin);
+        if (begin == std::string::npos || end == std::string::npos)
+            throw std::runtime_error("the header has no place for the declarations of " +
+                                     std::string(family.name));
+        const std::size_t body = begin + marker.size();
+        text.replace(body, end - body, familyDeclarations(family));
+    }
+    return text;
+}
+
+}   // namespace kfm::kernelgen

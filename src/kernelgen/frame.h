@@ -1,0 +1,26 @@
+// The frame of the library as text: what follows from the registry alone, whatever the kernels
+// compute. Names, lengths and signatures of all exported functions pass through here.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kfm::kernelgen {
+
+// Linker version script that exports the registry's names and nothing else.
+std::string symbolMap();
+
+// C++ source of the generic entries and their tables of fixed-length functions.
+std::string genericEntries();
+
+// C++ source of registry::functions().
+std::string functionsTable();
+
+// C declarations of all families, in the form in which they stand in the header.
+std::string declarations();
+
+// `header` with the declarations between its markers made anew. Throws when a family has no
+// markers.
+std::string withDeclarations(std::string_view header);
+
+}   // namespace kfm::kernelgen

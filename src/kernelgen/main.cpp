@@ -1,0 +1,236 @@
+// Command line of the kernel generator: `kernelgen <command> ...`. Everything it writes is a pure
+// function of the registry and the factor tables, so a build may run it as often as it likes.
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "kernelgen/frame.h"
+#include "kernelgen/kernel_commands.h"
+#include "registry/registry.h"
+
+namespace fs = std::filesystem;
+
+namespace kfm::kernelgen {
+namespace {
+
+// What follows the command: words, and options of the form `--name value`.
+struct Arguments {
+    std::vector<std::string> words;
+    std::map<std::string, std::string> options;
+
+    std::string option(const std::string& name, const std::string& otherwise) const {
+        const auto found = options.find(name);
+        return found == options.end() ? otherwise : found->second;
+    }
+
+    std::string required(const std::string& name) const {
+        const auto found = options.find(name);
+        if (found == options.end()) throw std::invalid_argument("option " + name + " is missing");
+        return found->second;
+    }
+};
+
+Arguments parseArguments(int count, char** values) {
+    Arguments result;
+    for (int i = 0; i < count; ++i) {
+        const std::string word = values[i];
+        if (!word.starts_with("-")) {
+            result.words.push_back(word);
+            continue;
+        }
+        if (++i == count) throw std::invalid_argument("option " + word + " needs a value");
+        result.options[word] = values[i];
+    }
+    return result;
+}
+
+std::string readFile(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    if (!file || !(text << file.rdbuf())) throw std::runtime_error("cannot read " + path.string());
+    return text.str();
+}
+
+// A file that already says the same keeps its time stamp: what depends on it is up to date.
+void writeFile(const fs::path& path, const std::string& text) {
+    if (fs::exists(path) && readFile(path) == text) return;
+    fs::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    if (!(file << text) || !file.flush())
+        throw std::runtime_error("cannot write " + path.string());
+}
+
+// The generated folder: writes what is asked for, and in the end removes what no longer is.
+class OutputFolder {
+public:
+    explicit OutputFolder(fs::path root) : root_(std::move(root)) {}
+
+    void write(const fs::path& name, const std::string& text) {
+        writeFile(root_ / name, text);
+        written_.insert(root_ / name);
+    }
+
+    bool contains(const fs::path& name) const { return written_.contains(root_ / name); }
+
+    void removeOthers() const {
+        std::vector<fs::path> stale;
+        for (const auto& entry : fs::recursive_directory_iterator(root_))
+            if (entry.is_regular_file() && !written_.contains(entry.path()))
+                stale.push_back(entry.path());
+        for (const fs::path& path : stale) fs::remove(path);
+    }
+
+private:
+    fs::path root_;
+    std::set<fs::path> written_;
+};
+
+const Target& target(const Arguments& arguments) {
+    const std::string name = arguments.option("--target", "sse2-x86-64");
+    const Target* found = findTarget(name);
+    if (found == nullptr) throw std::invalid_argument("no target is called " + name);
+    return *found;
+}
+
+// The kernel that the words after a command name: `<N> <element>` of the family --kernels.
+struct KernelName {
+    explicit KernelName(const Arguments& arguments)
+        : source(arguments.option("--kernels", "DFT_CToC")) {
+        if (arguments.words.size() != 2) throw std::invalid_argument("name a length and an element");
+        length = std::stoi(arguments.words[0]);
+        element = registry::findElement(arguments.words[1]);
+        if (element == nullptr)
+            throw std::invalid_argument("no element type is called " + arguments.words[1]);
+    }
+
+    std::string source;
+    int length;
+    const registry::Element* element;
+};
+
+void writeResult(const Arguments& arguments, const std::string& text) {
+    const std::string file = arguments.option("-o", "");
+    if (file.empty())
+        std::cout << text;
+    else
+        writeFile(file, text);
+}
+
+void writeKernels(OutputFolder& folder, const Target& target) {
+    for (const registry::Family& family : registry::families())
+        for (const registry::Element* element : family.elements)
+            for (int length = family.first; length <= family.last; ++length) {
+                const fs::path name = fs::path(family.folder) /
+                                      (std::string(family.kernelSource) + "_" +
+                                       std::to_string(length) + "_" +
+                                       std::string(element->suffix) + ".cpp");
+                if (folder.contains(name)) continue;
+                folder.write(name, kernelSource(family.kernelSource, length, *element, target));
+            }
+}
+
+void build(const Arguments& arguments) {
+    OutputFolder folder(arguments.required("--output"));
+    writeKernels(folder, target(arguments));
+    folder.write("core/generic_entries.cpp", genericEntries());
+    folder.write("registry/functions.cpp", functionsTable());
+    folder.write("kfmgenw7.map", symbolMap());
+    folder.removeOthers();
+}
+
+void printDeclarations(const Arguments& arguments) {
+    if (arguments.options.contains("--into")) {
+        const fs::path header = arguments.required("--into");
+        writeFile(header, withDeclarations(readFile(header)));
+    } else if (arguments.options.contains("--check")) {
+        const fs::path header = arguments.required("--check");
+        const std::string text = readFile(header);
+        if (withDeclarations(text) != text)
+            throw std::runtime_error(header.string() + " is not what the registry says; " +
+                                     "`make header` renews it");
+    } else {
+        std::cout << declarations();
+    }
+}
+
+void printKernel(const Arguments& arguments) {
+    const KernelName kernel(arguments);
+    writeResult(arguments, kernelSource(kernel.source, kernel.length, *kernel.element,
+                                        target(arguments), arguments.option("--schedule", "")));
+}
+
+void printExplanation(const Arguments& arguments) {
+    const KernelName kernel(arguments);
+    writeResult(arguments, explain(kernel.source, kernel.length, *kernel.element));
+}
+
+void printStage(const Arguments& arguments) {
+    const KernelName kernel(arguments);
+    writeResult(arguments, dump(arguments.required("--stage"), kernel.source, kernel.length,
+                                *kernel.element, target(arguments)));
+}
+
+void printCounts(const Arguments& arguments) { writeResult(arguments, operationCountTable()); }
+
+void printCandidates(const Arguments& arguments) {
+    std::string text;
+    for (const ScheduleChoice& choice : scheduleCandidates()) text += choice.text() + "\n";
+    writeResult(arguments, text);
+}
+
+struct Command {
+    const char* name;
+    const char* arguments;
+    const char* purpose;
+    void (*run)(const Arguments&);
+};
+
+constexpr Command commands[] = {
+    {"build", "--target <target> --output <folder>", "write all generated sources", build},
+    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [-o <file>]",
+     "write the source of one kernel", printKernel},
+    {"explain", "<N> <element>", "factor tree, lane mapping and operation counts of a kernel",
+     printExplanation},
+    {"dump", "<N> <element> --stage graph|schedule|dot [--target <target>]",
+     "show a kernel between two stages", printStage},
+    {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
+    {"candidates", "", "the schedules from which the tuner chooses", printCandidates},
+    {"declarations", "[--into <header> | --check <header>]",
+     "print, renew or compare the C declarations", printDeclarations},
+};
+
+int usage() {
+    std::cerr << "usage: kernelgen <command> ...\n";
+    for (const Command& command : commands)
+        std::cerr << "  " << command.name << ' ' << command.arguments << "\n      "
+                  << command.purpose << '\n';
+    return 2;
+}
+
+int run(int argc, char** argv) {
+    const std::string name = argc > 1 ? argv[1] : "";
+    for (const Command& command : commands)
+        if (name == command.name) {
+            command.run(parseArguments(argc - 2, argv + 2));
+            return 0;
+        }
+    return usage();
+}
+
+}   // namespace
+}   // namespace kfm::kernelgen
+
+int main(int argc, char** argv) {
+    try {
+        return kfm::kernelgen::run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "kernelgen: " << error.what() << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,36 @@
+#!/bin/sh
+# build.sh <jobs> [cmake option ...]: configures and builds each target that this machine can
+# build and run, under build/<target>. Leaves the list of targets in build/targets and a test file
+# that joins their tests, so that one ctest run reports on all of them.
+#
+# TARGETS narrows the choice of targets, GOAL names something other than everything to build.
+set -eu
+cd "$(dirname "$0")/.."
+jobs=$1
+shift
+
+# The generator is a program of the target itself, so compiling is not enough.
+runs_32_bit_programs() {
+    probe=build/probe-i386
+    echo 'int main() {}' | ${CXX:-g++} -m32 -x c++ - -o $probe 2>/dev/null && ./$probe
+}
+
+choose_targets() {
+    printf 'x86-64'
+    if runs_32_bit_programs; then
+        printf ' i386'
+    else
+        echo "i386 is skipped: no 32-bit programs on this machine (Debian: g++-multilib)" >&2
+    fi
+}
+
+mkdir -p build
+targets=${TARGETS:-$(choose_targets)}
+: > build/CTestTestfile.cmake
+for target in $targets; do
+    cmake --preset "$target" "$@" > "build/configure-$target.log" ||
+        { cat "build/configure-$target.log"; exit 1; }
+    cmake --build "build/$target" --parallel "$jobs" ${GOAL:+--target "$GOAL"}
+    echo "subdirs($target)" >> build/CTestTestfile.cmake
+done
+echo "$targets" > build/targets
