@@ -1,0 +1,15 @@
+// The complex DFT for the generator: from a length to a graph, and from a graph to functions.
+#pragma once
+
+#include "kernelgen/generator.h"
+
+namespace kfm::dft::complex {
+
+kernelgen::KernelFamily kernelFamily();
+
+// Double precision: a vector is one complex element.
+kernelgen::Graph doubleGraph(int n, bool inverse);
+// Single precision: real and imaginary parts in vectors of their own.
+kernelgen::Graph singleGraph(int n, bool inverse);
+
+}   // namespace kfm::dft::complex

@@ -1,0 +1,21 @@
+// Prints an ordered graph as C++: the body of one transform and the table of its constants.
+//
+// The body is a template over the memory operations, so the aligned and the unaligned copy are
+// one text. Constants are whole vectors in one table whose address is hidden from the compiler:
+// a compiler that sees the values rebuilds them from scalars at twice the instructions.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "kernelgen/graph.h"
+#include "kernelgen/schedule.h"
+#include "registry/registry.h"
+
+namespace kfm::kernelgen {
+
+// A struct `name` with the constants and a static function transform<Memory>(src, dst, scale).
+std::string emitTransform(const Graph& g, std::string_view name,
+                          const registry::Element& element, const ScheduleChoice& choice);
+
+}   // namespace kfm::kernelgen

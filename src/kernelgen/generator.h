@@ -1,0 +1,29 @@
+// How a family hands its kernels to the generator.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "kernelgen/graph.h"
+#include "kernelgen/schedule.h"
+#include "kernelgen/target.h"
+#include "registry/registry.h"
+
+namespace kfm::kernelgen {
+
+struct KernelFamily {
+    std::string_view source;   // as in the registry: "DFT_CToC"
+
+    // The graph of one transform, scale factor and memory operations left open.
+    std::function<Graph(int length, const registry::Element&, bool inverse)> graph;
+    // The factor tree and the lane mapping in words.
+    std::function<std::string(int length, const registry::Element&)> describe;
+    // The schedule on record.
+    std::function<ScheduleChoice(int length, const registry::Element&, const Target&)> choice;
+    // The C++ source of all functions of one length and element type.
+    std::function<std::string(int length, const registry::Element&, const ScheduleChoice&)> emit;
+};
+
+}   // namespace kfm::kernelgen

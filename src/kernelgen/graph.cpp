@@ -1,0 +1,115 @@
+// The rewrites, all of them:
+//   a + 0 = a;  a - a = 0;  a + a = 2*a;  (-a) + (-b) = -(a + b);  a + (-b) = a - b
+//   a - b = -(b - a) where b - a exists already
+//   c*x + c*y = c*(x + y), which saves a multiplication (the one rewrite that moves a rounding)
+//   0*a = 0;  1*a = a;  (-c)*a = -(c*a);  c*(-a) = -(c*a);  c*(d*a) = (c*d)*a
+//   select of two negations is the negation of the select; selecting a operand's own lanes is it
+#include "kernelgen/graph.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace kfm::kernelgen {
+namespace {
+
+bool all(const LaneConstant& c, auto&& predicate) {
+    return std::all_of(c.begin(), c.end(), predicate);
+}
+
+bool uniform(const LaneConstant& c) {
+    return all(c, [&](const Constant& lane) { return lane == c.front(); });
+}
+
+LaneConstant product(const LaneConstant& c, const LaneConstant& d) {
+    LaneConstant result(c.size());
+    for (std::size_t lane = 0; lane < c.size(); ++lane) result[lane] = c[lane] * d[lane];
+    return result;
+}
+
+}   // namespace
+
+Ref Graph::intern(Node node) {
+    const Key key{node.op, node.a, node.b, node.constant, node.first, node.second, node.pattern};
+    const auto [found, inserted] = index_.try_emplace(key, static_cast<int>(nodes_.size()));
+    if (inserted) nodes_.push_back(std::move(node));
+    return Ref::toNode(found->second);
+}
+
+int Graph::internConstant(const LaneConstant& c) {
+    const auto [found, inserted] =
+        constantIndex_.try_emplace(c, static_cast<int>(constants_.size()));
+    if (inserted) constants_.push_back(c);
+    return found->second;
+}
+
+bool Graph::sameFactor(Ref a, Ref b) const {
+    return node(a).op == Op::mul && node(b).op == Op::mul && node(a).constant == node(b).constant;
+}
+
+Ref Graph::load(int first, int second) {
+    return intern({.op = Op::load, .first = first, .second = second});
+}
+
+Ref Graph::add(Ref a, Ref b) {
+    if (a.isZero()) return b;
+    if (b.isZero()) return a;
+    if (a == -b) return {};
+    if (a == b) return mul(Constant(2), a);
+    if (a.negative() && b.negative()) return -add(-a, -b);
+    if (a.negative()) return difference(b, -a);
+    if (b.negative()) return difference(a, -b);
+    if (sameFactor(a, b)) return mul(constants_[node(a).constant], add(node(a).a, node(b).a));
+    return intern({.op = Op::add, .a = std::min(a, b), .b = std::max(a, b)});
+}
+
+Ref Graph::difference(Ref a, Ref b) {
+    if (sameFactor(a, b)) return mul(constants_[node(a).constant], sub(node(a).a, node(b).a));
+    const auto reversed = index_.find({Op::sub, b, a, 0, -1, -1, {}});
+    if (reversed != index_.end()) return -Ref::toNode(reversed->second);
+    return intern({.op = Op::sub, .a = a, .b = b});
+}
+
+Ref Graph::mul(const LaneConstant& c, Ref a) {
+    if (a.isZero() || all(c, [](const Constant& lane) { return lane.isZero(); })) return {};
+    if (a.negative()) return -mul(c, -a);
+    if (node(a).op == Op::mul) return mul(product(c, constants_[node(a).constant]), node(a).a);
+    if (uniform(c)) {
+        if (c.front() == Constant(1)) return a;
+        if (c.front() < Constant(0)) return -mul(LaneConstant(lanes_, -c.front()), a);
+    }
+    return intern({.op = Op::mul, .a = a, .constant = internConstant(c)});
+}
+
+// The value of `a` as a positive reference. A negated difference or product costs nothing: the
+// operands are exchanged, the constant changes its sign.
+Ref Graph::unsignedRef(Ref a) {
+    if (!a.negative()) return a;
+    const Node original = node(a);
+    if (original.op == Op::sub) return intern({.op = Op::sub, .a = original.b, .b = original.a});
+    if (original.op == Op::mul) {
+        const LaneConstant negated = product(LaneConstant(lanes_, -1), constants_[original.constant]);
+        return intern({.op = Op::mul, .a = original.a, .constant = internConstant(negated)});
+    }
+    return flip(-a, LanePattern(lanes_, 1));
+}
+
+Ref Graph::select(Ref a, Ref b, const LanePattern& pattern) {
+    if (a.isZero() || b.isZero()) throw std::logic_error("select takes no zero");
+    if (a.negative() && b.negative()) return -select(-a, -b, pattern);
+    a = unsignedRef(a);
+    b = unsignedRef(b);
+    bool identity = true;
+    for (int lane = 0; lane < lanes_; ++lane)
+        identity = identity && (pattern[lane] == lane || (a == b && pattern[lane] == lane + lanes_));
+    if (identity) return a;
+    return intern({.op = Op::select, .a = a, .b = b, .pattern = pattern});
+}
+
+Ref Graph::flip(Ref a, const LanePattern& lanes) {
+    LanePattern mask = lanes;
+    if (a.negative())
+        for (int& lane : mask) lane = 1 - lane;
+    return intern({.op = Op::flip, .a = a.magnitude(), .pattern = mask});
+}
+
+}   // namespace kfm::kernelgen

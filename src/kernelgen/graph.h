@@ -1,0 +1,103 @@
+// The expression graph: hash-consed vector operations over signed references.
+//
+// A node is one vector instruction on `lanes()` lanes. A reference is a node or its negation, or
+// zero: negations and zeros never become nodes, so "hoisting" a sign is a matter of references.
+// The constructors simplify as they build; the complete list of rewrites is in graph.cpp. None of
+// them reassociates, so the bits of a result follow from the algorithm as written.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <tuple>
+#include <vector>
+
+#include "kernelgen/constants.h"
+
+namespace kfm::kernelgen {
+
+class Ref {
+public:
+    constexpr Ref() = default;
+    static constexpr Ref toNode(int node) { return Ref(node + 1); }
+
+    bool isZero() const { return id_ == 0; }
+    bool negative() const { return id_ < 0; }
+    int node() const { return (id_ < 0 ? -id_ : id_) - 1; }
+    Ref magnitude() const { return Ref(id_ < 0 ? -id_ : id_); }
+    Ref operator-() const { return Ref(-id_); }
+    friend auto operator<=>(Ref, Ref) = default;
+
+private:
+    explicit constexpr Ref(int id) : id_(id) {}
+    int id_ = 0;   // 0: zero; +-(node + 1)
+};
+
+// One value per lane.
+using LaneConstant = std::vector<Constant>;
+
+// For each lane of a result the lane it is taken from: 0..L-1 of the first operand, L..2L-1 of
+// the second.
+using LanePattern = std::vector<int>;
+
+enum class Op {
+    load,     // the source elements `first` and `second`; -1: the upper half is zero
+    add,      // a + b
+    sub,      // a - b
+    mul,      // constant * a
+    select,   // lanes of a and b by `pattern`
+    flip,     // a with the sign changed in the lanes whose pattern entry is 1
+};
+
+struct Node {
+    Op op;
+    Ref a = {}, b = {};   // always positive references (or unused)
+    int constant = 0;     // mul: index of the lane constant
+    int first = -1, second = -1;
+    LanePattern pattern = {};
+};
+
+// What a kernel writes: the elements `first` and `second` (-1: only the lower half) from a value.
+struct Output {
+    int first, second;
+    Ref value;
+};
+
+class Graph {
+public:
+    explicit Graph(int lanes) : lanes_(lanes) {}
+
+    int lanes() const { return lanes_; }
+    const std::vector<Node>& nodes() const { return nodes_; }
+    const Node& node(Ref ref) const { return nodes_[ref.node()]; }
+    const LaneConstant& constant(int index) const { return constants_[index]; }
+    const std::vector<LaneConstant>& constants() const { return constants_; }
+
+    Ref load(int first, int second = -1);
+    Ref add(Ref a, Ref b);
+    Ref sub(Ref a, Ref b) { return add(a, -b); }
+    Ref mul(const Constant& c, Ref a) { return mul(LaneConstant(lanes_, c), a); }
+    Ref mul(const LaneConstant& c, Ref a);
+    Ref select(Ref a, Ref b, const LanePattern& pattern);
+    Ref select(Ref a, const LanePattern& pattern) { return select(a, a, pattern); }
+    Ref flip(Ref a, const LanePattern& lanes);
+
+    void store(int first, int second, Ref value) { outputs_.push_back({first, second, value}); }
+    const std::vector<Output>& outputs() const { return outputs_; }
+
+private:
+    Ref difference(Ref a, Ref b);
+    Ref unsignedRef(Ref a);
+    bool sameFactor(Ref a, Ref b) const;
+    int internConstant(const LaneConstant& c);
+    Ref intern(Node node);
+
+    using Key = std::tuple<Op, Ref, Ref, int, int, int, LanePattern>;
+    int lanes_;
+    std::vector<Node> nodes_;
+    std::map<Key, int> index_;
+    std::vector<LaneConstant> constants_;
+    std::map<LaneConstant, int> constantIndex_;
+    std::vector<Output> outputs_;
+};
+
+}   // namespace kfm::kernelgen

@@ -1,0 +1,97 @@
+#include "kernelgen/kernel_commands.h"
+
+#include <array>
+#include <iomanip>
+#include <numeric>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+
+#include "dft/complex/complex_kernels.h"
+#include "kernelgen/report.h"
+
+namespace kfm::kernelgen {
+namespace {
+
+using registry::Element;
+
+const std::array<KernelFamily, 1>& allFamilies() {
+    static const std::array<KernelFamily, 1> families = {dft::complex::kernelFamily()};
+    return families;
+}
+
+// The columns of the count table, and what `explain` prints.
+constexpr std::array columns = {
+    std::pair{"additions", &OperationCounts::additions},
+    std::pair{"multiplications", &OperationCounts::multiplications},
+    std::pair{"shuffles", &OperationCounts::shuffles},
+    std::pair{"signChanges", &OperationCounts::signChanges},
+    std::pair{"loads", &OperationCounts::loads},
+    std::pair{"stores", &OperationCounts::stores},
+};
+
+}   // namespace
+
+const KernelFamily& kernelFamily(std::string_view source) {
+    for (const KernelFamily& family : allFamilies())
+        if (family.source == source) return family;
+    throw std::invalid_argument("no kernels are called " + std::string(source));
+}
+
+std::string kernelSource(std::string_view source, int length, const Element& element,
+                         const Target& target, std::string_view choice) {
+    const KernelFamily& family = kernelFamily(source);
+    return family.emit(length, element,
+                       choice.empty() ? family.choice(length, element, target)
+                                      : ScheduleChoice::parse(choice));
+}
+
+std::string explain(std::string_view source, int length, const Element& element) {
+    const KernelFamily& family = kernelFamily(source);
+    const OperationCounts counts = countOperations(family.graph(length, element, false));
+    std::ostringstream out;
+    out << source << ' ' << length << ' ' << element.suffix << '\n'
+        << "  factors          " << family.describe(length, element) << '\n';
+    for (const Target& target : targets())
+        out << "  schedule         " << family.choice(length, element, target).text() << " on "
+            << target.name << '\n';
+    for (const auto& [name, member] : columns)
+        out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
+    return out.str();
+}
+
+std::string dump(std::string_view stage, std::string_view source, int length,
+                 const Element& element, const Target& target) {
+    const KernelFamily& family = kernelFamily(source);
+    const Graph graph = family.graph(length, element, false);
+    const std::vector<int> scheduled = schedule(graph, family.choice(length, element, target));
+    if (stage == "schedule") return dumpText(graph, scheduled);
+    if (stage == "dot") return dumpDot(graph, scheduled);
+    if (stage != "graph") throw std::invalid_argument("no stage is called " + std::string(stage));
+    std::vector<int> built(graph.nodes().size());
+    std::iota(built.begin(), built.end(), 0);
+    return dumpText(graph, built);
+}
+
+std::string operationCountTable() {
+    std::ostringstream out;
+    out << "# Vector operations of each kernel: " << "`kernelgen counts` writes this table.\n"
+        << "kernels length element";
+    for (const auto& [name, member] : columns) out << ' ' << name;
+    out << '\n';
+    std::set<std::string_view> done;
+    for (const registry::Family& family : registry::families()) {
+        if (!done.insert(family.kernelSource).second) continue;
+        for (const Element* element : family.elements)
+            for (int length = family.first; length <= family.last; ++length) {
+                const OperationCounts counts = countOperations(
+                    kernelFamily(family.kernelSource).graph(length, *element, false));
+                out << family.kernelSource << ' ' << length << ' ' << element->suffix;
+                for (const auto& [name, member] : columns) out << ' ' << counts.*member;
+                out << '\n';
+            }
+    }
+    return out.str();
+}
+
+}   // namespace kfm::kernelgen

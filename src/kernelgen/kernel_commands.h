@@ -1,0 +1,28 @@
+// What the command line shows and writes of single kernels.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "kernelgen/generator.h"
+
+namespace kfm::kernelgen {
+
+// The family whose generated files are called `source`_<N>_<element>.cpp; throws for others.
+const KernelFamily& kernelFamily(std::string_view source);
+
+// The source of one kernel; an empty schedule takes the one on record.
+std::string kernelSource(std::string_view source, int length, const registry::Element& element,
+                         const Target& target, std::string_view schedule = {});
+
+// Factor tree, lane mapping, operation counts.
+std::string explain(std::string_view source, int length, const registry::Element& element);
+
+// One stage of a kernel as text: "graph" as built, "schedule" in execution order, "dot".
+std::string dump(std::string_view stage, std::string_view source, int length,
+                 const registry::Element& element, const Target& target);
+
+// The operation counts of all kernels, a row each.
+std::string operationCountTable();
+
+}   // namespace kfm::kernelgen

@@ -1,0 +1,103 @@
+#include "kernelgen/plan.h"
+
+#include <numeric>
+#include <stdexcept>
+
+namespace kfm::kernelgen {
+namespace {
+
+[[noreturn]] void refuse(int n, const std::string& why) {
+    throw std::invalid_argument("factor tree of length " + std::to_string(n) + ": " + why);
+}
+
+bool isPrime(int n) {
+    for (int d = 2; d * d <= n; ++d)
+        if (n % d == 0) return false;
+    return n > 1;
+}
+
+bool isPowerOfTwo(int n) { return n > 0 && (n & (n - 1)) == 0; }
+
+Plan::Kind moduleKind(int n) {
+    if (n < 1) refuse(n, "no such module");
+    return n > 4 && isPowerOfTwo(n) ? Plan::Kind::powerOfTwo : Plan::Kind::direct;
+}
+
+}   // namespace
+
+Plan::Plan(int length) : n(length), kind(moduleKind(length)) {
+    if (kind == Kind::direct && n > 4 && !isPrime(n)) refuse(n, "a composite length has no module");
+}
+
+Plan::Plan(int length, Kind planKind, std::vector<Plan> planParts)
+    : n(length), kind(planKind), parts(std::move(planParts)) {}
+
+Plan factored5() { return Plan(5, Plan::Kind::factored5, {}); }
+
+Plan pfa(const Plan& first, const Plan& second) {
+    const int n = first.n * second.n;
+    if (std::gcd(first.n, second.n) != 1) refuse(n, "prime factors must be coprime");
+    return Plan(n, Plan::Kind::pfa, {first, second});
+}
+
+Plan ct(const Plan& first, const Plan& second) {
+    const int n = first.n * second.n;
+    if (first.n < 2 || second.n < 2) refuse(n, "a twiddled step needs two factors");
+    return Plan(n, Plan::Kind::ct, {first, second});
+}
+
+Plan rader(const Plan& convolution) {
+    const int prime = convolution.n + 1;
+    if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
+    return Plan(prime, Plan::Kind::rader, {convolution});
+}
+
+Plan rader(int prime, const Plan& longer) {
+    if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
+    if (longer.n < 2 * prime - 3) refuse(prime, "the padded convolution wraps around");
+    return Plan(prime, Plan::Kind::paddedRader, {longer});
+}
+
+std::string Plan::text() const {
+    const std::string length = std::to_string(n);
+    switch (kind) {
+    case Kind::direct:
+        return length;
+    case Kind::powerOfTwo:
+        return length + " by split radix";
+    case Kind::factored5:
+        return "factored 5";
+    case Kind::pfa:
+        return length + " = PFA(" + first().text() + ", " + second().text() + ")";
+    case Kind::ct:
+        return length + " = CT(" + first().text() + ", " + second().text() + ")";
+    case Kind::rader:
+        return length + " = Rader(" + first().text() + ")";
+    case Kind::paddedRader:
+        return length + " = Rader padded to " + first().text();
+    }
+    refuse(n, "unknown kind");
+}
+
+int powerModulo(int base, int exponent, int modulus) {
+    int result = 1;
+    for (int i = 0; i < exponent; ++i) result = result * base % modulus;
+    return result;
+}
+
+int primitiveRoot(int prime) {
+    for (int g = 2; g < prime; ++g) {
+        int order = 1;
+        for (int power = g; power != 1; power = power * g % prime) ++order;
+        if (order == prime - 1) return g;
+    }
+    return 1;
+}
+
+int chineseRemainder(int k1, int n1, int k2, int n2) {
+    for (int k = k1 % n1; k < n1 * n2; k += n1)
+        if (k % n2 == k2 % n2) return k;
+    refuse(n1 * n2, "prime factors must be coprime");
+}
+
+}   // namespace kfm::kernelgen

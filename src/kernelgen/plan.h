@@ -1,0 +1,53 @@
+// Factor trees: how a length is computed. The factor tables of the families are written with the
+// builders below and read like the mathematics; each builder refuses what its algorithm cannot do.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kfm::kernelgen {
+
+struct Plan {
+    enum class Kind {
+        direct,      // 2, 4, or the symmetric pairs of an odd length
+        factored5,   // the 5-point module with four products saved to three
+        powerOfTwo,  // conjugate-pair split radix
+        pfa,         // Good-Thomas: first x second, coprime, no twiddle factors
+        ct,          // Cooley-Tukey: first x second with twiddle factors between
+        rader,       // a prime as a cyclic convolution of length n - 1
+        paddedRader  // the same by a longer DFT of `convolution` points
+    };
+
+    Plan(int n);   // an integer in a factor tree: the direct module, or a power of two
+
+    int n = 0;
+    Kind kind = Kind::direct;
+    std::vector<Plan> parts;   // pfa, ct: first, second; rader: the plan of the convolution
+
+    const Plan& first() const { return parts[0]; }
+    const Plan& second() const { return parts[1]; }
+    std::string text() const;
+
+private:
+    Plan(int length, Kind kind, std::vector<Plan> parts);
+    friend Plan factored5();
+    friend Plan pfa(const Plan&, const Plan&);
+    friend Plan ct(const Plan&, const Plan&);
+    friend Plan rader(const Plan&);
+    friend Plan rader(int, const Plan&);
+};
+
+Plan factored5();
+// The transforms of length `first` are taken first, those of length `second` across them.
+Plan pfa(const Plan& first, const Plan& second);
+Plan ct(const Plan& first, const Plan& second);
+// The prime p = convolution.n + 1; `rader(p, longer)` pads the convolution to longer.n points.
+Plan rader(const Plan& convolution);
+Plan rader(int prime, const Plan& longer);
+
+int primitiveRoot(int prime);
+int powerModulo(int base, int exponent, int modulus);
+// The k below n1*n2 with k = k1 modulo n1 and k = k2 modulo n2.
+int chineseRemainder(int k1, int n1, int k2, int n2);
+
+}   // namespace kfm::kernelgen

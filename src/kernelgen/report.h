@@ -1,0 +1,22 @@
+// What a kernel costs, and dumps of its graph for people.
+#pragma once
+
+#include <string>
+
+#include "kernelgen/graph.h"
+
+namespace kfm::kernelgen {
+
+// Vector instructions of one transform, the products by the scale factor not counted.
+struct OperationCounts {
+    int additions = 0, multiplications = 0, shuffles = 0, signChanges = 0, loads = 0, stores = 0;
+};
+
+OperationCounts countOperations(const Graph& g);
+
+// The nodes in the given order, a line each.
+std::string dumpText(const Graph& g, const std::vector<int>& order);
+// The graph in the language of graphviz.
+std::string dumpDot(const Graph& g, const std::vector<int>& order);
+
+}   // namespace kfm::kernelgen

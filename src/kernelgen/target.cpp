@@ -1,0 +1,21 @@
+#include "kernelgen/target.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kfm::kernelgen {
+namespace {
+constexpr std::array<Target, 2> allTargets = {{
+    {"sse2-x86-64", 16, 16},
+    {"sse2-i386", 16, 8},
+}};
+}   // namespace
+
+std::span<const Target> targets() { return allTargets; }
+
+const Target* findTarget(std::string_view name) {
+    const auto found = std::ranges::find(allTargets, name, &Target::name);
+    return found == allTargets.end() ? nullptr : &*found;
+}
+
+}   // namespace kfm::kernelgen
