@@ -1,0 +1,47 @@
+// The options that pick functions from the registry, the same for every program here.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <climits>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "registry/registry.h"
+
+namespace kfm::bench {
+
+struct Selection {
+    std::string family, element;   // empty: all
+    int first = 0, last = INT_MAX;
+
+    void addLengths(CLI::App& app) {
+        app.add_option_function<std::string>("--lengths", [this](const std::string& text) {
+            const int fields = std::sscanf(text.c_str(), "%d-%d", &first, &last);
+            if (fields < 1) throw CLI::ValidationError("--lengths", "expected N or A-B");
+            if (fields == 1) last = first;
+        }, "one length or a range A-B");
+    }
+    void addElement(CLI::App& app) {
+        app.add_option("--element", element, "element type")
+            ->check(CLI::IsMember(names(registry::elements(), &registry::Element::suffix)));
+    }
+    void addFamily(CLI::App& app) {
+        app.add_option("--family", family, "family of functions")
+            ->check(CLI::IsMember(names(registry::families(), &registry::Family::name)));
+    }
+
+    bool hasFamily(std::string_view name) const { return family.empty() || family == name; }
+    bool hasElement(std::string_view suffix) const { return element.empty() || element == suffix; }
+    bool hasLength(int length) const { return first <= length && length <= last; }
+
+private:
+    template <class Rows, class Field>
+    static std::vector<std::string> names(const Rows& rows, Field field) {
+        std::vector<std::string> result;
+        for (const auto& row : rows) result.emplace_back(row.*field);
+        return result;
+    }
+};
+
+}   // namespace kfm::bench

@@ -1,0 +1,46 @@
+// Makes the candidates of a kernel: has the generator write one source per schedule, compiles each
+// into a shared object of its own with the library's own command for that kernel, and loads them.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kfm::tune {
+
+// What a kernel source file holds: "DFT_CToC", 16, "32fc" and its exported functions.
+struct KernelSource {
+    std::string source, element;
+    int length;
+    std::vector<std::string> functions;
+
+    std::string stem() const;   // "DFT_CToC_16_32fc"
+};
+
+struct Candidate {
+    std::string schedule;
+    std::shared_ptr<void> library;   // keeps the functions loaded
+    std::vector<void*> functions;
+};
+
+class Workshop {
+public:
+    Workshop(std::string kernelgen, std::string target, std::filesystem::path compileCommands,
+             std::filesystem::path folder);
+
+    // In the order of the generator's list; of candidates with the same code only the first.
+    std::vector<Candidate> make(const KernelSource& kernel) const;
+
+private:
+    std::string compiler(const KernelSource& kernel) const;
+    std::string path(std::size_t candidate, const char* extension) const;
+    void generate(const KernelSource& kernel) const;
+    std::vector<std::size_t> distinct() const;
+
+    std::string kernelgen, target;
+    std::filesystem::path compileCommands, folder;
+    std::vector<std::string> schedules;   // every candidate the generator offers
+};
+
+}   // namespace kfm::tune
