@@ -3,12 +3,12 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <optional>
 
-#include "kfmgen.h"
 #include "peer.h"
 #include "result.h"
 #include "selection.h"
-#include "signal.h"
+#include "signals.h"
 #include "timer.h"
 
 namespace kfm::bench {
@@ -16,7 +16,7 @@ namespace {
 
 struct Options {
     Selection selection;
-    int batches = 25;
+    int batches = 100;
     bool unaligned = false, inPlace = false, summary = false;
     std::string csv, peerFolder;
     int core = lastCore();
@@ -36,17 +36,7 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_option("--core", options.core, "processor to run on")->capture_default_str();
 }
 
-using Transform = KfmStatus (*)(const void*, void*, int);
-
 KfmStatus doNothing(const void*, void*, int) { return kfmOk; }
-
-std::function<void(long)> repeatCall(Transform transform, std::shared_ptr<Signals> signals,
-                                     int flag) {
-    return [=](long calls) {
-        for (long i = 0; i < calls; ++i)
-            transform(signals->source(), signals->destination(), flag);
-    };
-}
 
 std::function<void(long)> ours(const registry::Function& function, const Options& options) {
     const auto transform = reinterpret_cast<Transform>(function.address);

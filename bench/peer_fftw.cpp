@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "signal.h"
+#include "signals.h"
 
 namespace kfm::bench {
 namespace {

@@ -2,6 +2,7 @@
 #include "contest.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
 namespace kfm::tune {
@@ -34,10 +35,15 @@ int findFastest(std::vector<Contestant>& contestants, int incumbent, int firstBa
             next.back() = incumbent;
         field = next;
     }
-    const double limit = contestants[field[0]].time() * (1 + tieMargin);
-    std::erase_if(field, [&](int i) { return contestants[i].time() > limit; });
-    if (std::ranges::find(field, incumbent) != field.end()) return incumbent;
-    return *std::ranges::min_element(field);
+    std::vector<double> times(contestants.size(), std::numeric_limits<double>::infinity());
+    for (int i : field) times[i] = contestants[i].time();
+    return winner(times, incumbent);
+}
+
+int winner(std::span<const double> times, int incumbent) {
+    const double limit = *std::ranges::min_element(times) * (1 + tieMargin);
+    if (incumbent >= 0 && times[incumbent] <= limit) return incumbent;
+    return std::ranges::find_if(times, [=](double time) { return time <= limit; }) - times.begin();
 }
 
 }   // namespace kfm::tune

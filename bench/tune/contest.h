@@ -2,7 +2,7 @@
 // slower half leaves, and the rest run twice as many batches, until a few are left.
 #pragma once
 
-#include <functional>
+#include <span>
 #include <vector>
 
 #include "timer.h"
@@ -15,9 +15,12 @@ struct Contestant {
     double time() const;
 };
 
-// Runs the contest; returns the index of the winner. Within the tie margin of the fastest the
-// incumbent wins (-1: there is none), else the earliest: a choice must not change without a gain.
-inline constexpr double tieMargin = 0.005;
+// Runs the contest and returns the index of the winner.
 int findFastest(std::vector<Contestant>& contestants, int incumbent, int firstBatches);
+
+// The choice by time. Within the tie margin of the fastest the incumbent wins (-1: there is none),
+// else the earliest: what is committed must not change without a gain.
+inline constexpr double tieMargin = 0.005;
+int winner(std::span<const double> times, int incumbent);
 
 }   // namespace kfm::tune

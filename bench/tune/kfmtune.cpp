@@ -6,10 +6,9 @@
 #include <set>
 
 #include "contest.h"
-#include "kfmgen.h"
 #include "schedule_table.h"
 #include "selection.h"
-#include "signal.h"
+#include "signals.h"
 #include "timer.h"
 #include "workshop.h"
 
@@ -18,35 +17,21 @@ namespace {
 
 struct Options {
     bench::Selection selection;
-    std::string target = sizeof(void*) == 8 ? "sse2-x86-64" : "sse2-i386";
+    std::string target = KFM_TARGET;
     std::filesystem::path sources = KFM_SOURCES;
     int batches = 10;
     int core = bench::lastCore();
 };
 
-using Transform = KfmStatus (*)(const void*, void*, int);
-
-void runOnce(void* function, const bench::Signals& signals) {
-    reinterpret_cast<Transform>(function)(signals.source(), signals.destination(), kfmScaleNone);
-}
-
-bench::Subject subjectOf(void* function, const bench::Signals& signals) {
-    const auto transform = reinterpret_cast<Transform>(function);
-    return bench::Subject([transform, &signals](long calls) {
-        for (long i = 0; i < calls; ++i)
-            transform(signals.source(), signals.destination(), kfmScaleNone);
-    });
-}
-
 void requireSameBits(const std::vector<Candidate>& candidates, const bench::Signals& signals,
                      std::size_t bytes) {
+    const auto output = static_cast<char*>(signals.destination());
     for (std::size_t f = 0; f < candidates[0].functions.size(); ++f) {
-        runOnce(candidates[0].functions[f], signals);
-        const auto output = static_cast<const char*>(signals.destination());
-        const std::vector<char> expected(output, output + bytes);
+        std::vector<char> expected;
         for (const Candidate& candidate : candidates) {
-            std::memset(signals.destination(), 0x99, bytes);
-            runOnce(candidate.functions[f], signals);
+            std::memset(output, 0x99, bytes);
+            candidate.functions[f](signals.source(), output, kfmScaleNone);
+            if (expected.empty()) expected.assign(output, output + bytes);
             if (std::memcmp(output, expected.data(), bytes) != 0)
                 throw std::runtime_error("schedule " + candidate.schedule + " changes results");
         }
@@ -60,13 +45,13 @@ int indexOf(const std::vector<Candidate>& candidates, const std::string& schedul
 }
 
 std::string fastest(const std::vector<Candidate>& candidates, const std::string& current,
-                    const bench::Signals& signals, const Options& options) {
+                    std::shared_ptr<const bench::Signals> signals, const Options& options) {
     const bench::PinnedToCore pinned(options.core);
     std::vector<Contestant> contestants;
     for (const Candidate& candidate : candidates) {
         Contestant& contestant = contestants.emplace_back();
-        for (void* function : candidate.functions)
-            contestant.subjects.push_back(subjectOf(function, signals));
+        for (bench::Transform function : candidate.functions)
+            contestant.subjects.emplace_back(bench::repeatCall(function, signals, kfmScaleNone));
     }
     const int incumbent = indexOf(candidates, current);
     const int winner = findFastest(contestants, incumbent, options.batches);
@@ -78,8 +63,8 @@ std::string fastest(const std::vector<Candidate>& candidates, const std::string&
     return candidates[winner].schedule;
 }
 
-// The kernels of one family folder and element type that the options select; families with the
-// same kernel source share them.
+// The selected kernels of the family's source. One kernel holds the functions of all families that
+// have the same source.
 std::vector<KernelSource> kernels(const registry::Family& family, const registry::Element& element,
                                   const bench::Selection& selection) {
     std::vector<KernelSource> result;
@@ -100,8 +85,8 @@ void tune(const KernelSource& kernel, const registry::Element& element, const Wo
     std::printf("%-18s ", kernel.stem().c_str());
     std::fflush(stdout);
     const std::vector<Candidate> candidates = workshop.make(kernel);
-    const bench::Signals signals(kernel.length, element);
-    requireSameBits(candidates, signals, kernel.length * element.bytes);
+    const auto signals = std::make_shared<const bench::Signals>(kernel.length, element);
+    requireSameBits(candidates, *signals, kernel.length * element.bytes);
     table.choose(name, fastest(candidates, table.find(name), signals, options));
     // At once, so that an interrupted run keeps what it has found.
     table.write();

@@ -53,7 +53,8 @@ Candidate load(const KernelSource& kernel, const std::string& schedule,
     Candidate candidate{schedule, {dlopen(object.c_str(), RTLD_NOW | RTLD_LOCAL), &dlclose}, {}};
     if (!candidate.library) throw std::runtime_error(dlerror());
     for (const std::string& name : kernel.functions) {
-        candidate.functions.push_back(dlsym(candidate.library.get(), name.c_str()));
+        candidate.functions.push_back(
+            reinterpret_cast<bench::Transform>(dlsym(candidate.library.get(), name.c_str())));
         if (!candidate.functions.back()) throw std::runtime_error(dlerror());
     }
     return candidate;

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "signals.h"
+
 namespace kfm::tune {
 
 // What a kernel source file holds: "DFT_CToC", 16, "32fc" and its exported functions.
@@ -21,7 +23,7 @@ struct KernelSource {
 struct Candidate {
     std::string schedule;
     std::shared_ptr<void> library;   // keeps the functions loaded
-    std::vector<void*> functions;
+    std::vector<bench::Transform> functions;
 };
 
 class Workshop {

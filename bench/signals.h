@@ -1,11 +1,14 @@
-// The data the timed functions work on: bounded, nowhere near zero, the same in every run.
+// The data the timed functions work on: bounded, nowhere near zero, the same in every run; and how
+// a fixed-length function is called on them.
 #pragma once
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <random>
 
+#include "kfmgen.h"
 #include "registry/registry.h"
 
 namespace kfm::bench {
@@ -43,5 +46,16 @@ private:
     std::byte* start;
     bool inPlace;
 };
+
+// Every fixed-length function, whatever its element types.
+using Transform = KfmStatus (*)(const void*, void*, int);
+
+inline std::function<void(long)> repeatCall(Transform transform,
+                                            std::shared_ptr<const Signals> signals, int flag) {
+    return [=](long calls) {
+        for (long i = 0; i < calls; ++i)
+            transform(signals->source(), signals->destination(), flag);
+    };
+}
 
 }   // namespace kfm::bench
