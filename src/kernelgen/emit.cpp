@@ -52,16 +52,11 @@ class TransformPrinter {
 public:
     TransformPrinter(const Graph& g, const registry::Element& element, const ScheduleChoice& choice)
         : g_(g), choice_(choice), single_(!element.doublePrecision), table_(!single_) {
-        for (const Output& output : g.outputs()) {
-            outputs_[output.value.node()].push_back(output);
-            negativeScale_ = negativeScale_ || output.value.negative();
-        }
+        for (const Output& output : g.outputs()) outputs_[output.node].push_back(output);
     }
 
     std::string body() {
-        if (negativeScale_)
-            out_ << "        const Vector minusScale = flip(scale, constant(k, "
-                 << table_.mask(LanePattern(g_.lanes(), 1)) << "));\n";
+        for (const Output& output : g_.outputs()) nameScale(output.negated);
         int count = 0;
         for (const int node : schedule(g_, choice_)) {
             if (choice_.relaunder && ++count % nodesPerLaundering == 0)
@@ -75,7 +70,18 @@ public:
     std::string constants() const { return table_.text(); }
 
 private:
-    static std::string name(Ref ref) { return "t" + std::to_string(ref.node()); }
+    // The scale factor with the signs of an output, made once for each pattern of signs.
+    void nameScale(const LanePattern& negated) {
+        if (negated == LanePattern(g_.lanes(), 0)) scales_[negated] = "scale";
+        if (scales_.contains(negated)) return;
+        const std::string name = "scale" + std::to_string(scales_.size() + 1);
+        out_ << "        const Vector " << name << " = flip(scale, constant(k, "
+             << table_.mask(negated) << "));\n";
+        scales_[negated] = name;
+    }
+
+    static std::string name(int node) { return "t" + std::to_string(node); }
+    static std::string name(Ref ref) { return name(ref.node()); }
 
     void printNode(int index) {
         const Node& node = g_.nodes()[index];
@@ -127,8 +133,7 @@ private:
     void printStore(const Output& output) {
         const std::string first = "dst + " + std::to_string(output.first);
         const std::string second = "dst + " + std::to_string(output.second);
-        const std::string value = "mul(" + name(output.value) +
-                                  (output.value.negative() ? ", minusScale)" : ", scale)");
+        const std::string value = "mul(" + name(output.node) + ", " + scales_.at(output.negated) + ")";
         out_ << "        ";
         if (!single_)
             out_ << "Memory::store(" << first;
@@ -144,9 +149,9 @@ private:
     const Graph& g_;
     const ScheduleChoice& choice_;
     bool single_;
-    bool negativeScale_ = false;
     ConstantTable table_;
     std::map<int, std::vector<Output>> outputs_;
+    std::map<LanePattern, std::string> scales_;
     std::ostringstream out_;
 };
 

@@ -54,9 +54,9 @@ std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const 
         for (int i = 0; i < lanes; ++i) {
             const int element = elements[i / lanesPerElement];
             if (element < 0) continue;
-            const Real value = at(output.value)[i];
+            const Real value = values[output.node][i];
             result[element * lanesPerElement + i % lanesPerElement] =
-                output.value.negative() ? -value : value;
+                output.negated[i] ? -value : value;
         }
     }
     return result;

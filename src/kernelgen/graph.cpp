@@ -112,4 +112,11 @@ Ref Graph::flip(Ref a, const LanePattern& lanes) {
     return intern({.op = Op::flip, .a = a.magnitude(), .pattern = mask});
 }
 
+void Graph::store(int first, int second, Ref value, LanePattern negated) {
+    negated.resize(lanes_, 0);
+    if (value.negative())
+        for (int& lane : negated) lane = 1 - lane;
+    outputs_.push_back({first, second, value.node(), negated});
+}
+
 }   // namespace kfm::kernelgen

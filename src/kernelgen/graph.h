@@ -56,10 +56,12 @@ struct Node {
     LanePattern pattern = {};
 };
 
-// What a kernel writes: the elements `first` and `second` (-1: only the lower half) from a value.
+// What a kernel writes: the elements `first` and `second` (-1: only the lower half) from a node,
+// with the sign changed in the lanes whose entry is 1; the scale factor takes the signs along.
 struct Output {
     int first, second;
-    Ref value;
+    int node;
+    LanePattern negated;
 };
 
 class Graph {
@@ -81,7 +83,7 @@ public:
     Ref select(Ref a, const LanePattern& pattern) { return select(a, a, pattern); }
     Ref flip(Ref a, const LanePattern& lanes);
 
-    void store(int first, int second, Ref value) { outputs_.push_back({first, second, value}); }
+    void store(int first, int second, Ref value, LanePattern negated = {});
     const std::vector<Output>& outputs() const { return outputs_; }
 
 private:

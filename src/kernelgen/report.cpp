@@ -71,7 +71,9 @@ std::string dumpText(const Graph& g, const std::vector<int>& order) {
     for (const Output& output : g.outputs()) {
         out << "store " << output.first;
         if (output.second >= 0) out << ", " << output.second;
-        out << " = " << operand(output.value) << '\n';
+        out << " = t" << output.node << " signs";
+        for (const int lane : output.negated) out << (lane ? " -" : " +");
+        out << '\n';
     }
     return out.str();
 }

@@ -18,7 +18,7 @@ struct Edges {
 Edges liveEdges(const Graph& g, std::vector<int>& live) {
     const int count = static_cast<int>(g.nodes().size());
     std::vector<char> needed(count);
-    for (const Output& output : g.outputs()) needed[output.value.node()] = 1;
+    for (const Output& output : g.outputs()) needed[output.node] = 1;
     Edges edges{std::vector<std::vector<int>>(count), std::vector<std::vector<int>>(count)};
     for (int i = count - 1; i >= 0; --i) {
         if (!needed[i]) continue;

@@ -22,7 +22,7 @@ Graph graph(int n, const Element& element, bool inverse) {
 std::string describe(int n, const Element& element) {
     if (element.doublePrecision) return doublePrecisionPlan(n).text();
     const SinglePrecisionRow row = singlePrecisionRow(n);
-    return row.plan.text() + "; lanes: " + row.lanes.text();
+    return row.plan.text() + "; lanes: " + text(row.lanes);
 }
 
 ScheduleChoice choice(int n, const Element& element, const Target& target) {

@@ -1,0 +1,104 @@
+#include "dft/complex/single_rader.h"
+
+namespace kfm::dft::complex {
+
+using namespace kernelgen;
+
+std::vector<Complex> sumsAndDifferences(Graph& g, std::span<const MirroredPair> pairs) {
+    std::vector<Complex> result;
+    for (std::size_t i = 0; i < pairs.size(); i += 2) {
+        const bool two = i + 1 < pairs.size();
+        const auto elements = [&](std::array<int, 2> MirroredPair::*side) {
+            const auto [e0, e1] = pairs[i].*side;
+            if (!two) return Elements{e0, e1, -1, -1};
+            const auto [e2, e3] = pairs[i + 1].*side;
+            return Elements{e0, e1, e2, e3};
+        };
+        const Complex z = load4(g, elements(&MirroredPair::z));
+        const Complex mirror = load4(g, elements(&MirroredPair::mirror));
+        const Complex sum = add(g, z, mirror), difference = sub(g, z, mirror);
+        result.push_back(select(g, sum, difference, lowHalves));
+        if (two) result.push_back(select(g, sum, difference, highHalves));
+    }
+    return result;
+}
+
+std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts, Sign sign) {
+    std::vector<SignedOutputs> result;
+    for (int i = 0; i < static_cast<int>(parts.size()); i += 2) {
+        const bool two = i + 1 < static_cast<int>(parts.size());
+        const Complex other = two ? parts[i + 1] : parts[i];
+        const Complex c = two ? select(g, parts[i], other, lowHalves) : parts[i];
+        const Complex s = select(g, parts[i], other, highHalves);
+        result.push_back({addTimesI(g, c, s, sign), addTimesI(g, c, s, opposite(sign)), i,
+                          two ? i + 1 : -1});
+    }
+    return result;
+}
+
+Constant binWeight(int k, int n) {
+    return Constant::ratio(k == 0 || 2 * k == n ? 1 : 2, n);
+}
+
+ComplexConstant scaled(ComplexConstant c, const Constant& weight) {
+    return {c.re * weight, c.im * weight};
+}
+
+namespace {
+
+LaneConstant laneConstants(const std::array<ComplexConstant, 4>& lanes,
+                           Constant ComplexConstant::*part) {
+    LaneConstant result;
+    for (const ComplexConstant& lane : lanes) result.push_back(lane.*part);
+    return result;
+}
+
+// z times a complex constant in each lane; here real and imaginary mean those of a bin.
+Complex scaleLanes(Graph& g, Complex z, const std::array<ComplexConstant, 4>& lanes) {
+    const LaneConstant re = laneConstants(lanes, &ComplexConstant::re);
+    const LaneConstant im = laneConstants(lanes, &ComplexConstant::im);
+    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
+}
+
+bool isZero(const std::array<ComplexConstant, 4>& lanes) {
+    for (const ComplexConstant& lane : lanes)
+        if (!lane.re.isZero() || !lane.im.isZero()) return false;
+    return true;
+}
+
+Complex multiplyBin(Graph& g, Complex bin, const BinConstants& constants) {
+    const Complex own = scaleLanes(g, bin, constants.own);
+    if (isZero(constants.other)) return own;
+    const auto swapped = [&](Ref value) {
+        return value.isZero() ? value : g.select(value, neighbours);
+    };
+    return add(g, own, scaleLanes(g, {swapped(bin.re), swapped(bin.im)}, constants.other));
+}
+
+std::vector<Ref> convolveReal(Graph& g, const Plan& plan, std::vector<Ref> inputs,
+                              const std::function<BinConstants(int)>& constants, Ref x0,
+                              Ref& sum) {
+    inputs.resize(plan.n);
+    HalfSpectrum spectrum = realDft(g, plan, inputs);
+    sum = spectrum[0].re;
+    for (int k = 0; 2 * k <= plan.n; ++k)
+        spectrum[k] = multiplyBin(g, spectrum[k], constants(k));
+    spectrum[0].re = g.add(spectrum[0].re, x0);
+    return realSynthesis(g, plan, spectrum);
+}
+
+}   // namespace
+
+std::vector<Complex> convolve(Graph& g, const Plan& plan, std::span<const Complex> inputs,
+                              const std::function<BinConstants(int)>& constants, Complex x0,
+                              Complex& sums) {
+    std::vector<Ref> re, im;
+    for (const Complex& input : inputs) re.push_back(input.re), im.push_back(input.im);
+    const std::vector<Ref> r = convolveReal(g, plan, re, constants, x0.re, sums.re);
+    const std::vector<Ref> i = convolveReal(g, plan, im, constants, x0.im, sums.im);
+    std::vector<Complex> result;
+    for (std::size_t k = 0; k < r.size(); ++k) result.push_back({r[k], i[k]});
+    return result;
+}
+
+}   // namespace kfm::dft::complex

@@ -1,0 +1,117 @@
+// Lengths 2p by prime factors: both columns of length p in one vector, as sums and differences
+// (a, a', b, b') of mirrored inputs. The column transform is the direct module or Rader's step;
+// the 2-point step across the columns comes last, between even and odd lanes.
+#include "dft/complex/single_rader.h"
+
+namespace kfm::dft::complex {
+
+using namespace kernelgen;
+
+namespace {
+
+// Columns of a transform of length 2p before the last step.
+struct Columns {
+    std::vector<Complex> parts;   // (C, C', S, S') of the outputs below
+    std::vector<int> outputs;     // k of the sum C + i*sign*S; the difference is p - k
+    Complex first;                // output 0 of both columns in the lower half
+};
+
+// x0 of both columns in the lower half, zero in the upper.
+Complex firstInputs(Graph& g, int p) {
+    const Complex x = load4(g, {0, p, -1, -1});
+    const LaneConstant lower = {1, 1, 0, 0};
+    return {g.mul(lower, x.re), g.mul(lower, x.im)};
+}
+
+// The inputs n and -n modulo p of both columns.
+MirroredPair inputPair(int p, int n, int mirror) {
+    const auto element = [p](int i, int column) { return (2 * i + p * column) % (2 * p); };
+    return {{element(n, 0), element(n, 1)}, {element(mirror, 0), element(mirror, 1)}};
+}
+
+Columns directColumns(Graph& g, int p) {
+    const int half = (p - 1) / 2;
+    std::vector<MirroredPair> pairs;
+    for (int i = 1; i <= half; ++i) pairs.push_back(inputPair(p, i, p - i));
+    const std::vector<Complex> t = sumsAndDifferences(g, pairs);
+    Columns result;
+    result.first = firstInputs(g, p);
+    for (int k = 1; k <= half; ++k) {
+        Complex part = result.first;
+        for (int i = 1; i <= half; ++i) {
+            const Constant c = Constant::cosTurn(i * k, p), s = Constant::sinTurn(i * k, p);
+            const LaneConstant factors = {c, c, s, s};
+            part = add(g, part, {g.mul(factors, t[i - 1].re), g.mul(factors, t[i - 1].im)});
+        }
+        result.parts.push_back(part);
+        result.outputs.push_back(k);
+    }
+    for (const Complex& sums : t) result.first = add(g, result.first, sums);
+    return result;
+}
+
+Columns raderColumns(Graph& g, const Plan& plan) {
+    const RaderOrder order(plan.n);
+    const Plan& rows = plan.first().second();
+    const int p = plan.n, q = rows.n;
+    std::vector<MirroredPair> pairs;
+    std::vector<Constant> sines;
+    for (int m = 0; m < q; ++m) {
+        const int even = m % 2 == 0 ? m : m + q, odd = m % 2 == 0 ? m + q : m;
+        pairs.push_back(inputPair(p, order.input[even], order.input[odd]));
+        sines.push_back(m % 2 == 0 ? order.sines[m] : -order.sines[m]);
+    }
+    const std::span<const Constant> cosines = std::span(order.cosines).first(q);
+    const auto constants = [&](int k) {
+        const ComplexConstant c = scaled(constantBin(cosines, k), binWeight(k, q));
+        const ComplexConstant s = scaled(constantBin(sines, k), binWeight(k, q));
+        return BinConstants{{c, c, s, s}, {}};
+    };
+    Columns result;
+    const Complex x0 = firstInputs(g, p);
+    Complex sums;
+    result.parts = convolve(g, rows, sumsAndDifferences(g, pairs), constants, x0, sums);
+    result.first = add(g, x0, sums);
+    for (int m = 0; m < q; ++m)
+        result.outputs.push_back(m % 2 == 0 ? order.output[m] : p - order.output[m]);
+    return result;
+}
+
+// Even and odd lanes hold the two columns: stores their sum and difference.
+void storeTwoPoint(Graph& g, int p, Complex even, Complex odd, const Elements& outputs) {
+    LaneVector sum{add(g, even, odd), {}}, difference{sub(g, even, odd), {}};
+    for (int lane = 0; lane < 4; ++lane) {
+        const int k = outputs[lane];
+        sum.elements[lane] = k < 0 ? -1 : chineseRemainder(0, 2, k, p);
+        difference.elements[lane] = k < 0 ? -1 : chineseRemainder(1, 2, k, p);
+    }
+    store4(g, sum);
+    store4(g, difference);
+}
+
+}   // namespace
+
+void twoColumnGraph(Graph& g, const Plan& plan, Sign sign) {
+    const Plan& column = plan.second();
+    const int p = column.n;
+    const Columns columns =
+        column.kind == Plan::Kind::rader ? raderColumns(g, column) : directColumns(g, p);
+    bool firstStored = false;
+    for (const SignedOutputs& y : combineParts(g, columns.parts, sign)) {
+        const int k = columns.outputs[y.first];
+        if (y.second >= 0) {
+            const int l = columns.outputs[y.second];
+            storeTwoPoint(g, p, select(g, y.plus, y.minus, evenLanes),
+                          select(g, y.plus, y.minus, oddLanes), {k, l, p - k, p - l});
+        } else {
+            const Complex both = select(g, y.plus, y.minus, lowHalves);
+            storeTwoPoint(g, p, select(g, both, columns.first, evenLanes),
+                          select(g, both, columns.first, oddLanes), {k, p - k, 0, -1});
+            firstStored = true;
+        }
+    }
+    if (!firstStored)
+        storeTwoPoint(g, p, columns.first, select(g, columns.first, neighbours), {0, -1, -1, -1});
+}
+
+}   // namespace kfm::dft::complex
