@@ -1,5 +1,4 @@
 # Installation: libraries with their development links, headers, pkg-config files, CMake package.
-include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS kfmgenw7 kfmcore EXPORT kfmgen-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
@@ -14,6 +13,8 @@ install(FILES ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake DESTINATION ${pa
 
 # kfm_pkgconfig(<file> <library> <description>)
 function(kfm_pkgconfig name library description)
+    set(here /${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    file(RELATIVE_PATH prefix_from_here ${here} /)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${name}.pc
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,41 @@
+#include "listing.h"
+
+#include <iomanip>
+
+#include "kfmgen.h"
+#include "registry/functions.h"
+
+namespace kfm::tool {
+
+void printInfo(std::ostream& out) {
+    const KfmLibraryVersion& version = *kfmgenGetLibVersion();
+    out << "library    " << version.libraryName << '\n'
+        << "version    " << version.versionMajor << '.' << version.versionMinor << ", build "
+        << version.buildMajor << '.' << version.buildNumber << " (" << version.versionText << ")\n"
+        << "date       " << version.buildDate << '\n'
+        << "target     " << version.targetCode << ", SSE2, "
+        << (sizeof(void*) == 8 ? "x86-64" : "i386") << '\n'
+        << "functions  " << registry::functions().size() << " in " << registry::families().size()
+        << " families\n";
+}
+
+void printFamilies(std::ostream& out) {
+    out << std::left << std::setw(16) << "family" << std::setw(10) << "lengths"
+        << "element types\n";
+    for (const registry::Family& family : registry::families()) {
+        out << std::setw(16) << family.name << std::setw(10)
+            << std::to_string(family.first) + ".." + std::to_string(family.last);
+        const char* separator = "";
+        for (const registry::Element* element : family.elements) {
+            out << separator << element->suffix;
+            separator = ", ";
+        }
+        out << '\n';
+    }
+}
+
+void printFunctionNames(std::ostream& out) {
+    for (const registry::Function& function : registry::functions()) out << function.name << '\n';
+}
+
+}   // namespace kfm::tool
