@@ -1,0 +1,188 @@
+// How far the outputs are from the definition summed in binary128, for every fixed function, flag
+// and kind of input, against a committed bound per function; and what must hold exactly.
+#include <quadmath.h>
+
+#include <cmath>
+#include <cstdio>
+#include <iomanip>
+#include <sstream>
+
+#include "support/committed_table.h"
+#include "support/oracle.h"
+
+namespace kfm::tests {
+namespace {
+
+constexpr double promised = 4;   // units, of every function
+
+std::vector<Signal> hardSignals(const Transform& transform) {
+    const auto reals = transform.sourceReals();
+    const int length = transform.length;
+    std::vector<Signal> signals = {Signal(reals, 1)};
+    for (std::size_t i = 0; i < reals; ++i) signals.push_back(impulse(reals, i));
+    Signal alternating(reals);
+    for (std::size_t i = 0; i < reals; ++i) alternating[i] = i / 2 % 2 ? -1 : 1;
+    signals.push_back(alternating);
+    for (int frequency : {1, length / 3, length - 1}) {
+        Signal tone(reals);
+        for (std::size_t i = 0; i < reals; ++i) {
+            const UnitRoot w = unitRoot(static_cast<long>(i / 2) * frequency, length);
+            tone[i] = static_cast<double>(i % 2 ? w.im : w.re);
+        }
+        // Rounded to the element type before the oracle sees it.
+        signals.push_back(decode(encode(tone, transform).data(), reals, transform));
+    }
+    return signals;
+}
+
+// Short lengths need more signals to come near their worst case.
+std::vector<Signal> randomSignals(const Transform& transform) {
+    Random random(testSeed());
+    std::vector<Signal> signals;
+    for (int i = 0; i < 12 + 512 / transform.length; ++i) {
+        signals.push_back(randomSignal(transform, random));
+        if (i % 4 == 3)   // a wide range of magnitudes
+            for (double& value : signals.back()) value = std::ldexp(value, int(8 * random.uniform(8)));
+    }
+    return signals;
+}
+
+double worstError(const Transform& transform, const std::vector<Signal>& signals) {
+    double worst = 0;
+    for (const Signal& signal : signals) {
+        const auto unscaled = definition(transform, signal);
+        for (int flag : allFlags) {
+            auto expected = unscaled;
+            for (Quad& value : expected) value *= scaleFactor(transform, flag);
+            const Signal actual = run(transform, signal, flag);
+            worst = std::max(worst, errorInUnits(transform, actual, expected));
+        }
+    }
+    return worst;
+}
+
+class Accuracy : public testing::TestWithParam<Transform> {
+public:
+    static CommittedTable& table() {
+        static CommittedTable table(
+            "accuracy.txt",
+            "# Worst error measured, and the bound the tests hold it to: max |error| over max |output|\n"
+            "# in units of 2^-24 (32) and 2^-53 (64). Made by the build target update-accuracy.\n");
+        return table;
+    }
+
+    static void TearDownTestSuite() {
+        for (const auto& [kind, worst] : worst_)
+            std::printf("worst error of %s: %.2f units, %s\n", kind.c_str(), worst.first,
+                        worst.second.c_str());
+    }
+
+protected:
+    static void note(const Transform& transform, double error) {
+        const std::string kind =
+            std::string(transform.family->name) + " " + std::string(transform.element->suffix);
+        worst_[kind] = std::max(worst_[kind], std::pair(error, transform.name()));
+    }
+
+    static inline std::map<std::string, std::pair<double, std::string>> worst_;
+};
+
+// Half as much again as was measured leaves room for another seed.
+std::string rowFor(double measured) {
+    const double bound = std::min(promised, std::ceil(measured * 15) / 10);
+    std::ostringstream row;
+    row << std::fixed << std::setprecision(2) << measured << ' ' << bound;
+    return row.str();
+}
+
+TEST_P(Accuracy, StaysWithinCommittedBound) {
+    const Transform& transform = GetParam();
+    const double error =
+        std::max(worstError(transform, randomSignals(transform)),
+                 worstError(transform, hardSignals(transform)));
+    note(transform, error);
+    RecordProperty("units", std::to_string(error));
+    if (table().updating()) table().record(transform.name(), rowFor(error));
+    std::istringstream row(table().expected(transform.name()));
+    double measured = 0, bound = 0;
+    ASSERT_TRUE(row >> measured >> bound) << "no row in the table; worst error is " << error;
+    EXPECT_LE(error, bound) << "seed " << testSeed() << "; when committed it was " << measured;
+    EXPECT_LE(bound, promised);
+    EXPECT_LE(bound, 2 * measured + 0.1) << "a bound far above the measured error";
+}
+
+// The nearest value of the element type to the true factor, component for component.
+double roundedScale(const Transform& transform, int flag) {
+    const Quad exact = scaleFactor(transform, flag);
+    return transform.element->doublePrecision ? static_cast<double>(exact)
+                                              : static_cast<double>(static_cast<float>(exact));
+}
+
+TEST_P(Accuracy, ImpulseAtZeroGivesTheScaleFactorExactly) {
+    const Transform& transform = GetParam();
+    for (int flag : allFlags) {
+        const Signal output = run(transform, impulse(transform.sourceReals(), 0), flag);
+        for (std::size_t i = 0; i < output.size(); ++i)
+            ASSERT_EQ(output[i], i % 2 ? 0 : roundedScale(transform, flag))
+                << "flag " << flag << ", output " << i;
+    }
+}
+
+TEST_P(Accuracy, FlagsWithEqualFactorGiveEqualBits) {
+    const Transform& transform = GetParam();
+    const int unscaled = transform.family->inverse() ? kfmScaleFwdByN : kfmScaleInvByN;
+    for (const Signal& signal : randomSignals(transform)) {
+        const Bytes source = encode(signal, transform);
+        ASSERT_EQ(run(transform, source, kfmScaleNone), run(transform, source, unscaled));
+    }
+}
+
+// Sums and products by constants commute with a power of two; so no constant is added anywhere,
+// nothing overflows early and nothing is flushed.
+TEST_P(Accuracy, PowersOfTwoPassThroughExactly) {
+    const Transform& transform = GetParam();
+    Random random(testSeed());
+    const Signal signal = randomSignal(transform, random);
+    const int limit = transform.element->doublePrecision ? 900 : 100;
+    for (int exponent : {limit, -limit / 2}) {
+        Signal scaled = signal, expected = run(transform, signal, kfmScaleBySqrtN);
+        for (double& value : scaled) value = std::ldexp(value, exponent);
+        for (double& value : expected) value = std::ldexp(value, exponent);
+        ASSERT_EQ(run(transform, scaled, kfmScaleBySqrtN), expected) << "2^" << exponent;
+    }
+}
+
+KFM_FOR_EVERY_FIXED_TRANSFORM(Accuracy);
+
+std::vector<Transform> forwardTransforms() {
+    std::vector<Transform> result;
+    for (const Transform& transform : fixedTransforms())
+        if (transform.family->name.starts_with("DFTFwd")) result.push_back(transform);
+    return result;
+}
+
+class RoundTrip : public testing::TestWithParam<Transform> {};
+
+TEST_P(RoundTrip, RestoresTheSignal) {
+    const Transform& forward = GetParam();
+    const std::string inverseName = "DFTInv" + std::string(forward.family->name.substr(6));
+    const Transform* inverse =
+        findTransform(inverseName, forward.length, forward.element->suffix);
+    ASSERT_NE(inverse, nullptr);
+    for (const Signal& signal : randomSignals(forward)) {
+        const std::vector<Quad> expected(signal.begin(), signal.end());
+        for (int flag : {kfmScaleFwdByN, kfmScaleInvByN, kfmScaleBySqrtN}) {
+            const Signal restored = run(*inverse, run(forward, signal, flag), flag);
+            ASSERT_LE(errorInUnits(forward, restored, expected), 2 * promised) << "flag " << flag;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, RoundTrip, testing::ValuesIn(forwardTransforms()), caseName);
+
+TEST(AccuracyTable, HoldsNoOtherFunction) {
+    EXPECT_EQ(Accuracy::table().rows().size(), fixedTransforms().size());
+}
+
+}   // namespace
+}   // namespace kfm::tests

@@ -1,0 +1,204 @@
+// What the compiler made of the kernels: straight-line code that calls nothing, SSE2 arithmetic
+// only, and aligned moves in the aligned kernels. Reads one disassembly of the whole library.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <sstream>
+
+#include "registry/registry.h"
+#include "support/command.h"
+
+namespace kfm::tests {
+namespace {
+
+struct Instruction {
+    unsigned long address;
+    std::string mnemonic;
+    std::string operands;
+};
+
+struct Kernel {
+    std::string name;
+    std::string unaligned;   // its copy, empty when it is the copy or has none
+    bool aligned;            // exported, with a copy for other addresses
+};
+
+using Code = std::vector<Instruction>;
+
+// "    1139:\tmovaps (%rdi),%xmm0"
+Instruction parse(std::string_view line) {
+    const std::size_t colon = line.find(':');
+    const std::size_t text = std::min(colon + 2, line.size());
+    std::istringstream words{std::string(line.substr(text))};
+    Instruction result{std::stoul(std::string(line.substr(0, colon)), nullptr, 16), "", ""};
+    words >> result.mnemonic;
+    while (result.mnemonic == "bnd" || result.mnemonic == "notrack" || result.mnemonic == "data16")
+        words >> result.mnemonic;
+    std::getline(words >> std::ws, result.operands);
+    return result;
+}
+
+const std::map<std::string, Code>& disassembly() {
+    static const std::map<std::string, Code> all = [] {
+        std::map<std::string, Code> functions;
+        Code* current = nullptr;
+        forEachLine(KFM_OBJDUMP " -d --no-show-raw-insn '" KFM_LIBRARY_FILE "'",
+                    [&](std::string_view line) {
+                        if (line.ends_with(">:")) {
+                            const std::size_t open = line.find('<');
+                            current = &functions[std::string(
+                                line.substr(open + 1, line.size() - open - 3))];
+                        } else if (current && line.starts_with(' ')) {
+                            current->push_back(parse(line));
+                        }
+                    });
+        return functions;
+    }();
+    return all;
+}
+
+std::vector<Kernel> kernels() {
+    std::vector<Kernel> result;
+    for (const registry::Family& family : registry::families())
+        for (const registry::Element* element : family.elements)
+            for (int length = family.first; length <= family.last; ++length) {
+                const bool copied = registry::hasUnalignedCopy(family, length, *element);
+                const std::string copy =
+                    copied ? registry::unalignedName(family, length, *element) : "";
+                result.push_back({registry::functionName(family, length, *element), copy, copied});
+                if (copied) result.push_back({copy, "", false});
+            }
+    return result;
+}
+
+// The function that a jump or call names, without the offset of a target inside it.
+std::string targetFunction(const Instruction& instruction) {
+    const std::size_t open = instruction.operands.find('<');
+    if (open == std::string::npos) return "";
+    return instruction.operands.substr(open + 1,
+                                       instruction.operands.find_first_of("+>@", open) - open - 1);
+}
+
+unsigned long targetAddress(const Instruction& instruction) {
+    return std::stoul(instruction.operands, nullptr, 16);
+}
+
+bool isJump(const Instruction& instruction) { return instruction.mnemonic[0] == 'j'; }
+bool isCall(const Instruction& instruction) { return instruction.mnemonic.starts_with("call"); }
+bool leaves(const Instruction& instruction) {
+    return instruction.mnemonic.starts_with("ret") || instruction.mnemonic.starts_with("jmp");
+}
+
+// Indices of the instructions that may run right after number `i`.
+std::vector<std::size_t> successors(const Code& code, std::size_t i, const std::string& name) {
+    std::vector<std::size_t> result;
+    if (!leaves(code[i]) && i + 1 < code.size()) result.push_back(i + 1);
+    if (isJump(code[i]) && targetFunction(code[i]) == name) {
+        const auto target = std::ranges::lower_bound(code, targetAddress(code[i]), {},
+                                                     &Instruction::address);
+        result.push_back(static_cast<std::size_t>(target - code.begin()));
+    }
+    return result;
+}
+
+// By topological order (Kahn): what is never freed of its predecessors is on or behind a cycle.
+bool hasCycle(const Code& code, const std::string& name) {
+    std::vector<int> predecessors(code.size());
+    for (std::size_t i = 0; i < code.size(); ++i)
+        for (std::size_t next : successors(code, i, name)) ++predecessors[next];
+    std::vector<std::size_t> ready;
+    for (std::size_t i = 0; i < code.size(); ++i)
+        if (predecessors[i] == 0) ready.push_back(i);
+    std::size_t ordered = 0;
+    for (; !ready.empty(); ++ordered) {
+        const std::size_t at = ready.back();
+        ready.pop_back();
+        for (std::size_t next : successors(code, at, name))
+            if (--predecessors[next] == 0) ready.push_back(next);
+    }
+    return ordered != code.size();
+}
+
+// The first instruction for which `wrong` holds, as text, or nothing.
+template <class Predicate>
+std::string firstWhere(const Code& code, Predicate wrong) {
+    const auto found = std::ranges::find_if(code, wrong);
+    return found == code.end() ? "" : found->mnemonic + " " + found->operands;
+}
+
+// `check` returns what is wrong with a kernel, or nothing; all complaints are reported at once.
+template <class Check>
+void forEveryKernel(Check check) {
+    std::string complaints;
+    for (const Kernel& kernel : kernels()) {
+        const auto code = disassembly().find(kernel.name);
+        const std::string wrong = code == disassembly().end() ? "not found: is the library stripped?"
+                                                              : check(kernel, code->second);
+        if (!wrong.empty()) complaints += kernel.name + ": " + wrong + "\n";
+    }
+    EXPECT_TRUE(complaints.empty()) << complaints;
+}
+
+TEST(Disassembly, UnalignedCopiesExistExactlyWhereRegistered) {
+    std::vector<std::string> expected, present;
+    for (const Kernel& kernel : kernels())
+        if (!kernel.unaligned.empty()) expected.push_back(kernel.unaligned);
+    for (const auto& [name, code] : disassembly())
+        if (name.starts_with("owng") && name.find("_unaligned") != std::string::npos)
+            present.push_back(name);
+    std::ranges::sort(expected);
+    EXPECT_EQ(present, expected);
+}
+
+TEST(Disassembly, KernelsRunStraightThrough) {
+    forEveryKernel([](const Kernel& kernel, const Code& code) {
+        if (hasCycle(code, kernel.name)) return std::string("has a cycle");
+        return firstWhere(code, [](const Instruction& instruction) {
+            return instruction.mnemonic.starts_with("loop") ||
+                   instruction.mnemonic.starts_with("rep") ||
+                   (isJump(instruction) && instruction.operands.find('*') != std::string::npos);
+        });
+    });
+}
+
+TEST(Disassembly, KernelsCallOnlyTheirUnalignedCopy) {
+    forEveryKernel([](const Kernel& kernel, const Code& code) {
+        return firstWhere(code, [&](const Instruction& instruction) {
+            if (!isCall(instruction) && !isJump(instruction)) return false;
+            const std::string target = targetFunction(instruction);
+            const bool own = isJump(instruction) && target == kernel.name;
+            const bool copy = !target.empty() && target == kernel.unaligned;
+            const bool programCounter = target.starts_with("__x86.get_pc_thunk.");
+            return !own && !copy && !programCounter;
+        });
+    });
+}
+
+TEST(Disassembly, KernelsComputeInSse2) {
+    constexpr std::array beyond = {"haddp", "hsubp", "addsubp", "movddup", "movshdup", "movsldup",
+                                   "lddqu", "pshufb", "palignr", "blend", "insertps", "dpp"};
+    forEveryKernel([&](const Kernel&, const Code& code) {
+        return firstWhere(code, [&](const Instruction& instruction) {
+            const std::string& mnemonic = instruction.mnemonic;
+            return mnemonic[0] == 'f' || mnemonic[0] == 'v' ||   // x87, AVX
+                   std::ranges::any_of(beyond, [&](const char* stem) {
+                       return mnemonic.starts_with(stem);
+                   });
+        });
+    });
+}
+
+TEST(Disassembly, AlignedKernelsUseAlignedMoves) {
+    forEveryKernel([](const Kernel& kernel, const Code& code) {
+        if (!kernel.aligned) return std::string();
+        return firstWhere(code, [](const Instruction& instruction) {
+            return (instruction.mnemonic.starts_with("movup") || instruction.mnemonic == "movdqu") &&
+                   instruction.operands.find('(') != std::string::npos;
+        });
+    });
+}
+
+}   // namespace
+}   // namespace kfm::tests

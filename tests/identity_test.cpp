@@ -1,0 +1,151 @@
+// The same bits by every road: each path through a function (aligned or not, in place, overlapping,
+// by length argument, from several threads at once) must equal the aligned out-of-place call, and
+// that one must equal the hash that was committed, whatever the target and the compiler.
+#include <cstdio>
+#include <cstring>
+#include <set>
+#include <thread>
+
+#include "support/buffer.h"
+#include "support/committed_table.h"
+#include "support/signal.h"
+
+namespace kfm::tests {
+namespace {
+
+constexpr std::size_t vectorBytes = 16;
+
+class Identity : public testing::TestWithParam<Transform> {
+protected:
+    void SetUp() override {
+        Random random(testSeed());
+        source_ = encode(randomSignal(GetParam(), random), GetParam());
+    }
+
+    // Copies the source to `from`, transforms to `to` and compares with the plain result.
+    testing::AssertionResult matches(std::byte* from, std::byte* to, int flag) {
+        const Bytes expected = run(GetParam(), source_, flag);
+        std::memcpy(from, source_.data(), source_.size());
+        const KfmStatus status = call(GetParam(), from, to, flag);
+        if (status == kfmOk && std::memcmp(to, expected.data(), expected.size()) == 0)
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << "flag " << flag << ", status " << status;
+    }
+
+    Bytes source_;
+};
+
+TEST_P(Identity, AtEveryAlignment) {
+    GuardedBuffer from(GetParam().sourceBytes() + vectorBytes);
+    GuardedBuffer to(GetParam().destinationBytes() + vectorBytes);
+    for (std::size_t i = 0; i < vectorBytes; ++i)
+        for (std::size_t j = 0; j < vectorBytes; ++j)
+            for (int flag : allFlags)
+                ASSERT_TRUE(matches(from.data() + i, to.data() + j, flag))
+                    << "source offset " << i << ", destination offset " << j;
+}
+
+TEST_P(Identity, InPlaceAtEveryAlignment) {
+    const auto bytes = std::max(GetParam().sourceBytes(), GetParam().destinationBytes());
+    GuardedBuffer both(bytes + vectorBytes);
+    for (std::size_t i = 0; i < vectorBytes; ++i)
+        for (int flag : allFlags)
+            ASSERT_TRUE(matches(both.data() + i, both.data() + i, flag)) << "offset " << i;
+}
+
+TEST_P(Identity, WithOverlappingArrays) {
+    const auto bytes = std::max(GetParam().sourceBytes(), GetParam().destinationBytes());
+    const auto element = static_cast<std::size_t>(GetParam().element->bytes);
+    std::set<std::size_t> shifts = {1, 4, 8, element, 16, 2 * element, 32, bytes / 2, bytes - element,
+                                    bytes - 1};
+    GuardedBuffer both(2 * bytes + vectorBytes);
+    for (std::size_t shift : shifts)
+        for (std::size_t base : {std::size_t{0}, element / 2}) {
+            std::byte* low = both.data() + base;
+            ASSERT_TRUE(matches(low, low + shift, kfmScaleNone)) << "destination +" << shift;
+            ASSERT_TRUE(matches(low + shift, low, kfmScaleNone)) << "destination -" << shift;
+        }
+}
+
+KFM_FOR_EVERY_FIXED_TRANSFORM(Identity);
+
+class GenericEntry : public testing::TestWithParam<Transform> {};
+
+TEST_P(GenericEntry, GivesTheBitsOfTheFixedFunction) {
+    const Transform& generic = GetParam();
+    Random random(testSeed());
+    for (int length = generic.family->first; length <= generic.family->last; ++length) {
+        const Transform* fixed =
+            findTransform(generic.family->name, length, generic.element->suffix);
+        ASSERT_NE(fixed, nullptr) << length;
+        const Bytes source = encode(randomSignal(*fixed, random), *fixed);
+        for (int flag : allFlags) {
+            Bytes output(fixed->destinationBytes());
+            ASSERT_EQ(call(generic, source.data(), output.data(), length, flag), kfmOk);
+            ASSERT_EQ(output, run(*fixed, source, flag)) << "length " << length;
+        }
+    }
+}
+
+KFM_FOR_EVERY_GENERIC_TRANSFORM(GenericEntry);
+
+// FNV-1a, 64 bits.
+std::uint64_t hash(const Bytes& bytes, std::uint64_t state) {
+    for (std::byte value : bytes)
+        state = (state ^ std::to_integer<std::uint64_t>(value)) * 0x100000001b3u;
+    return state;
+}
+
+class Hashes : public testing::TestWithParam<Transform> {
+public:
+    static CommittedTable& table() {
+        static CommittedTable table(
+            "hashes.txt",
+            "# FNV-1a of the outputs of each function for fixed signals and all flags, the same on\n"
+            "# every target. Made by the build target update-hashes.\n");
+        return table;
+    }
+};
+
+TEST_P(Hashes, MatchTheCommittedValue) {
+    const Transform& transform = GetParam();
+    std::uint64_t state = 0xcbf29ce484222325u;
+    Random random(static_cast<std::uint64_t>(transform.length));
+    for (int i = 0; i < 4; ++i) {
+        const Bytes source = encode(randomSignal(transform, random), transform);
+        for (int flag : allFlags) state = hash(run(transform, source, flag), state);
+    }
+    char text[17];
+    std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(state));
+    if (table().updating()) table().record(transform.name(), text);
+    EXPECT_EQ(table().expected(transform.name()), text);
+}
+
+KFM_FOR_EVERY_FIXED_TRANSFORM(Hashes);
+
+TEST(HashTable, HoldsNoOtherFunction) {
+    EXPECT_EQ(Hashes::table().rows().size(), fixedTransforms().size());
+}
+
+TEST(Threads, GiveTheBitsOfOneThread) {
+    std::vector<Bytes> sources, expected;
+    Random random(testSeed());
+    for (const Transform& transform : fixedTransforms()) {
+        sources.push_back(encode(randomSignal(transform, random), transform));
+        expected.push_back(run(transform, sources.back(), kfmScaleBySqrtN));
+    }
+    const auto work = [&](std::size_t start) {
+        const std::size_t count = sources.size();
+        for (std::size_t i = 0; i < 20 * count; ++i) {
+            const std::size_t at = (start + i) % count;
+            ASSERT_EQ(run(fixedTransforms()[at], sources[at], kfmScaleBySqrtN), expected[at])
+                << fixedTransforms()[at];
+        }
+    };
+    std::vector<std::thread> threads;   // two on the same function at a time
+    for (std::size_t i = 0; i < 4; ++i) threads.emplace_back(work, i / 2 * sources.size() / 2);
+    for (std::thread& thread : threads) thread.join();
+}
+
+}   // namespace
+}   // namespace kfm::tests

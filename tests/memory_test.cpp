@@ -1,0 +1,123 @@
+// What a call reads and writes, and what it does with numbers at the edge of the element type.
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "support/buffer.h"
+#include "support/fault.h"
+#include "support/oracle.h"
+
+namespace kfm::tests {
+namespace {
+
+class Memory : public testing::TestWithParam<Transform> {
+protected:
+    void SetUp() override {
+        Random random(testSeed());
+        source_ = encode(randomSignal(GetParam(), random), GetParam());
+    }
+
+    Bytes source_;
+};
+
+struct Placement {
+    Flush source, destination;
+    std::size_t sourceOffset, destinationOffset;
+};
+
+// Both blocks flush with a guard page, then one of them odd so that the other is still flush when
+// the unaligned path runs.
+constexpr Placement placements[] = {
+    {Flush::start, Flush::start, 0, 0}, {Flush::end, Flush::end, 0, 0},
+    {Flush::start, Flush::end, 0, 0},   {Flush::end, Flush::start, 0, 0},
+    {Flush::start, Flush::start, 0, 1}, {Flush::start, Flush::start, 1, 0},
+    {Flush::end, Flush::end, 0, 1},     {Flush::end, Flush::end, 1, 0},
+};
+
+TEST_P(Memory, OnlyTheTwoArraysAreTouched) {
+    const Transform& transform = GetParam();
+    const Bytes expected = run(transform, source_, kfmScaleNone);
+    for (const Placement& placement : placements) {
+        SCOPED_TRACE(&placement - placements);
+        GuardedBuffer from(transform.sourceBytes(), placement.source, placement.sourceOffset);
+        GuardedBuffer to(transform.destinationBytes(), placement.destination,
+                         placement.destinationOffset);
+        std::memcpy(from.data(), source_.data(), source_.size());
+        ASSERT_EQ(call(transform, from.data(), to.data(), kfmScaleNone), kfmOk);
+        EXPECT_EQ(std::memcmp(to.data(), expected.data(), expected.size()), 0);
+        EXPECT_EQ(std::memcmp(from.data(), source_.data(), source_.size()), 0);
+        EXPECT_TRUE(from.canariesIntact());
+        EXPECT_TRUE(to.canariesIntact());
+    }
+}
+
+// Every output depends on every input, so a value that is no number reaches each output element.
+TEST_P(Memory, NonFiniteInputReachesEveryOutput) {
+    const Transform& transform = GetParam();
+    Random random(testSeed());
+    const Signal plain = randomSignal(transform, random);
+    for (double value : {std::numeric_limits<double>::quiet_NaN(), HUGE_VAL, -HUGE_VAL})
+        for (std::size_t at = 0; at < plain.size(); ++at) {
+            Signal signal = plain;
+            signal[at] = value;
+            const Signal output = run(transform, signal, kfmScaleBySqrtN);
+            for (std::size_t k = 0; k < output.size(); k += 2)
+                ASSERT_FALSE(std::isfinite(output[k]) && std::isfinite(output[k + 1]))
+                    << value << " at " << at << " is lost in output element " << k / 2;
+        }
+}
+
+TEST_P(Memory, DenormalsAreNotFlushed) {
+    const Transform& transform = GetParam();
+    const int smallest = transform.element->doublePrecision ? -1074 : -149;
+    Random random(testSeed());
+    Signal signal = randomSignal(transform, random);
+    for (double& value : signal) value = std::ldexp(std::floor(std::ldexp(value, 16)), smallest);
+    const auto expected = definition(transform, signal);
+    const Signal output = run(transform, signal, kfmScaleNone);
+    for (std::size_t i = 0; i < output.size(); ++i) {
+        const Quad units = (output[i] - expected[i]) / std::ldexp(1.0, smallest);
+        ASSERT_LE(std::abs(static_cast<double>(units)), 2 * transform.length) << "output " << i;
+    }
+}
+
+KFM_FOR_EVERY_FIXED_TRANSFORM(Memory);
+
+#ifdef __i386__
+
+// Calls with the stack pointer `shift` bytes below where the current convention of Linux wants it.
+__attribute__((naked, noinline)) KfmStatus callWithShiftedStack(void (*)(), const void*, void*, int,
+                                                                int) {
+    asm("push %ebp\n\t"
+        "mov %esp, %ebp\n\t"
+        "and $-16, %esp\n\t"
+        "sub $4, %esp\n\t"          // with three arguments: aligned at the call
+        "sub 24(%ebp), %esp\n\t"
+        "push 20(%ebp)\n\t"
+        "push 16(%ebp)\n\t"
+        "push 12(%ebp)\n\t"
+        "call *8(%ebp)\n\t"
+        "leave\n\t"
+        "ret");
+}
+
+TEST_P(Memory, CallersMayAlignTheStackToFourBytes) {
+    const Transform& transform = GetParam();
+    const Bytes expected = run(transform, source_, kfmScaleBySqrtN);
+    for (std::size_t offset : {0, 4})
+        for (int shift : {0, 4, 8, 12}) {
+            GuardedBuffer from(source_.size(), Flush::start, offset);
+            GuardedBuffer to(expected.size());
+            std::memcpy(from.data(), source_.data(), source_.size());
+            ASSERT_TRUE(survives([&] {
+                callWithShiftedStack(transform.function->address, from.data(), to.data(),
+                                     kfmScaleBySqrtN, shift);
+            })) << "source offset " << offset << ", stack shifted by " << shift;
+            EXPECT_EQ(std::memcmp(to.data(), expected.data(), expected.size()), 0);
+        }
+}
+
+#endif
+
+}   // namespace
+}   // namespace kfm::tests

@@ -1,0 +1,29 @@
+// The definition of each transform summed term by term in binary128, and the exact scale factors.
+// Shares nothing with the library: no constant, no algorithm.
+#pragma once
+
+#include <vector>
+
+#include "support/signal.h"
+
+namespace kfm::tests {
+
+__extension__ typedef __float128 Quad;
+
+// exp(2 pi i numerator / denominator); the angle is reduced to an octant on integers.
+struct UnitRoot {
+    Quad re, im;
+};
+UnitRoot unitRoot(long numerator, long denominator);
+
+// The transform of `source` without scaling.
+std::vector<Quad> definition(const Transform& transform, const Signal& source);
+
+// The factor that `flag` selects, not yet rounded to an element type.
+Quad scaleFactor(const Transform& transform, int flag);
+
+// max |actual - expected| / max |expected| in units of 2^-24 or 2^-53, by the element type.
+double errorInUnits(const Transform& transform, const Signal& actual,
+                    const std::vector<Quad>& expected);
+
+}   // namespace kfm::tests

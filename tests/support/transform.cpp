@@ -1,0 +1,83 @@
+// Pairs each row of the table of exported functions with its registry entry, and calls it.
+#include "support/transform.h"
+
+#include <algorithm>
+#include <cstring>
+#include <stdexcept>
+
+#include "support/fault.h"
+
+namespace kfm::tests {
+namespace {
+
+std::vector<Transform> collect(bool generic) {
+    std::vector<Transform> result;
+    for (const registry::Function& function : registry::functions()) {
+        const registry::Family* family =
+            function.family ? registry::findFamily(function.family) : nullptr;
+        if (!family || (function.length == 0) != generic) continue;
+        const registry::Element* element = registry::findElement(function.element);
+        result.push_back({&function, family, element, generic ? family->last : function.length});
+    }
+    return result;
+}
+
+}   // namespace
+
+std::string Transform::name() const { return function->name + std::strlen("kfmg"); }
+
+std::size_t Transform::sourceReals() const {
+    if (!family->name.ends_with("_CToC"))
+        throw std::logic_error("sizes of " + std::string(family->name) + " are not known");
+    return 2 * static_cast<std::size_t>(length);
+}
+
+std::size_t Transform::destinationReals() const { return sourceReals(); }
+
+std::ostream& operator<<(std::ostream& out, const Transform& transform) {
+    return out << transform.name();
+}
+
+const std::vector<Transform>& fixedTransforms() {
+    static const std::vector<Transform> all = collect(false);
+    return all;
+}
+
+const std::vector<Transform>& genericTransforms() {
+    static const std::vector<Transform> all = collect(true);
+    return all;
+}
+
+const Transform* findTransform(std::string_view family, int length, std::string_view element) {
+    const auto& all = fixedTransforms();
+    const auto found = std::ranges::find_if(all, [&](const Transform& transform) {
+        return transform.family->name == family && transform.length == length &&
+               transform.element->suffix == element;
+    });
+    return found == all.end() ? nullptr : &*found;
+}
+
+// Pointers to any element type are passed alike, so one signature serves all element types.
+KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag) {
+    using Signature = KfmStatus (*)(const void*, void*, int);
+    const auto function = reinterpret_cast<Signature>(fixed.function->address);
+    KfmStatus status = crashed;
+    EXPECT_TRUE(survives([&] { status = function(source, destination, flag); }))
+        << fixed << " crashed: flag " << flag << ", source " << source << ", destination "
+        << destination;
+    return status;
+}
+
+KfmStatus call(const Transform& generic, const void* source, void* destination, int length,
+               int flag) {
+    using Signature = KfmStatus (*)(const void*, void*, int, int);
+    const auto function = reinterpret_cast<Signature>(generic.function->address);
+    KfmStatus status = crashed;
+    EXPECT_TRUE(survives([&] { status = function(source, destination, length, flag); }))
+        << generic << " crashed: length " << length << ", flag " << flag;
+    return status;
+}
+
+std::string caseName(const testing::TestParamInfo<Transform>& info) { return info.param.name(); }
+
+}   // namespace kfm::tests

@@ -1,0 +1,61 @@
+// The functions under test. Every test walks fixedTransforms() or genericTransforms(), which come
+// from the registry, and calls through here, so that a family or a length that is registered is
+// tested and a call that crashes is one failed case.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kfmgen.h"
+#include "registry/functions.h"
+#include "registry/registry.h"
+
+namespace kfm::tests {
+
+struct Transform {
+    const registry::Function* function;
+    const registry::Family* family;
+    const registry::Element* element;
+    int length;   // of the fixed function; for a generic entry the longest one
+
+    std::string name() const;   // "DFTFwd_CToC_16_32fc"
+    std::size_t realBytes() const { return element->doublePrecision ? 8 : 4; }
+    std::size_t sourceReals() const;
+    std::size_t destinationReals() const;
+    std::size_t sourceBytes() const { return sourceReals() * realBytes(); }
+    std::size_t destinationBytes() const { return destinationReals() * realBytes(); }
+};
+
+std::ostream& operator<<(std::ostream& out, const Transform& transform);
+
+const std::vector<Transform>& fixedTransforms();
+const std::vector<Transform>& genericTransforms();
+
+// The fixed function of another family or length, or null when the registry has none.
+const Transform* findTransform(std::string_view family, int length, std::string_view element);
+
+inline constexpr std::array<int, 4> allFlags = {kfmScaleFwdByN, kfmScaleInvByN, kfmScaleBySqrtN,
+                                                kfmScaleNone};
+
+// A call that faults counts as a failure of the running test and returns `crashed`.
+inline constexpr KfmStatus crashed = 0x7fff;
+KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag);
+KfmStatus call(const Transform& generic, const void* source, void* destination, int length,
+               int flag);
+
+std::string caseName(const testing::TestParamInfo<Transform>& info);
+
+}   // namespace kfm::tests
+
+#define KFM_FOR_EVERY_FIXED_TRANSFORM(Suite)                                                   \
+    INSTANTIATE_TEST_SUITE_P(, Suite, testing::ValuesIn(::kfm::tests::fixedTransforms()),      \
+                             ::kfm::tests::caseName)
+#define KFM_FOR_EVERY_GENERIC_TRANSFORM(Suite)                                                 \
+    INSTANTIATE_TEST_SUITE_P(, Suite, testing::ValuesIn(::kfm::tests::genericTransforms()),    \
+                             ::kfm::tests::caseName)
