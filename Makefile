@@ -3,6 +3,7 @@
 JOBS ?= $(shell nproc)
 FILE ?= /usr/share/sounds/alsa/Front_Center.wav
 PREFIX ?= /usr/local
+MAKEFLAGS += --no-print-directory
 export DESTDIR
 
 .PHONY: all test demo bench install header clean

@@ -15,17 +15,16 @@ runs_32_bit_programs() {
     echo 'int main() {}' | ${CXX:-g++} -m32 -x c++ - -o $probe 2>/dev/null && ./$probe
 }
 
-choose_targets() {
-    printf 'x86-64'
-    if runs_32_bit_programs; then
-        printf ' i386'
-    else
-        echo "i386 is skipped: no 32-bit programs on this machine (Debian: g++-multilib)" >&2
-    fi
-}
-
 mkdir -p build
-targets=${TARGETS:-$(choose_targets)}
+skipped=
+if [ -n "${TARGETS:-}" ]; then
+    targets=$TARGETS
+elif runs_32_bit_programs; then
+    targets="x86-64 i386"
+else
+    targets="x86-64"
+    skipped="i386 was skipped: no 32-bit programs on this machine (Debian: g++-multilib)"
+fi
 : > build/CTestTestfile.cmake
 for target in $targets; do
     cmake --preset "$target" "$@" > "build/configure-$target.log" ||
@@ -34,3 +33,4 @@ for target in $targets; do
     echo "subdirs($target)" >> build/CTestTestfile.cmake
 done
 echo "$targets" > build/targets
+[ -z "$skipped" ] || echo "$skipped"
