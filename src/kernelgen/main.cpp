@@ -148,12 +148,6 @@ void printDeclarations(const Arguments& arguments) {
     if (arguments.options.contains("--into")) {
         const fs::path header = arguments.required("--into");
         writeFile(header, withDeclarations(readFile(header)));
-    } else if (arguments.options.contains("--check")) {
-        const fs::path header = arguments.required("--check");
-        const std::string text = readFile(header);
-        if (withDeclarations(text) != text)
-            throw std::runtime_error(header.string() + " is not what the registry says; " +
-                                     "`make header` renews it");
     } else {
         std::cout << declarations();
     }
@@ -201,8 +195,8 @@ constexpr Command commands[] = {
      "show a kernel between two stages", printStage},
     {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
     {"candidates", "", "the schedules from which the tuner chooses", printCandidates},
-    {"declarations", "[--into <header> | --check <header>]",
-     "print, renew or compare the C declarations", printDeclarations},
+    {"declarations", "[--into <header>]", "print the C declarations, or renew them in a header",
+     printDeclarations},
 };
 
 int usage() {
