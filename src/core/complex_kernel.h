@@ -20,6 +20,7 @@ template <class Kernel, class Memory, class Element>
     if (src == nullptr || dst == nullptr) return kfmErrNullPtr;
     const auto* scale = chooseScale<Kernel::direction>(Kernel::scales, flag);
     if (scale == nullptr) return kfmErrFlag;
+    launder(scale);
     Kernel::template transform<Memory>(src, dst, simd::broadcast(scale));
     return kfmOk;
 }

@@ -60,7 +60,7 @@ std::string readFile(const fs::path& path) {
 // A file that already says the same keeps its time stamp: what depends on it is up to date.
 void writeFile(const fs::path& path, const std::string& text) {
     if (fs::exists(path) && readFile(path) == text) return;
-    fs::create_directories(path.parent_path());
+    if (path.has_parent_path()) fs::create_directories(path.parent_path());
     std::ofstream file(path, std::ios::binary);
     if (!(file << text) || !file.flush())
         throw std::runtime_error("cannot write " + path.string());
