@@ -3,7 +3,6 @@
 JOBS ?= $(shell nproc)
 FILE ?= /usr/share/sounds/alsa/Front_Center.wav
 PREFIX ?= /usr/local
-MAKEFLAGS += --no-print-directory
 export DESTDIR
 
 .PHONY: all test demo bench install header clean

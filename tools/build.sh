@@ -8,6 +8,7 @@ set -eu
 cd "$(dirname "$0")/.."
 jobs=$1
 shift
+unset MAKEFLAGS MFLAGS MAKELEVEL   # the builds below are no part of a make that called
 
 # The generator is a program of the target itself, so compiling is not enough.
 runs_32_bit_programs() {
