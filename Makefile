@@ -23,11 +23,11 @@ demo:
 bench:
 	@tools/install-dependencies.sh bench
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
-	@for target in $$(cat build/targets); do cmake --build build/$$target --target bench; done
+	@set -e; for target in $$(cat build/targets); do cmake --build build/$$target --target bench; done
 
 install:
 	@tools/build.sh "$(JOBS)"
-	@for target in $$(cat build/targets); do cmake --install build/$$target --prefix "$(PREFIX)"; done
+	@set -e; for target in $$(cat build/targets); do cmake --install build/$$target --prefix "$(PREFIX)"; done
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"
