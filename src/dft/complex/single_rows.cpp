@@ -1,8 +1,10 @@
 // Two-step transforms with rows in the lanes: rows four at a time through the first step, a
 // transpose in registers, then four columns at a time through the second.
 #include <algorithm>
+#include <numeric>
 
-#include "dft/complex/single_graphs.h"
+#include "dft/complex/single_direct.h"
+#include "dft/complex/single_rader.h"
 
 namespace kfm::dft::complex {
 
@@ -10,45 +12,46 @@ using namespace kernelgen;
 
 namespace {
 
-// The first step on the rows first .. first+count-1, one in each lane: value[k1].
+bool isOddDirect(const Plan& plan) { return plan.kind == Plan::Kind::direct && plan.n % 2 == 1; }
+
+std::vector<int> naturalOrder(int count) {
+    std::vector<int> order(count);
+    std::iota(order.begin(), order.end(), 0);
+    return order;
+}
+
+// Up to four members of an order, from `first` on; -1 behind its end.
+Elements group(const std::vector<int>& order, int first) {
+    Elements members = {-1, -1, -1, -1};
+    for (int lane = 0; lane < 4 && first + lane < int(order.size()); ++lane)
+        members[lane] = order[first + lane];
+    return members;
+}
+
+int countOf(const Elements& members) {
+    return static_cast<int>(std::ranges::count_if(members, [](int m) { return m >= 0; }));
+}
+
+// The first step on up to four rows, one in each lane: value[k1].
 std::vector<Complex> rowGroup(Graph& g, const TwoStep& step, Sign sign, const ElementMap& input,
-                              int first, int count) {
+                              const Elements& rows) {
     std::vector<Complex> x;
     for (int i = 0; i < step.columns; ++i) {
         Elements elements = {-1, -1, -1, -1};
-        for (int lane = 0; lane < count; ++lane)
-            elements[lane] = input(step.input(first + lane, i));
+        for (int lane = 0; lane < countOf(rows); ++lane)
+            elements[lane] = input(step.input(rows[lane], i));
         x.push_back(load4(g, elements));
     }
     return complexDft(g, step.first, x, sign);
 }
 
-// Twiddle factors of column k1 with the rows from `first` in the lanes.
-Complex twiddleRows(Graph& g, const TwoStep& step, Sign sign, Complex z, int first, int k1) {
-    std::array<long, 4> exponents = {};
+// Twiddle factors of column k1 with rows in the lanes.
+Complex twiddleRows(Graph& g, const TwoStep& step, Sign sign, Complex z, const Elements& rows,
+                    int k1) {
+    std::array<long, 4> exponents;
     for (int lane = 0; lane < 4; ++lane)
-        exponents[lane] = step.exponent(std::min(first + lane, step.rows - 1), k1);
+        exponents[lane] = step.exponent(rows[std::min(lane, countOf(rows) - 1)], k1);
     return twiddle(g, z, exponents, step.order(), sign);
-}
-
-// The second step on the columns first .. first+count-1, one in each lane.
-std::vector<LaneVector> columnGroup(Graph& g, const TwoStep& step, Sign sign,
-                                    std::vector<Complex> column, int first, int count) {
-    for (int r = 0; r < step.rows; ++r) {
-        std::array<long, 4> exponents = {};
-        for (int lane = 0; lane < 4; ++lane)
-            exponents[lane] = step.exponent(r, first + std::min(lane, count - 1));
-        column[r] = twiddle(g, column[r], exponents, step.order(), sign);
-    }
-    const std::vector<Complex> y = complexDft(g, step.second, column, sign);
-    std::vector<LaneVector> result;
-    for (int k2 = 0; k2 < step.rows; ++k2) {
-        LaneVector vector{y[k2], {-1, -1, -1, -1}};
-        for (int lane = 0; lane < count; ++lane)
-            vector.elements[lane] = step.output(first + lane, k2);
-        result.push_back(vector);
-    }
-    return result;
 }
 
 // A 4-point step across the lanes of one column: lanes y0, y2, y1, y3.
@@ -80,39 +83,152 @@ void storeColumnPair(Graph& g, const TwoStep& step, Sign sign, Complex a, Comple
               {difference.re, sum.im}, 1);
 }
 
+// The whole transform. Where rows or columns are left over and the module along them is direct,
+// their order is mirrored, so that the left-over column (or row) lies in the lanes as the module
+// across the lanes wants it.
+class RowTransform {
+public:
+    RowTransform(Graph& g, const TwoStep& step, Sign sign, const ElementMap& input)
+        : g_(g), step_(step), sign_(sign), input_(input), rowOrder_(naturalOrder(step.rows)),
+          columnOrder_(naturalOrder(step.columns)) {
+        const int left = step.columns % 4;
+        if (isOddDirect(step.second) && step.rows > 4 && (left == 1 || left == 2))
+            rowOrder_ = mirroredOrder(step.rows);
+        if (left == 1) std::ranges::rotate(columnOrder_, columnOrder_.begin() + 1);
+        if (loneRow()) columnOrder_ = mirroredOrder(step.columns);
+    }
+
+    std::vector<LaneVector> run() {
+        for (int first = 0; first < step_.rows; first += 4) {
+            rows_.push_back(group(rowOrder_, first));
+            if (countOf(rows_.back()) == 1 && loneRow()) break;
+            groups_.push_back(rowGroup(g_, step_, sign_, input_, rows_.back()));
+        }
+        if (loneRow()) transformLoneRow();
+        for (int first = 0; first < step_.columns; first += 4)
+            transformColumns(group(columnOrder_, first));
+        return std::move(result_);
+    }
+
+private:
+    // A last row alone whose spectrum fills one group of columns and one lone column.
+    bool loneRow() const {
+        return step_.rows % 4 == 1 && step_.columns == 5 && isOddDirect(step_.first);
+    }
+
+    void transformLoneRow() {
+        const int row = rowOrder_.back();
+        std::vector<Complex> x;
+        for (int first = 0; first < step_.columns; first += 4) {
+            Elements elements = group(columnOrder_, first);
+            for (int& element : elements)
+                if (element >= 0) element = input_(step_.input(row, element));
+            x.push_back(load4(g_, elements));
+        }
+        loneRow_ = directColumn(g_, step_.columns, x, sign_);
+    }
+
+    void transformColumns(const Elements& columns) {
+        const int count = countOf(columns);
+        const bool mirrored = rowOrder_.front() != 0;
+        if (step_.rows == 4 && count == 1)
+            result_.push_back(singleColumn(g_, step_, sign_, rowsOf(0, columns[0]), columns[0]));
+        else if (mirrored && count == 1)
+            loneColumn(columns[0]);
+        else if (mirrored && count == 2)
+            columnPair(columns[0], columns[1]);
+        else
+            transposedColumns(columns, count);
+    }
+
+    // Column k1 of a group of rows, twiddled.
+    Complex rowsOf(int group, int k1) {
+        if (group == int(groups_.size())) return loneRow_[0].value;
+        return twiddleRows(g_, step_, sign_, groups_[group][k1], rows_[group], k1);
+    }
+
+    std::vector<Complex> mirroredColumn(int k1) {
+        std::vector<Complex> z;
+        for (int i = 0; i < int(rows_.size()); ++i) z.push_back(rowsOf(i, k1));
+        return z;
+    }
+
+    void loneColumn(int k1) {
+        for (LaneVector vector : directColumn(g_, step_.rows, mirroredColumn(k1), sign_)) {
+            for (int& element : vector.elements)
+                if (element >= 0) element = step_.output(k1, element);
+            result_.push_back(vector);
+        }
+    }
+
+    void columnPair(int ka, int kb) {
+        const int p = step_.rows;
+        Complex first;
+        const std::vector<Complex> t =
+            mirroredSums(g_, p, mirroredColumn(ka), mirroredColumn(kb), first);
+        for (const SignedOutputs& y : combineParts(g_, directParts(g_, p, t, first), sign_)) {
+            const int k = y.first + 1, l = y.second + 1;
+            const auto elements = [&](int one, int other) {
+                Elements e = {step_.output(ka, one), step_.output(kb, one), -1, -1};
+                if (y.second >= 0) e[2] = step_.output(ka, other), e[3] = step_.output(kb, other);
+                return e;
+            };
+            result_.push_back({y.plus, elements(k, l)});
+            result_.push_back({y.minus, elements(p - k, p - l)});
+        }
+        result_.push_back({first, {step_.output(ka, 0), step_.output(kb, 0), -1, -1}});
+    }
+
+    // The second step on up to four columns, one in each lane.
+    void transposedColumns(const Elements& columns, int count) {
+        std::vector<Complex> x(step_.rows);
+        for (int i = 0; i < int(groups_.size()); ++i) {
+            std::vector<Complex> block;
+            for (int lane = 0; lane < count; ++lane)
+                block.push_back(groups_[i][columns[lane]]);
+            const std::array<Complex, 4> rows = transpose4(g_, block);
+            for (int lane = 0; lane < countOf(rows_[i]); ++lane) x[rows_[i][lane]] = rows[lane];
+        }
+        if (!loneRow_.empty()) x[rowOrder_.back()] = loneRow_[1].value;
+        for (int r = 0; r < step_.rows; ++r) {
+            std::array<long, 4> exponents;
+            for (int lane = 0; lane < 4; ++lane)
+                exponents[lane] = step_.exponent(r, columns[std::min(lane, count - 1)]);
+            x[r] = twiddle(g_, x[r], exponents, step_.order(), sign_);
+        }
+        const std::vector<Complex> y = complexDft(g_, step_.second, x, sign_);
+        for (int k2 = 0; k2 < step_.rows; ++k2) {
+            LaneVector vector{y[k2], columns};
+            for (int& element : vector.elements)
+                if (element >= 0) element = step_.output(element, k2);
+            result_.push_back(vector);
+        }
+    }
+
+    Graph& g_;
+    const TwoStep& step_;
+    Sign sign_;
+    const ElementMap& input_;
+    std::vector<int> rowOrder_, columnOrder_;
+    std::vector<Elements> rows_;
+    std::vector<std::vector<Complex>> groups_;   // of rows, by column
+    std::vector<LaneVector> loneRow_;            // its output 0 and the other four
+    std::vector<LaneVector> result_;
+};
+
 }   // namespace
 
 std::vector<LaneVector> rowTransform(Graph& g, const TwoStep& step, Sign sign,
                                      const ElementMap& input) {
-    std::vector<std::vector<Complex>> groups;
-    for (int first = 0; first < step.rows; first += 4)
-        groups.push_back(
-            rowGroup(g, step, sign, input, first, std::min(4, step.rows - first)));
-
-    std::vector<LaneVector> result;
-    for (int first = 0; first < step.columns; first += 4) {
-        const int count = std::min(4, step.columns - first);
-        if (step.rows == 4 && count == 1) {
-            const Complex z = twiddleRows(g, step, sign, groups[0][first], 0, first);
-            result.push_back(singleColumn(g, step, sign, z, first));
-            continue;
-        }
-        std::vector<Complex> column;
-        for (const std::vector<Complex>& group : groups) {
-            const std::vector<Complex> block(group.begin() + first, group.begin() + first + count);
-            for (const Complex& row : transpose4(g, block)) column.push_back(row);
-        }
-        column.resize(step.rows);
-        for (LaneVector& vector : columnGroup(g, step, sign, column, first, count))
-            result.push_back(vector);
-    }
-    return result;
+    return RowTransform(g, step, sign, input).run();
 }
 
 void rowPairGraph(Graph& g, const Plan& plan, Sign sign) {
     const TwoStep step(plan);
-    const std::vector<Complex> rows = rowGroup(g, step, sign, [](int i) { return i; }, 0, 4);
-    const auto column = [&](int k1) { return twiddleRows(g, step, sign, rows[k1], 0, k1); };
+    const std::vector<Complex> rows = rowGroup(g, step, sign, [](int i) { return i; }, {0, 1, 2, 3});
+    const auto column = [&](int k1) {
+        return twiddleRows(g, step, sign, rows[k1], {0, 1, 2, 3}, k1);
+    };
     for (int k1 = 0; k1 + 1 < step.columns; k1 += 2)
         storeColumnPair(g, step, sign, column(k1), column(k1 + 1), k1, k1 + 1);
     if (step.columns % 2 == 1)

@@ -1,6 +1,7 @@
 // Lengths 2p by prime factors: both columns of length p in one vector, as sums and differences
 // (a, a', b, b') of mirrored inputs. The column transform is the direct module or Rader's step;
 // the 2-point step across the columns comes last, between even and odd lanes.
+#include "dft/complex/single_direct.h"
 #include "dft/complex/single_rader.h"
 
 namespace kfm::dft::complex {
@@ -36,17 +37,8 @@ Columns directColumns(Graph& g, int p) {
     const std::vector<Complex> t = sumsAndDifferences(g, pairs);
     Columns result;
     result.first = firstInputs(g, p);
-    for (int k = 1; k <= half; ++k) {
-        Complex part = result.first;
-        for (int i = 1; i <= half; ++i) {
-            const Constant c = Constant::cosTurn(i * k, p), s = Constant::sinTurn(i * k, p);
-            const LaneConstant factors = {c, c, s, s};
-            part = add(g, part, {g.mul(factors, t[i - 1].re), g.mul(factors, t[i - 1].im)});
-        }
-        result.parts.push_back(part);
-        result.outputs.push_back(k);
-    }
-    for (const Complex& sums : t) result.first = add(g, result.first, sums);
+    result.parts = directParts(g, p, t, result.first);
+    for (int k = 1; k <= half; ++k) result.outputs.push_back(k);
     return result;
 }
 

@@ -1,0 +1,147 @@
+#include "dft/complex/single_direct.h"
+
+namespace kfm::dft::complex {
+
+using kernelgen::Constant;
+
+namespace {
+
+LaneConstant factors(const std::array<long, 4>& exponents, int p) {
+    return {Constant::cosTurn(exponents[0], p), Constant::cosTurn(exponents[1], p),
+            Constant::sinTurn(exponents[2], p), Constant::sinTurn(exponents[3], p)};
+}
+
+Complex scale(Graph& g, const LaneConstant& c, Complex z) {
+    return {g.mul(c, z.re), g.mul(c, z.im)};
+}
+
+// The lower half of z, zero above.
+Complex lowerHalf(Graph& g, Complex z) { return scale(g, {1, 1, 0, 0}, z); }
+
+// (u, u', v, v') -> (u + v, u' + v', u - v, u' - v').
+Complex halfButterfly(Graph& g, Complex z) {
+    return add(g, flip(g, z, {0, 0, 1, 1}), select(g, z, {2, 3, 0, 1}));
+}
+
+// One column by sums and differences of the positions 2t+1, 2t+2 in vector t.
+class ColumnModule {
+public:
+    ColumnModule(Graph& g, int p, std::span<const Complex> groups) : g_(g), p_(p) {
+        const int half = (p - 1) / 2;
+        for (int t = 0; t < half / 2; ++t) pairs_.push_back(halfButterfly(g, groups[t]));
+        const Complex rest = groups[half / 2];
+        if (half % 2 == 1) {
+            odd_.push_back(add(g, select(g, rest, {0, 0, 0, 0}),
+                               flip(g, select(g, rest, {1, 1, 1, 1}), {0, 0, 1, 1})));
+            x0_ = lowerHalf(g, select(g, rest, {2, 2, 2, 2}));
+        } else {
+            x0_ = lowerHalf(g, select(g, rest, {0, 0, 0, 0}));
+        }
+    }
+
+    Complex outputZero() const {
+        Complex sum = x0_;
+        for (const Complex& t : pairs_) sum = add(g_, sum, add(g_, t, select(g_, t, neighbours)));
+        for (const Complex& t : odd_) sum = add(g_, sum, t);
+        return sum;
+    }
+
+    // (C k, C l, S k, S l).
+    Complex parts(long k, long l) const {
+        Complex sum = x0_;
+        long i = 1;
+        for (const Complex& t : pairs_) {
+            const long j = i + 1;
+            sum = add(g_, sum, scale(g_, factors({i * k, j * l, i * k, j * l}, p_), t));
+            sum = add(g_, sum, scale(g_, factors({j * k, i * l, j * k, i * l}, p_),
+                                     select(g_, t, neighbours)));
+            i += 2;
+        }
+        for (const Complex& t : odd_)
+            sum = add(g_, sum, scale(g_, factors({i * k, i * l, i * k, i * l}, p_), t));
+        return sum;
+    }
+
+private:
+    Graph& g_;
+    int p_;
+    std::vector<Complex> pairs_;
+    std::vector<Complex> odd_;   // at most one
+    Complex x0_;
+};
+
+// C -+ iS with C taken from the lanes `c`, S from the lanes `s` and its sign changed in `mirrored`.
+Complex signedSum(Graph& g, Complex parts, const LanePattern& c, const LanePattern& s,
+                  const LanePattern& mirrored, Sign sign) {
+    LanePattern others = mirrored;
+    for (int& lane : others) lane = 1 - lane;
+    const Complex cosines = select(g, parts, c), sines = select(g, parts, s);
+    const bool minus = sign == Sign::minus;
+    return {g.add(cosines.re, g.flip(sines.im, minus ? mirrored : others)),
+            g.add(cosines.im, g.flip(sines.re, minus ? others : mirrored))};
+}
+
+}   // namespace
+
+std::vector<int> mirroredOrder(int p) {
+    std::vector<int> order;
+    int i = 1;
+    for (; 2 * (i + 1) < p; i += 2) order.insert(order.end(), {i, i + 1, p - i, p - i - 1});
+    if (2 * i < p) order.insert(order.end(), {i, p - i});
+    order.push_back(0);
+    return order;
+}
+
+std::vector<LaneVector> directColumn(Graph& g, int p, std::span<const Complex> groups,
+                                     Sign sign) {
+    const ColumnModule module(g, p, groups);
+    std::vector<LaneVector> result = {{module.outputZero(), {0, -1, -1, -1}}};
+    int k = 1;
+    for (; 2 * (k + 1) < p; k += 2)
+        result.push_back({signedSum(g, module.parts(k, k + 1), {0, 1, 0, 1}, {2, 3, 2, 3},
+                                    {0, 0, 1, 1}, sign),
+                          {k, k + 1, p - k, p - k - 1}});
+    if (2 * k < p)
+        result.push_back({signedSum(g, module.parts(k, k), {0, 0, 0, 0}, {2, 2, 2, 2},
+                                    {0, 1, 0, 1}, sign),
+                          {k, p - k, -1, -1}});
+    return result;
+}
+
+std::vector<Complex> directParts(Graph& g, int p, std::span<const Complex> t, Complex& first) {
+    std::vector<Complex> parts;
+    const long half = (p - 1) / 2;
+    for (long k = 1; k <= half; ++k) {
+        Complex part = first;
+        for (long i = 1; i <= half; ++i)
+            part = add(g, part, scale(g, factors({i * k, i * k, i * k, i * k}, p), t[i - 1]));
+        parts.push_back(part);
+    }
+    for (const Complex& sums : t) first = add(g, first, sums);
+    return parts;
+}
+
+std::vector<Complex> mirroredSums(Graph& g, int p, std::span<const Complex> a,
+                                  std::span<const Complex> b, Complex& first) {
+    const LanePattern low = {0, 4, 1, 5}, high = {2, 6, 3, 7};
+    const int half = (p - 1) / 2;
+    std::vector<Complex> t;
+    for (int i = 0; i < half / 2; ++i) {
+        const Complex z = select(g, a[i], b[i], low), mirror = select(g, a[i], b[i], high);
+        const Complex sum = add(g, z, mirror), difference = sub(g, z, mirror);
+        t.push_back(select(g, sum, difference, lowHalves));
+        t.push_back(select(g, sum, difference, highHalves));
+    }
+    const Complex restA = a[half / 2], restB = b[half / 2];
+    if (half % 2 == 1) {
+        const Complex z = select(g, restA, restB, low);
+        t.push_back(add(g, select(g, z, {0, 1, 0, 1}),
+                        flip(g, select(g, z, {2, 3, 2, 3}), {0, 0, 1, 1})));
+        first = lowerHalf(g, select(g, restA, restB, high));
+    } else {
+        first = lowerHalf(g, select(g, restA, restB, low));
+    }
+    return t;
+}
+
+}   // namespace kfm::dft::complex

@@ -1,0 +1,31 @@
+// Direct modules of odd length across the lanes, for what is left over when rows or columns do not
+// come in fours: one column in four lanes costs a third of one column in one lane.
+//
+// Everything rests on sums and differences of mirrored inputs, T = (a, a', b, b') of two positions
+// i, j of one column or of one position of two columns. Cosines meet a, sines meet b.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "dft/complex/lanes.h"
+
+namespace kfm::dft::complex {
+
+// Positions of a column of odd length p in groups of four: 1 2 -1 -2 | 3 4 -3 -4 | ... with 0 in a
+// group of its own or, where one pair is left, i -i 0.
+std::vector<int> mirroredOrder(int p);
+
+// The transform of one column whose positions stand in the lanes of `groups` in mirrored order.
+// The elements are output numbers: first output 0, then k, l, -k, -l.
+std::vector<LaneVector> directColumn(Graph& g, int p, std::span<const Complex> groups, Sign sign);
+
+// (C, C', S, S') of the outputs k = 1..(p-1)/2 of two columns: x0 in the lower half of `first`,
+// t[i-1] the sums and differences of position i. Adds the sums to `first`: output 0.
+std::vector<Complex> directParts(Graph& g, int p, std::span<const Complex> t, Complex& first);
+
+// The sums and differences of two columns in mirrored order, and their x0.
+std::vector<Complex> mirroredSums(Graph& g, int p, std::span<const Complex> a,
+                                  std::span<const Complex> b, Complex& first);
+
+}   // namespace kfm::dft::complex
