@@ -47,7 +47,7 @@ SinglePrecisionRow singlePrecisionRow(int n) {
         {28, {pfa(7, 4), rows}},
         {29, {twentyNine, raderPair}},
         {30, {pfa(pfa(2, 5), 3), rows}},
-        {31, {thirtyOne, raderHalf}},
+        {31, {rader(pfa(3, pfa(2, 5))), raderRows}},
         {32, {ct(8, 4), rows}},
         {33, {pfa(3, 11), rows}},
         {34, {pfa(2, seventeen), raderRows}},

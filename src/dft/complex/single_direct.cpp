@@ -15,9 +15,6 @@ Complex scale(Graph& g, const LaneConstant& c, Complex z) {
     return {g.mul(c, z.re), g.mul(c, z.im)};
 }
 
-// The lower half of z, zero above.
-Complex lowerHalf(Graph& g, Complex z) { return scale(g, {1, 1, 0, 0}, z); }
-
 // (u, u', v, v') -> (u + v, u' + v', u - v, u' - v').
 Complex halfButterfly(Graph& g, Complex z) {
     return add(g, flip(g, z, {0, 0, 1, 1}), select(g, z, {2, 3, 0, 1}));
@@ -83,6 +80,8 @@ Complex signedSum(Graph& g, Complex parts, const LanePattern& c, const LanePatte
 
 }   // namespace
 
+Complex lowerHalf(Graph& g, Complex z) { return scale(g, {1, 1, 0, 0}, z); }
+
 std::vector<int> mirroredOrder(int p) {
     std::vector<int> order;
     int i = 1;
@@ -142,6 +141,86 @@ std::vector<Complex> mirroredSums(Graph& g, int p, std::span<const Complex> a,
         first = lowerHalf(g, select(g, restA, restB, low));
     }
     return t;
+}
+
+std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts, Sign sign) {
+    std::vector<SignedOutputs> result;
+    for (int i = 0; i < static_cast<int>(parts.size()); i += 2) {
+        const bool two = i + 1 < static_cast<int>(parts.size());
+        const Complex other = two ? parts[i + 1] : parts[i];
+        const Complex c = two ? select(g, parts[i], other, lowHalves) : parts[i];
+        const Complex s = select(g, parts[i], other, highHalves);
+        result.push_back({addTimesI(g, c, s, sign), addTimesI(g, c, s, opposite(sign)), i,
+                          two ? i + 1 : -1});
+    }
+    return result;
+}
+
+namespace {
+
+// Even and odd lanes hold the outputs k of the two columns: their sum and difference.
+void twoPoint(Graph& g, int p, Complex even, Complex odd, const Elements& outputs,
+              std::vector<LaneVector>& result) {
+    LaneVector sum{add(g, even, odd), outputs}, difference{sub(g, even, odd), outputs};
+    for (int lane = 0; lane < 4 && outputs[lane] >= 0; ++lane) {
+        sum.elements[lane] = kernelgen::chineseRemainder(0, 2, outputs[lane], p);
+        difference.elements[lane] = kernelgen::chineseRemainder(1, 2, outputs[lane], p);
+    }
+    result.insert(result.end(), {sum, difference});
+}
+
+}   // namespace
+
+std::vector<LaneVector> joinColumns(Graph& g, int p, std::span<const Complex> parts,
+                                    std::span<const int> outputs, Complex first, Sign sign) {
+    std::vector<LaneVector> result;
+    for (const SignedOutputs& y : combineParts(g, parts, sign)) {
+        const int k = outputs[y.first];
+        if (y.second >= 0) {
+            const int l = outputs[y.second];
+            twoPoint(g, p, select(g, y.plus, y.minus, evenLanes),
+                     select(g, y.plus, y.minus, oddLanes), {k, l, p - k, p - l}, result);
+        } else {
+            const Complex both = select(g, y.plus, y.minus, lowHalves);
+            twoPoint(g, p, select(g, both, first, evenLanes), select(g, both, first, oddLanes),
+                     {k, p - k, 0, -1}, result);
+        }
+    }
+    if (parts.size() % 2 == 0)
+        twoPoint(g, p, first, select(g, first, neighbours), {0, -1, -1, -1}, result);
+    return result;
+}
+
+std::vector<int> mirroredPairOrder(int p) {
+    std::vector<int> order;
+    const auto append = [&](int i) {
+        for (const int column : {0, 1}) order.push_back((2 * i + p * column) % (2 * p));
+    };
+    int i = 1;
+    for (; 2 * (i + 1) < p; i += 2)
+        for (const int position : {i, i + 1, p - i, p - i - 1}) append(position);
+    if (2 * i < p)
+        for (const int position : {i, p - i}) append(position);
+    append(0);
+    return order;
+}
+
+std::vector<LaneVector> directColumnOfPairs(Graph& g, int p, std::span<const Complex> groups,
+                                            Sign sign) {
+    std::vector<Complex> t;
+    std::size_t next = 0;
+    for (; next + 2 < groups.size(); next += 2) {
+        const Complex sum = add(g, groups[next], groups[next + 1]);
+        const Complex difference = sub(g, groups[next], groups[next + 1]);
+        t.push_back(select(g, sum, difference, lowHalves));
+        t.push_back(select(g, sum, difference, highHalves));
+    }
+    if (next + 1 < groups.size()) t.push_back(halfButterfly(g, groups[next]));
+    Complex first = lowerHalf(g, groups.back());
+    const std::vector<Complex> parts = directParts(g, p, t, first);
+    std::vector<int> outputs;
+    for (int k = 1; 2 * k < p; ++k) outputs.push_back(k);
+    return joinColumns(g, p, parts, outputs, first, sign);
 }
 
 }   // namespace kfm::dft::complex

@@ -16,6 +16,9 @@ namespace kfm::dft::complex {
 // group of its own or, where one pair is left, i -i 0.
 std::vector<int> mirroredOrder(int p);
 
+// The lower half of z, zero above.
+Complex lowerHalf(Graph& g, Complex z);
+
 // The transform of one column whose positions stand in the lanes of `groups` in mirrored order.
 // The elements are output numbers: first output 0, then k, l, -k, -l.
 std::vector<LaneVector> directColumn(Graph& g, int p, std::span<const Complex> groups, Sign sign);
@@ -27,5 +30,26 @@ std::vector<Complex> directParts(Graph& g, int p, std::span<const Complex> t, Co
 // The sums and differences of two columns in mirrored order, and their x0.
 std::vector<Complex> mirroredSums(Graph& g, int p, std::span<const Complex> a,
                                   std::span<const Complex> b, Complex& first);
+
+// The outputs C -+ iS of both signs from vectors (C, C', S, S'), by two vectors at a time.
+struct SignedOutputs {
+    Complex plus, minus;         // C + i*sign*S and C - i*sign*S
+    int first, second;           // from which vectors; second = -1 for a lone one
+};
+std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts, Sign sign);
+
+// Two columns of length p as one transform of length 2p by prime factors. C + i*sign*S of part i
+// is output outputs[i] of the columns, C - i*sign*S output p - outputs[i]; output 0 of both stands
+// in the lower half of `first`.
+std::vector<LaneVector> joinColumns(Graph& g, int p, std::span<const Complex> parts,
+                                    std::span<const int> outputs, Complex first, Sign sign);
+
+// Positions of a column of length 2p, p odd, as two columns of length p side by side in mirrored
+// order: (1, 1', 2, 2') (-1, -1', -2, -2') ... (0, 0').
+std::vector<int> mirroredPairOrder(int p);
+
+// The transform of length 2p of one column in that order.
+std::vector<LaneVector> directColumnOfPairs(Graph& g, int p, std::span<const Complex> groups,
+                                            Sign sign);
 
 }   // namespace kfm::dft::complex

@@ -23,19 +23,6 @@ std::vector<Complex> sumsAndDifferences(Graph& g, std::span<const MirroredPair> 
     return result;
 }
 
-std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts, Sign sign) {
-    std::vector<SignedOutputs> result;
-    for (int i = 0; i < static_cast<int>(parts.size()); i += 2) {
-        const bool two = i + 1 < static_cast<int>(parts.size());
-        const Complex other = two ? parts[i + 1] : parts[i];
-        const Complex c = two ? select(g, parts[i], other, lowHalves) : parts[i];
-        const Complex s = select(g, parts[i], other, highHalves);
-        result.push_back({addTimesI(g, c, s, sign), addTimesI(g, c, s, opposite(sign)), i,
-                          two ? i + 1 : -1});
-    }
-    return result;
-}
-
 Constant binWeight(int k, int n) {
     return Constant::ratio(k == 0 || 2 * k == n ? 1 : 2, n);
 }

@@ -10,6 +10,7 @@
 #include <span>
 #include <vector>
 
+#include "dft/complex/single_direct.h"
 #include "dft/complex/single_graphs.h"
 
 namespace kfm::dft::complex {
@@ -23,13 +24,6 @@ struct MirroredPair {
 
 // Vectors (a, a', b, b'), one for each pair; two pairs share their loads.
 std::vector<Complex> sumsAndDifferences(Graph& g, std::span<const MirroredPair> pairs);
-
-// The outputs x0 + C -+ iS of both signs from vectors (C, C', S, S'), by two vectors at a time.
-struct SignedOutputs {
-    Complex plus, minus;         // C + i*sign*S and C - i*sign*S
-    int first, second;           // from which vectors; second = -1 for a lone one
-};
-std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts, Sign sign);
 
 // Constants of one bin: value * own + neighbour's value * other, in each lane.
 struct BinConstants {

@@ -14,6 +14,10 @@ namespace {
 
 bool isOddDirect(const Plan& plan) { return plan.kind == Plan::Kind::direct && plan.n % 2 == 1; }
 
+bool isTwiceOddDirect(const Plan& plan) {
+    return plan.kind == Plan::Kind::pfa && plan.second().n == 2 && isOddDirect(plan.first());
+}
+
 std::vector<int> naturalOrder(int count) {
     std::vector<int> order(count);
     std::iota(order.begin(), order.end(), 0);
@@ -94,27 +98,31 @@ public:
         const int left = step.columns % 4;
         if (isOddDirect(step.second) && step.rows > 4 && (left == 1 || left == 2))
             rowOrder_ = mirroredOrder(step.rows);
+        if (left == 1 && isTwiceOddDirect(step.second)) rowOrder_ = mirroredPairOrder(step.rows / 2);
         if (left == 1) std::ranges::rotate(columnOrder_, columnOrder_.begin() + 1);
-        if (loneRow()) columnOrder_ = mirroredOrder(step.columns);
+        if (fewRowsLeft()) columnOrder_ = mirroredOrder(step.columns);
     }
 
     std::vector<LaneVector> run() {
         for (int first = 0; first < step_.rows; first += 4) {
             rows_.push_back(group(rowOrder_, first));
-            if (countOf(rows_.back()) == 1 && loneRow()) break;
-            groups_.push_back(rowGroup(g_, step_, sign_, input_, rows_.back()));
+            if (first + 4 < step_.rows || !fewRowsLeft())
+                groups_.push_back(rowGroup(g_, step_, sign_, input_, rows_.back()));
         }
-        if (loneRow()) transformLoneRow();
+        if (fewRowsLeft()) countOf(rows_.back()) == 1 ? transformLoneRow() : transformRowPair();
         for (int first = 0; first < step_.columns; first += 4)
             transformColumns(group(columnOrder_, first));
         return std::move(result_);
     }
 
 private:
-    // A last row alone whose spectrum fills one group of columns and one lone column.
-    bool loneRow() const {
-        return step_.rows % 4 == 1 && step_.columns == 5 && isOddDirect(step_.first);
+    // One or two last rows whose spectra fill one group of columns and a lone column.
+    bool fewRowsLeft() const {
+        const bool mirrored = rowOrder_.front() != 0;
+        return mirrored && step_.rows % 4 <= 2 && isOddDirect(step_.first) && step_.columns == 5;
     }
+
+    int inputOf(int row, int i) const { return input_(step_.input(row, i)); }
 
     void transformLoneRow() {
         const int row = rowOrder_.back();
@@ -122,10 +130,25 @@ private:
         for (int first = 0; first < step_.columns; first += 4) {
             Elements elements = group(columnOrder_, first);
             for (int& element : elements)
-                if (element >= 0) element = input_(step_.input(row, element));
+                if (element >= 0) element = inputOf(row, element);
             x.push_back(load4(g_, elements));
         }
-        loneRow_ = directColumn(g_, step_.columns, x, sign_);
+        const std::vector<LaneVector> y = directColumn(g_, step_.columns, x, sign_);
+        lastColumnZero_ = y[0].value;
+        lastRows_ = {y[1].value};
+    }
+
+    void transformRowPair() {
+        const int a = rows_.back()[0], b = rows_.back()[1], p = step_.columns;
+        std::vector<MirroredPair> pairs;
+        for (int i = 1; 2 * i < p; ++i)
+            pairs.push_back({{inputOf(a, i), inputOf(b, i)}, {inputOf(a, p - i), inputOf(b, p - i)}});
+        lastColumnZero_ = load4(g_, {inputOf(a, 0), inputOf(b, 0), -1, -1});
+        lastColumnZero_ = lowerHalf(g_, lastColumnZero_);
+        const std::vector<Complex> parts =
+            directParts(g_, p, sumsAndDifferences(g_, pairs), lastColumnZero_);
+        const SignedOutputs y = combineParts(g_, parts, sign_).front();
+        lastRows_ = {select(g_, y.plus, y.minus, evenLanes), select(g_, y.plus, y.minus, oddLanes)};
     }
 
     void transformColumns(const Elements& columns) {
@@ -143,7 +166,7 @@ private:
 
     // Column k1 of a group of rows, twiddled.
     Complex rowsOf(int group, int k1) {
-        if (group == int(groups_.size())) return loneRow_[0].value;
+        if (group == int(groups_.size())) return lastColumnZero_;
         return twiddleRows(g_, step_, sign_, groups_[group][k1], rows_[group], k1);
     }
 
@@ -154,7 +177,10 @@ private:
     }
 
     void loneColumn(int k1) {
-        for (LaneVector vector : directColumn(g_, step_.rows, mirroredColumn(k1), sign_)) {
+        const std::vector<Complex> z = mirroredColumn(k1);
+        for (LaneVector vector : isOddDirect(step_.second)
+                                     ? directColumn(g_, step_.rows, z, sign_)
+                                     : directColumnOfPairs(g_, step_.rows / 2, z, sign_)) {
             for (int& element : vector.elements)
                 if (element >= 0) element = step_.output(k1, element);
             result_.push_back(vector);
@@ -189,7 +215,7 @@ private:
             const std::array<Complex, 4> rows = transpose4(g_, block);
             for (int lane = 0; lane < countOf(rows_[i]); ++lane) x[rows_[i][lane]] = rows[lane];
         }
-        if (!loneRow_.empty()) x[rowOrder_.back()] = loneRow_[1].value;
+        for (int i = 0; i < int(lastRows_.size()); ++i) x[rows_.back()[i]] = lastRows_[i];
         for (int r = 0; r < step_.rows; ++r) {
             std::array<long, 4> exponents;
             for (int lane = 0; lane < 4; ++lane)
@@ -212,7 +238,8 @@ private:
     std::vector<int> rowOrder_, columnOrder_;
     std::vector<Elements> rows_;
     std::vector<std::vector<Complex>> groups_;   // of rows, by column
-    std::vector<LaneVector> loneRow_;            // its output 0 and the other four
+    Complex lastColumnZero_;                     // of the rows that are no group
+    std::vector<Complex> lastRows_;              // their other columns
     std::vector<LaneVector> result_;
 };
 

@@ -1,7 +1,6 @@
 // Lengths 2p by prime factors: both columns of length p in one vector, as sums and differences
 // (a, a', b, b') of mirrored inputs. The column transform is the direct module or Rader's step;
 // the 2-point step across the columns comes last, between even and odd lanes.
-#include "dft/complex/single_direct.h"
 #include "dft/complex/single_rader.h"
 
 namespace kfm::dft::complex {
@@ -69,41 +68,15 @@ Columns raderColumns(Graph& g, const Plan& plan) {
     return result;
 }
 
-// Even and odd lanes hold the two columns: stores their sum and difference.
-void storeTwoPoint(Graph& g, int p, Complex even, Complex odd, const Elements& outputs) {
-    LaneVector sum{add(g, even, odd), {}}, difference{sub(g, even, odd), {}};
-    for (int lane = 0; lane < 4; ++lane) {
-        const int k = outputs[lane];
-        sum.elements[lane] = k < 0 ? -1 : chineseRemainder(0, 2, k, p);
-        difference.elements[lane] = k < 0 ? -1 : chineseRemainder(1, 2, k, p);
-    }
-    store4(g, sum);
-    store4(g, difference);
-}
-
 }   // namespace
 
 void twoColumnGraph(Graph& g, const Plan& plan, Sign sign) {
     const Plan& column = plan.second();
-    const int p = column.n;
     const Columns columns =
-        column.kind == Plan::Kind::rader ? raderColumns(g, column) : directColumns(g, p);
-    bool firstStored = false;
-    for (const SignedOutputs& y : combineParts(g, columns.parts, sign)) {
-        const int k = columns.outputs[y.first];
-        if (y.second >= 0) {
-            const int l = columns.outputs[y.second];
-            storeTwoPoint(g, p, select(g, y.plus, y.minus, evenLanes),
-                          select(g, y.plus, y.minus, oddLanes), {k, l, p - k, p - l});
-        } else {
-            const Complex both = select(g, y.plus, y.minus, lowHalves);
-            storeTwoPoint(g, p, select(g, both, columns.first, evenLanes),
-                          select(g, both, columns.first, oddLanes), {k, p - k, 0, -1});
-            firstStored = true;
-        }
-    }
-    if (!firstStored)
-        storeTwoPoint(g, p, columns.first, select(g, columns.first, neighbours), {0, -1, -1, -1});
+        column.kind == Plan::Kind::rader ? raderColumns(g, column) : directColumns(g, column.n);
+    for (const LaneVector& vector :
+         joinColumns(g, column.n, columns.parts, columns.outputs, columns.first, sign))
+        store4(g, vector);
 }
 
 }   // namespace kfm::dft::complex
