@@ -36,14 +36,11 @@ std::vector<Signal> hardSignals(const Transform& transform) {
 }
 
 // Short lengths need more signals to come near their worst case.
-std::vector<Signal> randomSignals(const Transform& transform) {
+std::vector<Signal> randomSignals(const Transform& transform, int rounds = 1) {
     Random random(testSeed());
     std::vector<Signal> signals;
-    for (int i = 0; i < 12 + 512 / transform.length; ++i) {
+    for (int i = 0; i < rounds * (12 + 512 / transform.length); ++i)
         signals.push_back(randomSignal(transform, random));
-        if (i % 4 == 3)   // a wide range of magnitudes
-            for (double& value : signals.back()) value = std::ldexp(value, int(8 * random.uniform(8)));
-    }
     return signals;
 }
 
@@ -87,9 +84,12 @@ protected:
     static inline std::map<std::string, std::pair<double, std::string>> worst_;
 };
 
-// Half as much again as was measured leaves room for another seed.
+// What is committed is measured over more signals than a run of the tests takes; two fifths more
+// than that leaves room for another seed.
+constexpr int roundsWhenUpdating = 4;
+
 std::string rowFor(double measured) {
-    const double bound = std::min(promised, std::ceil(measured * 15) / 10);
+    const double bound = std::min(promised, std::ceil(measured * 14) / 10);
     std::ostringstream row;
     row << std::fixed << std::setprecision(2) << measured << ' ' << bound;
     return row.str();
@@ -97,9 +97,9 @@ std::string rowFor(double measured) {
 
 TEST_P(Accuracy, StaysWithinCommittedBound) {
     const Transform& transform = GetParam();
-    const double error =
-        std::max(worstError(transform, randomSignals(transform)),
-                 worstError(transform, hardSignals(transform)));
+    const int rounds = table().updating() ? roundsWhenUpdating : 1;
+    const double error = std::max(worstError(transform, randomSignals(transform, rounds)),
+                                  worstError(transform, hardSignals(transform)));
     note(transform, error);
     RecordProperty("units", std::to_string(error));
     if (table().updating()) table().record(transform.name(), rowFor(error));
@@ -108,7 +108,7 @@ TEST_P(Accuracy, StaysWithinCommittedBound) {
     ASSERT_TRUE(row >> measured >> bound) << "no row in the table; worst error is " << error;
     EXPECT_LE(error, bound) << "seed " << testSeed() << "; when committed it was " << measured;
     EXPECT_LE(bound, promised);
-    EXPECT_LE(bound, 2 * measured + 0.1) << "a bound far above the measured error";
+    EXPECT_LE(bound, 2 * measured) << "a bound far above the measured error";
 }
 
 // The nearest value of the element type to the true factor, component for component.
@@ -180,8 +180,8 @@ TEST_P(RoundTrip, RestoresTheSignal) {
 
 INSTANTIATE_TEST_SUITE_P(, RoundTrip, testing::ValuesIn(forwardTransforms()), caseName);
 
-TEST(AccuracyTable, HoldsNoOtherFunction) {
-    EXPECT_EQ(Accuracy::table().rows().size(), fixedTransforms().size());
+TEST(AccuracyTable, NamesEveryFunctionOnly) {
+    EXPECT_TRUE(Accuracy::table().namesEveryFunctionOnly());
 }
 
 }   // namespace

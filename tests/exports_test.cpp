@@ -23,6 +23,8 @@ struct Library {
     Names exports, needed;
 };
 
+void PrintTo(const Library& library, std::ostream* out) { *out << library.name; }
+
 const Library libraries[] = {
     {KFM_LIBRARY_FILE, "libkfmgenw7.so.6.1",
      [] {

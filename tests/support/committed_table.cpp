@@ -2,7 +2,9 @@
 #include "support/committed_table.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <set>
 
 #include "support/transform.h"
 
@@ -22,6 +24,7 @@ CommittedTable::CommittedTable(const std::string& file, std::string heading)
 
 CommittedTable::~CommittedTable() {
     if (!updating_) return;
+    std::filesystem::create_directories(std::filesystem::path(path_).parent_path());
     std::ofstream out(path_);
     out << heading_;
     for (const Transform& transform : fixedTransforms()) {
@@ -30,6 +33,17 @@ CommittedTable::~CommittedTable() {
         name.resize(24, ' ');
         if (!values.empty()) out << name << ' ' << values << '\n';
     }
+}
+
+testing::AssertionResult CommittedTable::namesEveryFunctionOnly() const {
+    if (updating_) return testing::AssertionSuccess() << "being rewritten";
+    std::set<std::string> missing, unknown;
+    for (const Transform& transform : fixedTransforms()) missing.insert(transform.name());
+    for (const auto& [name, values] : rows_)
+        if (missing.erase(name) == 0) unknown.insert(name);
+    if (missing.empty() && unknown.empty()) return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "missing: " << testing::PrintToString(missing)
+                                       << ", unknown: " << testing::PrintToString(unknown);
 }
 
 std::string CommittedTable::expected(const std::string& name) const {

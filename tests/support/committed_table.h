@@ -3,6 +3,8 @@
 // targets update-hashes and update-accuracy do that).
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 
@@ -16,7 +18,7 @@ public:
 
     bool updating() const { return updating_; }
     void record(const std::string& name, const std::string& values) { rows_[name] = values; }
-    const std::map<std::string, std::string>& rows() const { return rows_; }
+    testing::AssertionResult namesEveryFunctionOnly() const;
     std::string expected(const std::string& name) const;   // empty when there is no such row
 
 private:

@@ -67,7 +67,9 @@ double errorInUnits(const Transform& transform, const Signal& actual,
     for (std::size_t i = 0; i < expected.size(); ++i) {
         if (!std::isfinite(actual[i])) return HUGE_VAL;
         error = std::max(error, fabsq(actual[i] - expected[i]));
-        largest = std::max(largest, fabsq(expected[i]));
+        const std::size_t pair = transform.element->complex ? i ^ 1 : i;
+        largest = std::max(largest, pair == i ? fabsq(expected[i])
+                                              : hypotq(expected[i], expected[pair]));
     }
     return static_cast<double>(ldexpq(error / largest, transform.element->doublePrecision ? 53 : 24));
 }

@@ -22,7 +22,8 @@ std::vector<Quad> definition(const Transform& transform, const Signal& source);
 // The factor that `flag` selects, not yet rounded to an element type.
 Quad scaleFactor(const Transform& transform, int flag);
 
-// max |actual - expected| / max |expected| in units of 2^-24 or 2^-53, by the element type.
+// The largest error of a real or imaginary part over the largest magnitude of an output element, in
+// units of 2^-24 or 2^-53, by the element type.
 double errorInUnits(const Transform& transform, const Signal& actual,
                     const std::vector<Quad>& expected);
 
