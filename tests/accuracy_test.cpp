@@ -63,8 +63,9 @@ public:
     static CommittedTable& table() {
         static CommittedTable table(
             "accuracy.txt",
-            "# Worst error measured, and the bound the tests hold it to: max |error| over max |output|\n"
-            "# in units of 2^-24 (32) and 2^-53 (64). Made by the build target update-accuracy.\n");
+            "# Worst error measured, and the bound the tests hold it to: max |error| over max\n"
+            "# |output| in units of 2^-24 (32) and 2^-53 (64). Made by the build target\n"
+            "# update-accuracy.\n");
         return table;
     }
 

@@ -134,8 +134,9 @@ void forEveryKernel(Check check) {
     std::string complaints;
     for (const Kernel& kernel : kernels()) {
         const auto code = disassembly().find(kernel.name);
-        const std::string wrong = code == disassembly().end() ? "not found: is the library stripped?"
-                                                              : check(kernel, code->second);
+        const std::string wrong = code == disassembly().end()
+                                      ? "not found: is the library stripped?"
+                                      : check(kernel, code->second);
         if (!wrong.empty()) complaints += kernel.name + ": " + wrong + "\n";
     }
     EXPECT_TRUE(complaints.empty()) << complaints;
@@ -194,7 +195,8 @@ TEST(Disassembly, AlignedKernelsUseAlignedMoves) {
     forEveryKernel([](const Kernel& kernel, const Code& code) {
         if (!kernel.aligned) return std::string();
         return firstWhere(code, [](const Instruction& instruction) {
-            return (instruction.mnemonic.starts_with("movup") || instruction.mnemonic == "movdqu") &&
+            const std::string& mnemonic = instruction.mnemonic;
+            return (mnemonic.starts_with("movup") || mnemonic == "movdqu") &&
                    instruction.operands.find('(') != std::string::npos;
         });
     });

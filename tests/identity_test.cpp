@@ -57,8 +57,8 @@ TEST_P(Identity, InPlaceAtEveryAlignment) {
 TEST_P(Identity, WithOverlappingArrays) {
     const auto bytes = std::max(GetParam().sourceBytes(), GetParam().destinationBytes());
     const auto element = static_cast<std::size_t>(GetParam().element->bytes);
-    std::set<std::size_t> shifts = {1, 4, 8, element, 16, 2 * element, 32, bytes / 2, bytes - element,
-                                    bytes - 1};
+    const std::set<std::size_t> shifts = {1,  4,         8,  element,         16, 2 * element,
+                                          32, bytes / 2, bytes - element, bytes - 1};
     GuardedBuffer both(2 * bytes + vectorBytes);
     for (std::size_t shift : shifts)
         for (std::size_t base : {std::size_t{0}, element / 2}) {
@@ -104,8 +104,8 @@ public:
     static CommittedTable& table() {
         static CommittedTable table(
             "hashes.txt",
-            "# FNV-1a of the outputs of each function for fixed signals and all flags, the same on\n"
-            "# every target. Made by the build target update-hashes.\n");
+            "# FNV-1a of the outputs of each function for fixed signals and all flags, the same\n"
+            "# on every target. Made by the build target update-hashes.\n");
         return table;
     }
 };

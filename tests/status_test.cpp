@@ -42,7 +42,7 @@ constexpr Arguments table[] = {
     {null, null, false, kfmErrNullPtr},
 };
 
-// Every row of the table with every flag of its kind, through `callWith(source, destination, flag)`.
+// Every row of the table with every flag of its kind through callWith(source, destination, flag).
 template <class Call>
 void checkTable(const Transform& transform, Call callWith,
                 KfmStatus (*expected)(const Arguments&)) {

@@ -11,7 +11,8 @@
 namespace kfm::tests {
 
 // Hands every line of the command's output to `take`; throws when the command fails.
-inline void forEachLine(const std::string& command, const std::function<void(std::string_view)>& take) {
+inline void forEachLine(const std::string& command,
+                        const std::function<void(std::string_view)>& take) {
     FILE* pipe = popen(("LC_ALL=C " + command).c_str(), "r");
     if (!pipe) throw std::runtime_error("cannot run " + command);
     std::string line;

@@ -71,7 +71,8 @@ double errorInUnits(const Transform& transform, const Signal& actual,
         largest = std::max(largest, pair == i ? fabsq(expected[i])
                                               : hypotq(expected[i], expected[pair]));
     }
-    return static_cast<double>(ldexpq(error / largest, transform.element->doublePrecision ? 53 : 24));
+    const int precision = transform.element->doublePrecision ? 53 : 24;
+    return static_cast<double>(ldexpq(error / largest, precision));
 }
 
 }   // namespace kfm::tests

@@ -26,7 +26,8 @@ std::uint64_t testSeed() {
 
 Signal randomSignal(const Transform& transform, Random& random) {
     Signal signal(transform.sourceReals());
-    for (double& value : signal) value = random.uniform(transform.element->doublePrecision ? 53 : 24);
+    const int bits = transform.element->doublePrecision ? 53 : 24;
+    for (double& value : signal) value = random.uniform(bits);
     return signal;
 }
 
@@ -81,7 +82,8 @@ private:
 Bytes run(const Transform& transform, const Bytes& source, int flag) {
     Array from(source.size()), to(transform.destinationBytes());
     std::memcpy(from.data(), source.data(), source.size());
-    EXPECT_EQ(call(transform, from.data(), to.data(), flag), kfmOk) << transform << " flag " << flag;
+    const KfmStatus status = call(transform, from.data(), to.data(), flag);
+    EXPECT_EQ(status, kfmOk) << transform << " flag " << flag;
     return Bytes(to.data(), to.data() + transform.destinationBytes());
 }
 
