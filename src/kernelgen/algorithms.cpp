@@ -172,7 +172,7 @@ HalfSpectrum cooleyTukey(Graph& g, const Plan& plan, std::span<const Ref> x) {
 // convolution with the roots of unity. Its cosine part has even bins only, its sine part odd bins
 // only, so both come from one transform of the input: X[g^-j] = x0 + C[j] + i S[j].
 HalfSpectrum raderStep(Graph& g, const Plan& plan, std::span<const Ref> x) {
-    const RaderOrder order(plan.n);
+    const RaderOrder order(plan);
     const int m = plan.n - 1, half = m / 2;
     std::vector<Ref> z(m);
     for (int i = 0; i < m; ++i) z[i] = x[order.input[i]];
@@ -199,10 +199,12 @@ HalfSpectrum raderStep(Graph& g, const Plan& plan, std::span<const Ref> x) {
 
 }   // namespace
 
-RaderOrder::RaderOrder(int p)
-    : prime(p), root(primitiveRoot(p)), input(p - 1), output(p - 1), cosines(p - 1), sines(p - 1) {
+RaderOrder::RaderOrder(const Plan& plan)
+    : prime(plan.n), input(plan.n - 1), output(plan.n - 1), cosines(plan.n - 1),
+      sines(plan.n - 1) {
+    const int p = prime;
     for (int m = 0; m < p - 1; ++m) {
-        input[m] = powerModulo(root, m, p);
+        input[m] = powerModulo(plan.root, m, p);
         output[(p - 1 - m) % (p - 1)] = input[m];
     }
     for (int t = 0; t < p - 1; ++t) {

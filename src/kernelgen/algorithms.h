@@ -46,8 +46,8 @@ Complex scaleBy(Graph& g, Complex z, ComplexConstant c);
 // The order in which Rader's step takes inputs and outputs of the prime p, with the constants of
 // its convolution: c[t] = cos(2 pi g^-t / p), s[t] = sin(2 pi g^-t / p).
 struct RaderOrder {
-    explicit RaderOrder(int prime);
-    int prime, root;
+    explicit RaderOrder(const Plan& plan);
+    int prime;
     std::vector<int> input;    // g^m
     std::vector<int> output;   // g^-j
     std::vector<Constant> cosines, sines;

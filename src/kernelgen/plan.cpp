@@ -18,6 +18,12 @@ bool isPrime(int n) {
 
 bool isPowerOfTwo(int n) { return n > 0 && (n & (n - 1)) == 0; }
 
+int smallestPrimitiveRoot(int prime) {
+    int g = 2;
+    while (!isPrimitiveRoot(g, prime)) ++g;
+    return g;
+}
+
 Plan::Kind moduleKind(int n) {
     if (n < 1) refuse(n, "no such module");
     return n > 4 && isPowerOfTwo(n) ? Plan::Kind::powerOfTwo : Plan::Kind::direct;
@@ -46,16 +52,22 @@ Plan ct(const Plan& first, const Plan& second) {
     return Plan(n, Plan::Kind::ct, {first, second});
 }
 
-Plan rader(const Plan& convolution) {
+Plan rader(const Plan& convolution, int root) {
     const int prime = convolution.n + 1;
     if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
-    return Plan(prime, Plan::Kind::rader, {convolution});
+    if (root == 0) root = smallestPrimitiveRoot(prime);
+    if (!isPrimitiveRoot(root, prime)) refuse(prime, std::to_string(root) + " is no primitive root");
+    Plan plan(prime, Plan::Kind::rader, {convolution});
+    plan.root = root;
+    return plan;
 }
 
-Plan rader(int prime, const Plan& longer) {
+Plan paddedRader(int prime, const Plan& longer) {
     if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
     if (longer.n < 2 * prime - 3) refuse(prime, "the padded convolution wraps around");
-    return Plan(prime, Plan::Kind::paddedRader, {longer});
+    Plan plan(prime, Plan::Kind::paddedRader, {longer});
+    plan.root = smallestPrimitiveRoot(prime);
+    return plan;
 }
 
 std::string Plan::text() const {
@@ -85,13 +97,10 @@ int powerModulo(int base, int exponent, int modulus) {
     return result;
 }
 
-int primitiveRoot(int prime) {
-    for (int g = 2; g < prime; ++g) {
-        int order = 1;
-        for (int power = g; power != 1; power = power * g % prime) ++order;
-        if (order == prime - 1) return g;
-    }
-    return 1;
+bool isPrimitiveRoot(int g, int prime) {
+    int order = 1;
+    for (int power = g % prime; power > 1; power = power * g % prime) ++order;
+    return g % prime != 0 && order == prime - 1;
 }
 
 int chineseRemainder(int k1, int n1, int k2, int n2) {

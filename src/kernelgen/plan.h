@@ -23,6 +23,7 @@ struct Plan {
     int n = 0;
     Kind kind = Kind::direct;
     std::vector<Plan> parts;   // pfa, ct: first, second; rader: the plan of the convolution
+    int root = 0;              // rader: the primitive root
 
     const Plan& first() const { return parts[0]; }
     const Plan& second() const { return parts[1]; }
@@ -33,19 +34,21 @@ private:
     friend Plan factored5();
     friend Plan pfa(const Plan&, const Plan&);
     friend Plan ct(const Plan&, const Plan&);
-    friend Plan rader(const Plan&);
-    friend Plan rader(int, const Plan&);
+    friend Plan rader(const Plan&, int);
+    friend Plan paddedRader(int, const Plan&);
 };
 
 Plan factored5();
 // The transforms of length `first` are taken first, those of length `second` across them.
 Plan pfa(const Plan& first, const Plan& second);
 Plan ct(const Plan& first, const Plan& second);
-// The prime p = convolution.n + 1; `rader(p, longer)` pads the convolution to longer.n points.
-Plan rader(const Plan& convolution);
-Plan rader(int prime, const Plan& longer);
+// The prime p = convolution.n + 1. Every primitive root gives the same transform with other
+// roundings; 0 takes the smallest.
+Plan rader(const Plan& convolution, int root = 0);
+// The prime by a convolution padded to longer.n points.
+Plan paddedRader(int prime, const Plan& longer);
 
-int primitiveRoot(int prime);
+bool isPrimitiveRoot(int g, int prime);
 int powerModulo(int base, int exponent, int modulus);
 // The k below n1*n2 with k = k1 modulo n1 and k = k2 modulo n2.
 int chineseRemainder(int k1, int n1, int k2, int n2);

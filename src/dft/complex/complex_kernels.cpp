@@ -3,7 +3,6 @@
 #include <map>
 #include <sstream>
 
-#include "dft/complex/factors.h"
 #include "kernelgen/emit.h"
 #include "kernelgen/report.h"
 
@@ -16,7 +15,8 @@ using registry::Family;
 namespace {
 
 Graph graph(int n, const Element& element, bool inverse) {
-    return element.doublePrecision ? doubleGraph(n, inverse) : singleGraph(n, inverse);
+    return element.doublePrecision ? doubleGraph(doublePrecisionPlan(n), inverse)
+                                   : singleGraph(singlePrecisionRow(n), inverse);
 }
 
 std::string describe(int n, const Element& element) {

@@ -2,18 +2,18 @@
 // network runs on whole elements, and only Y[k] = P + iQ, Y[N-k] = P - iQ at its end exchanges the
 // halves of a vector.
 #include "dft/complex/complex_kernels.h"
-#include "dft/complex/factors.h"
 #include "kernelgen/algorithms.h"
 
 namespace kfm::dft::complex {
 
 using namespace kernelgen;
 
-Graph doubleGraph(int n, bool inverse) {
+Graph doubleGraph(const Plan& plan, bool inverse) {
+    const int n = plan.n;
     Graph g(2);
     std::vector<Ref> x(n);
     for (int i = 0; i < n; ++i) x[i] = g.load(i);
-    const HalfSpectrum spectrum = realDft(g, doublePrecisionPlan(n), x);
+    const HalfSpectrum spectrum = realDft(g, plan, x);
     for (int k = 0; 2 * k <= n; ++k) {
         const auto [p, q] = spectrum[k];
         if (q.isZero()) {

@@ -1,7 +1,8 @@
 // The factor trees of the single-precision kernels and how they fill the lanes. A number is the
 // direct module of that length (a power of two from 8 up: split radix); pfa needs no twiddle
-// factors, ct has them, rader turns the prime below its argument plus one into that convolution.
-// In the outermost step the first factor runs along the rows, the second across them.
+// factors, ct has them, rader turns the prime one above its argument's length into that convolution
+// (a named primitive root is the one with the smallest rounding errors). In the outermost step the
+// first factor runs along the rows, the second across them.
 #include <map>
 #include <stdexcept>
 
@@ -53,31 +54,31 @@ SinglePrecisionRow singlePrecisionRow(int n) {
         {34, {pfa(2, seventeen), raderRows}},
         {35, {pfa(5, 7), rows}},
         {36, {pfa(4, nine), rows}},
-        {37, {rader(pfa(4, nine)), raderPair}},
+        {37, {rader(pfa(4, nine), 13), raderPair}},
         {38, {pfa(2, nineteen), raderTwo}},
         {39, {pfa(thirteen, 3), rows}},
         {40, {ct(pfa(2, 5), 4), rowPairs}},
-        {41, {rader(ct(pfa(2, 5), 4)), raderRows}},
+        {41, {rader(ct(pfa(2, 5), 4), 12), raderRows}},
         {42, {pfa(pfa(2, 3), 7), rows}},
         {43, {rader(pfa(7, pfa(2, 3))), raderRows}},
         {44, {pfa(11, 4), rows}},
         {45, {ct(3, fifteen), rows}},
         {46, {pfa(2, twentyThree), raderTwo}},
-        {47, {rader(47, Plan(pfa(3, 32))), raderPadded}},
+        {47, {paddedRader(47, pfa(3, 32)), raderPadded}},
         {48, {ct(pfa(4, 3), 4), rows}},
         {49, {ct(7, 7), rows}},
         {50, {pfa(ct(5, 5), 2), joinedRows}},
         {51, {pfa(3, rader(16)), rows}},
         {52, {pfa(thirteen, 4), rows}},
-        {53, {rader(pfa(4, thirteen)), raderPair}},
+        {53, {rader(pfa(4, thirteen), 12), raderPair}},
         {54, {pfa(twentySeven, 2), joinedRows}},
         {55, {pfa(5, 11), rows}},
         {56, {ct(pfa(2, 7), 4), rowPairs}},
         {57, {pfa(3, nineteen), rows}},
         {58, {pfa(2, twentyNine), raderPair}},
-        {59, {rader(59, 128), raderPadded}},
+        {59, {paddedRader(59, 128), raderPadded}},
         {60, {pfa(fifteen, 4), rows}},
-        {61, {rader(pfa(4, fifteen)), raderPair}},
+        {61, {rader(pfa(4, fifteen), 17), raderPair}},
         {62, {pfa(2, thirtyOne), raderTwo}},
         {63, {pfa(nine, 7), rows}},
         {64, {ct(8, 8), rows}},

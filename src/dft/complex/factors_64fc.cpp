@@ -1,6 +1,7 @@
 // The factor trees of the double-precision kernels. A number is the direct module of that length
 // (a power of two from 8 up: split radix); pfa needs no twiddle factors, ct has them, rader turns
-// the prime below its argument plus one into that convolution.
+// the prime one above its argument's length into that convolution. Where a primitive root is named
+// it is the one with the smallest rounding errors; elsewhere the smallest does as well.
 #include <map>
 #include <stdexcept>
 
@@ -12,7 +13,7 @@ using namespace kernelgen;
 
 Plan doublePrecisionPlan(int n) {
     const Plan nine = ct(3, 3), thirteen = rader(pfa(4, 3)), seventeen = rader(16);
-    const Plan nineteen = rader(pfa(2, nine)), twentyThree = rader(pfa(2, 11));
+    const Plan nineteen = rader(pfa(2, nine), 3), twentyThree = rader(pfa(2, 11));
     const Plan twentyFive = ct(5, 5), twentySeven = ct(3, nine), twentyNine = rader(pfa(4, 7));
     const Plan thirtyOne = rader(pfa(2, pfa(3, 5)));
     static const std::map<int, Plan> table = {
@@ -51,17 +52,17 @@ Plan doublePrecisionPlan(int n) {
         {34, pfa(2, seventeen)},
         {35, pfa(factored5(), rader(pfa(2, 3)))},
         {36, pfa(4, nine)},
-        {37, rader(pfa(4, nine))},
+        {37, rader(pfa(4, nine), 17)},
         {38, pfa(2, nineteen)},
         {39, pfa(3, thirteen)},
         {40, pfa(8, 5)},
-        {41, rader(ct(8, 5))},
+        {41, rader(ct(8, 5), 29)},
         {42, pfa(2, pfa(3, 7))},
-        {43, rader(pfa(2, ct(3, 7)))},
+        {43, rader(pfa(2, ct(3, 7)), 26)},
         {44, pfa(4, 11)},
         {45, pfa(nine, 5)},
         {46, pfa(2, twentyThree)},
-        {47, rader(pfa(2, twentyThree))},
+        {47, rader(pfa(2, rader(pfa(2, 11), 15)), 11)},
         {48, pfa(16, 3)},
         {49, ct(7, 7)},
         {50, pfa(2, ct(factored5(), factored5()))},
@@ -71,11 +72,11 @@ Plan doublePrecisionPlan(int n) {
         {54, pfa(2, twentySeven)},
         {55, pfa(5, 11)},
         {56, pfa(8, 7)},
-        {57, pfa(3, nineteen)},
+        {57, pfa(3, rader(pfa(2, nine), 14))},
         {58, pfa(2, twentyNine)},
-        {59, rader(pfa(2, twentyNine))},
+        {59, rader(pfa(2, rader(pfa(4, 7), 11)))},
         {60, pfa(4, pfa(3, factored5()))},
-        {61, rader(pfa(4, ct(3, 5)))},
+        {61, rader(pfa(4, ct(3, 5)), 17)},
         {62, pfa(2, thirtyOne)},
         {63, pfa(7, nine)},
         {64, 64},

@@ -2,7 +2,6 @@
 #include <stdexcept>
 
 #include "dft/complex/complex_kernels.h"
-#include "dft/complex/factors.h"
 #include "dft/complex/single_graphs.h"
 
 namespace kfm::dft::complex {
@@ -58,8 +57,7 @@ void elementGraph(Graph& g, const Plan& plan, Sign sign) {
     }
 }
 
-Graph singleGraph(int n, bool inverse) {
-    const SinglePrecisionRow row = singlePrecisionRow(n);
+Graph singleGraph(const SinglePrecisionRow& row, bool inverse) {
     const Sign sign = inverse ? Sign::plus : Sign::minus;
     Graph g(4);
     switch (row.lanes) {

@@ -14,7 +14,7 @@ namespace {
 
 struct OddRader {
     OddRader(const Plan& plan)
-        : order(plan.n), q((plan.n - 1) / 2), cosines(order.cosines.begin(),
+        : order(plan), q((plan.n - 1) / 2), cosines(order.cosines.begin(),
                                                       order.cosines.begin() + q) {
         for (int m = 0; m < q; ++m) sines.push_back(m % 2 == 0 ? order.sines[m] : -order.sines[m]);
     }

@@ -89,7 +89,7 @@ void setPair(MirroredPair& pair, int lane, int m, const RaderOrder& order, bool 
 
 std::vector<LaneVector> raderPairTransform(Graph& g, const Plan& plan, Sign sign,
                                            const ElementMap& input) {
-    const RaderOrder order(plan.n);
+    const RaderOrder order(plan);
     const Positions positions = plan.kind == Plan::Kind::paddedRader
                                     ? evenAndOddSamples(plan, order)
                                     : residuesModulo4(plan, order);

@@ -48,7 +48,7 @@ std::vector<Complex> columnsBack(Graph& g, const TwoStep& step, std::span<const 
 
 std::vector<LaneVector> raderRowTransform(Graph& g, const Plan& plan, Sign sign,
                                           const ElementMap& input) {
-    const RaderOrder order(plan.n);
+    const RaderOrder order(plan);
     const TwoStep step(plan.first());
     const std::vector<LaneVector> bins = rowTransform(
         g, step, Sign::minus, [&](int m) { return input(order.input[m]); });

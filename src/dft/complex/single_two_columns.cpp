@@ -42,7 +42,7 @@ Columns directColumns(Graph& g, int p) {
 }
 
 Columns raderColumns(Graph& g, const Plan& plan) {
-    const RaderOrder order(plan.n);
+    const RaderOrder order(plan);
     const Plan& rows = plan.first().second();
     const int p = plan.n, q = rows.n;
     std::vector<MirroredPair> pairs;
