@@ -5,7 +5,7 @@ FILE ?= /usr/share/sounds/alsa/Front_Center.wav
 PREFIX ?= /usr/local
 export DESTDIR
 
-.PHONY: all test demo bench install header clean
+.PHONY: all test demo bench tune install header clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -24,6 +24,11 @@ bench:
 	@tools/install-dependencies.sh bench
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
 	@set -e; for target in $$(cat build/targets); do cmake --build build/$$target --target bench; done
+
+tune:
+	@tools/install-dependencies.sh bench
+	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
+	@set -e; for target in $$(cat build/targets); do cmake --build build/$$target --target tune; done
 
 install:
 	@tools/build.sh "$(JOBS)"

@@ -42,14 +42,15 @@ struct Api {
                                          bool inverse) const {
         if (!planDft || !executeDft) return {};
         const auto signals = std::make_shared<Signals>(length, element);
-        const auto source = static_cast<Complex*>(signals->source());
-        const auto destination = static_cast<Complex*>(signals->destination());
         // Planning overwrites its arrays; the timed calls work on fresh ones.
         const Signals scratch(length, element);
         const Plan plan = planDft(length, static_cast<Complex*>(scratch.source()),
                                   static_cast<Complex*>(scratch.destination()),
                                   inverse ? FFTW_BACKWARD : FFTW_FORWARD, FFTW_PATIENT);
-        return [signals, source, destination, plan, execute = executeDft](long calls) {
+        return [signals, plan, execute = executeDft, batch = 0](long calls) mutable {
+            const int placement = batch++ % Signals::placements;
+            const auto source = static_cast<Complex*>(signals->source(placement));
+            const auto destination = static_cast<Complex*>(signals->destination(placement));
             for (long i = 0; i < calls; ++i) execute(plan, source, destination);
         };
     }

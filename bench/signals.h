@@ -13,35 +13,43 @@
 
 namespace kfm::bench {
 
-// A source and a destination in one block. They stand next to each other: at equal offsets within
-// a page, loads of the next call would wait for stores of the last one.
+// A source and a destination next to each other: at equal offsets within a page, loads of the next
+// call would wait for stores of the last one. The same can befall loads of constants or of spilled
+// values, wherever the data stand; so there are several placements, which batches take in turns.
 class Signals {
 public:
     Signals(int length, const registry::Element& element, bool unaligned = false,
             bool inPlace = false)
         : bytes((length * element.bytes + lineBytes) / lineBytes * lineBytes),
-          block(static_cast<std::byte*>(std::aligned_alloc(lineBytes, 2 * bytes)), &std::free),
+          stride((2 * bytes + pageBytes / placements) / lineBytes * lineBytes),
+          block(static_cast<std::byte*>(std::aligned_alloc(lineBytes, placements * stride)),
+                &std::free),
           start(block.get() + (unaligned ? 8 : 0)), inPlace(inPlace) {
-        if (element.doublePrecision)
-            fill<double>();
-        else
-            fill<float>();
+        for (int placement = 0; placement < placements; ++placement)
+            if (element.doublePrecision)
+                fill<double>(placement);
+            else
+                fill<float>(placement);
     }
 
-    void* source() const { return start; }
-    void* destination() const { return inPlace ? start : start + bytes; }
+    static constexpr int placements = 4;
+    void* source(int placement = 0) const { return start + placement * stride; }
+    void* destination(int placement = 0) const {
+        return start + placement * stride + (inPlace ? 0 : bytes);
+    }
 
 private:
     template <class Real>
-    void fill() {
+    void fill(int placement) {
         std::minstd_rand random;
         std::uniform_real_distribution<Real> magnitude(Real(0.25), Real(1));
-        std::generate_n(static_cast<Real*>(source()), (bytes - 8) / sizeof(Real),
+        std::generate_n(static_cast<Real*>(source(placement)), (bytes - 8) / sizeof(Real),
                         [&] { return random() % 2 ? magnitude(random) : -magnitude(random); });
     }
 
-    static constexpr std::size_t lineBytes = 64;
-    std::size_t bytes;   // of each signal, with room for the offset of an unaligned one
+    static constexpr std::size_t lineBytes = 64, pageBytes = 4096;
+    std::size_t bytes;    // of each signal, with room for the offset of an unaligned one
+    std::size_t stride;   // between placements
     std::unique_ptr<std::byte, decltype(&std::free)> block;
     std::byte* start;
     bool inPlace;
@@ -52,9 +60,11 @@ using Transform = KfmStatus (*)(const void*, void*, int);
 
 inline std::function<void(long)> repeatCall(Transform transform,
                                             std::shared_ptr<const Signals> signals, int flag) {
-    return [=](long calls) {
-        for (long i = 0; i < calls; ++i)
-            transform(signals->source(), signals->destination(), flag);
+    return [=, batch = 0](long calls) mutable {
+        const int placement = batch++ % Signals::placements;
+        const void* source = signals->source(placement);
+        void* destination = signals->destination(placement);
+        for (long i = 0; i < calls; ++i) transform(source, destination, flag);
     };
 }
 

@@ -16,14 +16,17 @@ namespace kfm::kernelgen {
 struct KernelFamily {
     std::string_view source;   // as in the registry: "DFT_CToC"
 
-    // The graph of one transform, scale factor and memory operations left open.
-    std::function<Graph(int length, const registry::Element&, bool inverse)> graph;
+    // The graph of one transform, scale factor and memory operations left open. Throws for a
+    // target whose vectors the family has no lane mapping for.
+    std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph;
     // The factor tree and the lane mapping in words.
     std::function<std::string(int length, const registry::Element&)> describe;
     // The schedule on record.
     std::function<ScheduleChoice(int length, const registry::Element&, const Target&)> choice;
     // The C++ source of all functions of one length and element type.
-    std::function<std::string(int length, const registry::Element&, const ScheduleChoice&)> emit;
+    std::function<std::string(int length, const registry::Element&, const Target&,
+                              const ScheduleChoice&)>
+        emit;
 };
 
 }   // namespace kfm::kernelgen

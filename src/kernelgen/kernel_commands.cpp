@@ -41,29 +41,35 @@ const KernelFamily& kernelFamily(std::string_view source) {
 std::string kernelSource(std::string_view source, int length, const Element& element,
                          const Target& target, std::string_view choice) {
     const KernelFamily& family = kernelFamily(source);
-    return family.emit(length, element,
+    return family.emit(length, element, target,
                        choice.empty() ? family.choice(length, element, target)
                                       : ScheduleChoice::parse(choice));
 }
 
 std::string explain(std::string_view source, int length, const Element& element) {
     const KernelFamily& family = kernelFamily(source);
-    const OperationCounts counts = countOperations(family.graph(length, element, false));
     std::ostringstream out;
     out << source << ' ' << length << ' ' << element.suffix << '\n'
         << "  factors          " << family.describe(length, element) << '\n';
-    for (const Target& target : targets())
-        out << "  schedule         " << family.choice(length, element, target).text() << " on "
-            << target.name << '\n';
-    for (const auto& [name, member] : columns)
-        out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
+    for (const Target& target : targets()) {
+        const Graph graph = family.graph(length, element, target, false);
+        const ScheduleChoice choice = family.choice(length, element, target);
+        out << target.name << '\n'
+            << "  schedule         " << choice.text() << '\n'
+            << "  reloads          " << countReloads(graph, schedule(graph, choice),
+                                                     target.vectorRegisters)
+            << " at least, with " << target.vectorRegisters << " registers\n";
+        const OperationCounts counts = countOperations(graph);
+        for (const auto& [name, member] : columns)
+            out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
+    }
     return out.str();
 }
 
 std::string dump(std::string_view stage, std::string_view source, int length,
                  const Element& element, const Target& target) {
     const KernelFamily& family = kernelFamily(source);
-    const Graph graph = family.graph(length, element, false);
+    const Graph graph = family.graph(length, element, target, false);
     const std::vector<int> scheduled = schedule(graph, family.choice(length, element, target));
     if (stage == "schedule") return dumpText(graph, scheduled);
     if (stage == "dot") return dumpDot(graph, scheduled);
@@ -85,7 +91,8 @@ std::string operationCountTable() {
         for (const Element* element : family.elements)
             for (int length = family.first; length <= family.last; ++length) {
                 const OperationCounts counts = countOperations(
-                    kernelFamily(family.kernelSource).graph(length, *element, false));
+                    kernelFamily(family.kernelSource)
+                        .graph(length, *element, *findTarget("sse2-x86-64"), false));
                 out << family.kernelSource << ' ' << length << ' ' << element->suffix;
                 for (const auto& [name, member] : columns) out << ' ' << counts.*member;
                 out << '\n';

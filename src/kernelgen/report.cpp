@@ -1,5 +1,8 @@
 #include "kernelgen/report.h"
 
+#include <algorithm>
+#include <map>
+#include <set>
 #include <sstream>
 
 #include "kernelgen/schedule.h"
@@ -63,6 +66,37 @@ OperationCounts countOperations(const Graph& g) {
     }
     counts.stores = static_cast<int>(g.outputs().size());
     return counts;
+}
+
+int countReloads(const Graph& g, const std::vector<int>& order, int registers) {
+    std::map<int, std::vector<int>> uses;   // positions, the next one last
+    for (int at = static_cast<int>(order.size()) - 1; at >= 0; --at)
+        for (const Ref operand : {g.nodes()[order[at]].a, g.nodes()[order[at]].b})
+            if (!operand.isZero()) uses[operand.node()].push_back(at);
+    std::set<int> held;
+    int reloads = 0;
+    const auto hold = [&](int node) {
+        held.insert(node);
+        if (static_cast<int>(held.size()) <= registers) return;
+        held.erase(*std::ranges::max_element(held, {}, [&](int other) {
+            return other == node ? -1 : uses[other].back();
+        }));
+    };
+    for (const int index : order) {
+        const Node& node = g.nodes()[index];
+        for (const Ref operand : {node.a, node.b}) {
+            if (operand.isZero()) continue;
+            if (!held.contains(operand.node())) ++reloads, hold(operand.node());
+        }
+        for (const Ref operand : {node.a, node.b}) {
+            if (operand.isZero()) continue;
+            std::vector<int>& left = uses[operand.node()];
+            left.pop_back();
+            if (left.empty()) held.erase(operand.node());
+        }
+        if (!uses[index].empty()) hold(index);
+    }
+    return reloads;
 }
 
 std::string dumpText(const Graph& g, const std::vector<int>& order) {

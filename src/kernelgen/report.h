@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "kernelgen/graph.h"
 
@@ -13,6 +14,10 @@ struct OperationCounts {
 };
 
 OperationCounts countOperations(const Graph& g);
+
+// How many values an order must fetch again with so many registers, when the register whose value
+// is needed latest is given up (L. Belady, 1966). Compilers need more.
+int countReloads(const Graph& g, const std::vector<int>& order, int registers);
 
 // The nodes in the given order, a line each.
 std::string dumpText(const Graph& g, const std::vector<int>& order);

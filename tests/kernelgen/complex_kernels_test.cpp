@@ -11,6 +11,8 @@
 #include "dft/complex/two_step.h"
 #include "kernelgen/evaluate.h"
 #include "kernelgen/kernel_commands.h"
+#include "kfmgen.h"
+#include "registry/functions.h"
 
 using namespace kfm::kernelgen;
 using namespace kfm::dft::complex;
@@ -104,6 +106,28 @@ TEST(TwoStep, MapsAreBijections) {
         EXPECT_EQ(outputs.size(), std::size_t(plan.n)) << plan.text();
         EXPECT_EQ(*inputs.rbegin(), plan.n - 1) << plan.text();
         EXPECT_EQ(*outputs.rbegin(), plan.n - 1) << plan.text();
+    }
+}
+
+// The compiler keeps every operation of the graph: the library gives the evaluation's bits.
+template <class Real>
+void expectBitsOfTheGraph(const kfm::registry::Function& function, bool inverse) {
+    const int n = function.length;
+    std::vector<Real> x(2 * n), y(2 * n);
+    for (int i = 0; i < 2 * n; ++i) x[i] = Real((i * 7919 + 104729) % 1009) / 3 - 100;
+    using Kernel = KfmStatus (*)(const Real*, Real*, int);
+    ASSERT_EQ(reinterpret_cast<Kernel>(function.address)(x.data(), y.data(), kfmScaleNone), kfmOk);
+    EXPECT_EQ(evaluate<Real>(kernelGraph(n, sizeof(Real) == 4, inverse), 2, x), y) << function.name;
+}
+
+TEST(CompiledKernels, GiveTheBitsOfTheirGraphs) {
+    for (const kfm::registry::Function& function : kfm::registry::functions()) {
+        const kfm::registry::Family* family = kfm::registry::findFamily(function.family);
+        if (family->kernelSource != kfm::dft::complex::kernelFamily().source || function.length == 0) continue;
+        if (std::string_view(function.element) == "32fc")
+            expectBitsOfTheGraph<float>(function, family->inverse());
+        else
+            expectBitsOfTheGraph<double>(function, family->inverse());
     }
 }
 

@@ -1,5 +1,5 @@
 // Single precision: from a length to the graph of its lane mapping.
-#include <stdexcept>
+#include <algorithm>
 
 #include "dft/complex/complex_kernels.h"
 #include "dft/complex/single_graphs.h"
@@ -38,88 +38,59 @@ void raderGraph(Graph& g, const Plan& plan, Sign sign, LaneTransform transform) 
     }
 }
 
-}   // namespace
-
-// One complex element in the lower half of a vector, taken as a formal real.
-void elementGraph(Graph& g, const Plan& plan, Sign sign) {
-    std::vector<Ref> x;
-    for (int i = 0; i < plan.n; ++i) x.push_back(g.load(i));
-    const HalfSpectrum spectrum = realDft(g, plan, x);
-    for (int k = 0; 2 * k <= plan.n; ++k) {
-        const auto [p, q] = spectrum[k];
-        if (q.isZero()) {
-            g.store(k, -1, p);
-            continue;
-        }
-        const Ref iq = g.flip(g.select(q, neighbours), {1, 0, 0, 0});
-        g.store(sign == Sign::minus ? k : plan.n - k, -1, g.add(p, iq));
-        g.store(sign == Sign::minus ? plan.n - k : k, -1, g.sub(p, iq));
-    }
+void raderPairGraph(Graph& g, const Plan& plan, Sign sign) {
+    raderGraph(g, plan, sign, raderPairTransform);
 }
 
+void raderRowGraph(Graph& g, const Plan& plan, Sign sign) {
+    raderGraph(g, plan, sign, raderRowTransform);
+}
+
+void rowGraph(Graph& g, const Plan& plan, Sign sign) {
+    storeAll(g, rowTransform(g, TwoStep(plan), sign, sameElement));
+}
+
+void joinedRowGraph(Graph& g, const Plan& plan, Sign sign) {
+    storeAll(g, rowTransform(g, TwoStep(plan, true), sign, sameElement));
+}
+
+struct MappingRow {
+    LaneMapping mapping;
+    const char* text;
+    void (*build)(Graph&, const Plan&, Sign);
+};
+
+constexpr MappingRow mappings[] = {
+    {LaneMapping::element, "one element in half a vector", elementGraph},
+    {LaneMapping::rows, "four rows, transposed to four columns", rowGraph},
+    {LaneMapping::joinedRows, "four rows of the twiddled step, transposed to four columns",
+     joinedRowGraph},
+    {LaneMapping::rowPairs, "four rows, two columns across the lanes", rowPairGraph},
+    {LaneMapping::symmetric, "sums and differences of both columns", twoColumnGraph},
+    {LaneMapping::raderPair, "Rader sums and differences of two positions",
+     raderPairGraph},
+    {LaneMapping::raderPadded,
+     "Rader sums and differences, even and odd samples of the padded convolution",
+     raderPairGraph},
+    {LaneMapping::raderMirror, "Rader sums and differences of mirrored positions",
+     raderMirrorGraph},
+    {LaneMapping::raderHalf, "Rader sums and differences in half of the lanes", raderHalfGraph},
+    {LaneMapping::raderTwo, "Rader sums and differences of both columns", twoColumnGraph},
+    {LaneMapping::raderRows, "four rows of the Rader convolution", raderRowGraph},
+};
+
+const MappingRow& find(LaneMapping mapping) {
+    return *std::ranges::find(mappings, mapping, &MappingRow::mapping);
+}
+
+}   // namespace
+
 Graph singleGraph(const SinglePrecisionRow& row, bool inverse) {
-    const Sign sign = inverse ? Sign::plus : Sign::minus;
     Graph g(4);
-    switch (row.lanes) {
-    case LaneMapping::element:
-        elementGraph(g, row.plan, sign);
-        break;
-    case LaneMapping::rows:
-        storeAll(g, rowTransform(g, TwoStep(row.plan), sign, sameElement));
-        break;
-    case LaneMapping::joinedRows:
-        storeAll(g, rowTransform(g, TwoStep(row.plan, true), sign, sameElement));
-        break;
-    case LaneMapping::rowPairs:
-        rowPairGraph(g, row.plan, sign);
-        break;
-    case LaneMapping::symmetric:
-    case LaneMapping::raderTwo:
-        twoColumnGraph(g, row.plan, sign);
-        break;
-    case LaneMapping::raderPair:
-    case LaneMapping::raderPadded:
-        raderGraph(g, row.plan, sign, raderPairTransform);
-        break;
-    case LaneMapping::raderMirror:
-        raderMirrorGraph(g, row.plan, sign);
-        break;
-    case LaneMapping::raderHalf:
-        raderHalfGraph(g, row.plan, sign);
-        break;
-    case LaneMapping::raderRows:
-        raderGraph(g, row.plan, sign, raderRowTransform);
-        break;
-    }
+    find(row.lanes).build(g, row.plan, inverse ? Sign::plus : Sign::minus);
     return g;
 }
 
-std::string text(LaneMapping mapping) {
-    switch (mapping) {
-    case LaneMapping::element:
-        return "one element in half a vector";
-    case LaneMapping::rows:
-        return "four rows, transposed to four columns";
-    case LaneMapping::joinedRows:
-        return "four rows of the twiddled step, transposed to four columns";
-    case LaneMapping::rowPairs:
-        return "four rows, two columns across the lanes";
-    case LaneMapping::symmetric:
-        return "sums and differences of both columns";
-    case LaneMapping::raderPair:
-        return "Rader sums and differences of two positions";
-    case LaneMapping::raderPadded:
-        return "Rader sums and differences, even and odd samples of the padded convolution";
-    case LaneMapping::raderMirror:
-        return "Rader sums and differences of mirrored positions";
-    case LaneMapping::raderHalf:
-        return "Rader sums and differences in half of the lanes";
-    case LaneMapping::raderTwo:
-        return "Rader sums and differences of both columns";
-    case LaneMapping::raderRows:
-        return "four rows of the Rader convolution";
-    }
-    throw std::invalid_argument("unknown lane mapping");
-}
+std::string text(LaneMapping mapping) { return find(mapping).text; }
 
 }   // namespace kfm::dft::complex
