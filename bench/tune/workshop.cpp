@@ -25,7 +25,7 @@ void runAll(const std::vector<std::string>& commands) {
             if (std::system(commands[i].c_str()) != 0) failed = i;
     };
     {
-        std::jthread helper(work);
+        std::jthread second(work);
         work();
     }
     if (failed < commands.size()) throw std::runtime_error("failed: " + commands[failed]);

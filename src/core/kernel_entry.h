@@ -6,8 +6,6 @@
 
 #include "kfmgen.h"
 
-#define KFM_LIKELY(condition) __builtin_expect(!!(condition), 1)
-
 namespace kfm {
 
 inline bool misaligned(const void* pointer) {

@@ -62,10 +62,10 @@ Plan rader(const Plan& convolution, int root) {
     return plan;
 }
 
-Plan paddedRader(int prime, const Plan& longer) {
+Plan paddedRader(int prime, const Plan& quarter) {
     if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
-    if (longer.n < 2 * prime - 3) refuse(prime, "the padded convolution wraps around");
-    Plan plan(prime, Plan::Kind::paddedRader, {longer});
+    if (4 * quarter.n < 2 * prime - 3) refuse(prime, "the padded convolution wraps around");
+    Plan plan(prime, Plan::Kind::paddedRader, {quarter});
     plan.root = smallestPrimitiveRoot(prime);
     return plan;
 }
@@ -86,7 +86,8 @@ std::string Plan::text() const {
     case Kind::rader:
         return length + " = Rader(" + first().text() + ")";
     case Kind::paddedRader:
-        return length + " = Rader padded to " + first().text();
+        return length + " = Rader padded to " + std::to_string(4 * first().n) + " = 4 x (" +
+               first().text() + ")";
     }
     refuse(n, "unknown kind");
 }

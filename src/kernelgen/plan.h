@@ -15,14 +15,15 @@ struct Plan {
         pfa,         // Good-Thomas: first x second, coprime, no twiddle factors
         ct,          // Cooley-Tukey: first x second with twiddle factors between
         rader,       // a prime as a cyclic convolution of length n - 1
-        paddedRader  // the same by a longer DFT of `convolution` points
+        paddedRader  // the same, the convolution continued to a longer one
     };
 
     Plan(int n);   // an integer in a factor tree: the direct module, or a power of two
 
     int n = 0;
     Kind kind = Kind::direct;
-    std::vector<Plan> parts;   // pfa, ct: first, second; rader: the plan of the convolution
+    std::vector<Plan> parts;   // pfa, ct: first, second; rader: the plan of the convolution;
+                               // paddedRader: of a fourth of it
     int root = 0;              // rader: the primitive root
 
     const Plan& first() const { return parts[0]; }
@@ -45,8 +46,8 @@ Plan ct(const Plan& first, const Plan& second);
 // The prime p = convolution.n + 1. Every primitive root gives the same transform with other
 // roundings; 0 takes the smallest.
 Plan rader(const Plan& convolution, int root = 0);
-// The prime by a convolution padded to longer.n points.
-Plan paddedRader(int prime, const Plan& longer);
+// The prime by a convolution padded to 4 * quarter.n points, a fourth of which is one transform.
+Plan paddedRader(int prime, const Plan& quarter);
 
 bool isPrimitiveRoot(int g, int prime);
 int powerModulo(int base, int exponent, int modulus);

@@ -82,7 +82,7 @@ TEST(Plans, RefuseWhatTheirAlgorithmCannotDo) {
     EXPECT_THROW(Plan(9), std::invalid_argument);
     EXPECT_THROW(pfa(2, 4), std::invalid_argument);
     EXPECT_THROW(rader(8), std::invalid_argument);
-    EXPECT_THROW(paddedRader(47, 64), std::invalid_argument);
+    EXPECT_THROW(paddedRader(47, 16), std::invalid_argument);
     EXPECT_THROW(ct(5, 1), std::invalid_argument);
     try {
         pfa(6 + 1, ct(7, 3));

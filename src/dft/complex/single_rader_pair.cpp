@@ -45,10 +45,9 @@ Positions residuesModulo4(const Plan& plan, const RaderOrder& order) {
 }
 
 Positions evenAndOddSamples(const Plan& plan, const RaderOrder& order) {
-    // plan.first() has the length of the padded transform; its even and odd bins are the two
-    // convolutions, and even and odd samples halve it once more.
-    static const Plan quarter24 = pfa(8, 3), quarter32 = 32;
-    const Plan& quarter = plan.first().n == 96 ? quarter24 : quarter32;
+    // Even and odd bins of the padded transform are the two convolutions; even and odd samples
+    // halve each once more.
+    const Plan& quarter = plan.first();
     const int q = (plan.n - 1) / 2, n = quarter.n;
     const auto position = [q](int i, int lane) { return 2 * i + lane < q ? 2 * i + lane : -1; };
     // The convolution kernel h[t], t = -(q-1)..q-1, at t modulo 2n: its samples 2i + phase.
