@@ -190,7 +190,8 @@ TEST_P(RoundTrip, RestoresTheSignal) {
         const std::vector<Quad> expected(signal.begin(), signal.end());
         for (int flag : {kfmScaleFwdByN, kfmScaleInvByN, kfmScaleBySqrtN}) {
             const Signal restored = run(*inverse, run(forward, signal, flag), flag);
-            ASSERT_LE(errorInUnits(forward, restored, expected), 2 * promisedForSignals) << "flag " << flag;
+            ASSERT_LE(errorInUnits(forward, restored, expected), 2 * promisedForSignals)
+                << "flag " << flag;
         }
     }
 }

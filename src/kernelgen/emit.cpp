@@ -114,7 +114,8 @@ private:
 
     static std::string select(const Node& node) {
         std::string lanes;
-        for (const int lane : node.pattern) lanes += (lanes.empty() ? "" : ", ") + std::to_string(lane);
+        for (const int lane : node.pattern)
+            lanes += (lanes.empty() ? "" : ", ") + std::to_string(lane);
         return "select<" + lanes + ">(" + name(node.a) + ", " + name(node.b) + ")";
     }
 
@@ -133,7 +134,8 @@ private:
     void printStore(const Output& output) {
         const std::string first = "dst + " + std::to_string(output.first);
         const std::string second = "dst + " + std::to_string(output.second);
-        const std::string value = "mul(" + name(output.node) + ", " + scales_.at(output.negated) + ")";
+        const std::string value =
+            "mul(" + name(output.node) + ", " + scales_.at(output.negated) + ")";
         out_ << "        ";
         if (!single_)
             out_ << "Memory::store(" << first;

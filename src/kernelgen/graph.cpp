@@ -87,7 +87,8 @@ Ref Graph::unsignedRef(Ref a) {
     const Node original = node(a);
     if (original.op == Op::sub) return intern({.op = Op::sub, .a = original.b, .b = original.a});
     if (original.op == Op::mul) {
-        const LaneConstant negated = product(LaneConstant(lanes_, -1), constants_[original.constant]);
+        const LaneConstant negated =
+            product(LaneConstant(lanes_, -1), constants_[original.constant]);
         return intern({.op = Op::mul, .a = original.a, .constant = internConstant(negated)});
     }
     return flip(-a, LanePattern(lanes_, 1));
@@ -100,7 +101,8 @@ Ref Graph::select(Ref a, Ref b, const LanePattern& pattern) {
     b = unsignedRef(b);
     bool identity = true;
     for (int lane = 0; lane < lanes_; ++lane)
-        identity = identity && (pattern[lane] == lane || (a == b && pattern[lane] == lane + lanes_));
+        identity = identity &&
+                   (pattern[lane] == lane || (a == b && pattern[lane] == lane + lanes_));
     if (identity) return a;
     return intern({.op = Op::select, .a = a, .b = b, .pattern = pattern});
 }

@@ -102,7 +102,8 @@ const Target& target(const Arguments& arguments) {
 struct KernelName {
     explicit KernelName(const Arguments& arguments)
         : source(arguments.option("--kernels", "DFT_CToC")) {
-        if (arguments.words.size() != 2) throw std::invalid_argument("name a length and an element");
+        if (arguments.words.size() != 2)
+            throw std::invalid_argument("name a length and an element");
         length = std::stoi(arguments.words[0]);
         element = registry::findElement(arguments.words[1]);
         if (element == nullptr)

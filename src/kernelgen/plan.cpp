@@ -56,7 +56,8 @@ Plan rader(const Plan& convolution, int root) {
     const int prime = convolution.n + 1;
     if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
     if (root == 0) root = smallestPrimitiveRoot(prime);
-    if (!isPrimitiveRoot(root, prime)) refuse(prime, std::to_string(root) + " is no primitive root");
+    if (!isPrimitiveRoot(root, prime))
+        refuse(prime, std::to_string(root) + " is no primitive root");
     Plan plan(prime, Plan::Kind::rader, {convolution});
     plan.root = root;
     return plan;

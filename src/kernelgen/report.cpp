@@ -101,7 +101,8 @@ int countReloads(const Graph& g, const std::vector<int>& order, int registers) {
 
 std::string dumpText(const Graph& g, const std::vector<int>& order) {
     std::ostringstream out;
-    for (const int index : order) out << 't' << index << " = " << label(g, g.nodes()[index]) << '\n';
+    for (const int index : order)
+        out << 't' << index << " = " << label(g, g.nodes()[index]) << '\n';
     for (const Output& output : g.outputs()) {
         out << "store " << output.first;
         if (output.second >= 0) out << ", " << output.second;

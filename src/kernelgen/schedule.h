@@ -24,7 +24,7 @@ struct ScheduleChoice {
     int seed = 0;             // 0: ties go to the youngest operand; else a pseudo-random choice
     bool transposed = false;  // schedule the reversed graph and reverse the order
     Pin pin = Pin::none;      // after which nodes the compiler must keep the order
-    bool relaunder = false;   // hide the constants anew every few nodes, so none is kept and spilled
+    bool relaunder = false;   // hide the constants anew every few nodes: none is kept and spilled
 
     static ScheduleChoice parse(std::string_view text);   // "24:0:0:none:0"
     std::string text() const;

@@ -123,7 +123,8 @@ void expectBitsOfTheGraph(const kfm::registry::Function& function, bool inverse)
 TEST(CompiledKernels, GiveTheBitsOfTheirGraphs) {
     for (const kfm::registry::Function& function : kfm::registry::functions()) {
         const kfm::registry::Family* family = kfm::registry::findFamily(function.family);
-        if (family->kernelSource != kfm::dft::complex::kernelFamily().source || function.length == 0) continue;
+        const bool mine = family->kernelSource == kfm::dft::complex::kernelFamily().source;
+        if (!mine || function.length == 0) continue;
         if (std::string_view(function.element) == "32fc")
             expectBitsOfTheGraph<float>(function, family->inverse());
         else
@@ -146,7 +147,8 @@ TEST(Emission, IsDeterministicAndOneTextForBothCopies) {
     EXPECT_EQ(text, kernelSource("DFT_CToC", 25, *element, target));
     EXPECT_NE(text.find("owngDFTInv_CToC_25_32fc_unaligned"), std::string::npos);
     std::size_t transforms = 0;
-    for (std::size_t at = 0; (at = text.find("static void transform", at)) != std::string::npos; ++at)
+    const std::string signature = "static void transform";
+    for (std::size_t at = 0; (at = text.find(signature, at)) != std::string::npos; ++at)
         ++transforms;
     EXPECT_EQ(transforms, 2u) << "one forward, one inverse";
 }

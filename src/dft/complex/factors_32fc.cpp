@@ -14,10 +14,10 @@ using namespace kernelgen;
 
 SinglePrecisionRow singlePrecisionRow(int n) {
     using enum LaneMapping;
-    const Plan nine = ct(3, 3), fifteen = ct(3, 5), twentySeven = ct(3, nine);
-    const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(ct(4, 4));
-    const Plan nineteen = rader(pfa(2, nine)), twentyThree = rader(pfa(2, 11));
-    const Plan twentyNine = rader(pfa(4, 7)), thirtyOne = rader(pfa(2, pfa(3, 5)));
+    static const Plan nine = ct(3, 3), fifteen = ct(3, 5), twentySeven = ct(3, nine);
+    static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(ct(4, 4));
+    static const Plan nineteen = rader(pfa(2, nine)), twentyThree = rader(pfa(2, 11));
+    static const Plan twentyNine = rader(pfa(4, 7)), thirtyOne = rader(pfa(2, pfa(3, 5)));
     static const std::map<int, SinglePrecisionRow> table = {
         {2, {2, element}},
         {3, {3, element}},

@@ -12,10 +12,11 @@ namespace kfm::dft::complex {
 using namespace kernelgen;
 
 Plan doublePrecisionPlan(int n) {
-    const Plan nine = ct(3, 3), thirteen = rader(pfa(4, 3)), seventeen = rader(16);
-    const Plan nineteen = rader(pfa(2, nine), 3), twentyThree = rader(pfa(2, 11));
-    const Plan twentyFive = ct(5, 5), twentySeven = ct(3, nine), twentyNine = rader(pfa(4, 7));
-    const Plan thirtyOne = rader(pfa(2, pfa(3, 5)));
+    static const Plan nine = ct(3, 3), thirteen = rader(pfa(4, 3)), seventeen = rader(16);
+    static const Plan nineteen = rader(pfa(2, nine), 3), twentyThree = rader(pfa(2, 11));
+    static const Plan twentyFive = ct(5, 5), twentySeven = ct(3, nine);
+    static const Plan twentyNine = rader(pfa(4, 7));
+    static const Plan thirtyOne = rader(pfa(2, pfa(3, 5)));
     static const std::map<int, Plan> table = {
         {2, 2},
         {3, 3},

@@ -2,6 +2,7 @@
 // and back: the way back starts where the way there ends, columns in the lanes, so that the
 // products with the transformed roots need no shuffle.
 #include <algorithm>
+#include <stdexcept>
 
 #include "dft/complex/single_graphs.h"
 
@@ -50,6 +51,8 @@ std::vector<LaneVector> raderRowTransform(Graph& g, const Plan& plan, Sign sign,
                                           const ElementMap& input) {
     const RaderOrder order(plan);
     const TwoStep step(plan.first());
+    if (step.columns % 4 == 1)
+        throw std::invalid_argument(plan.text() + ": a lone column would not come back in place");
     const std::vector<LaneVector> bins = rowTransform(
         g, step, Sign::minus, [&](int m) { return input(order.input[m]); });
 

@@ -98,7 +98,8 @@ public:
         const int left = step.columns % 4;
         if (isOddDirect(step.second) && step.rows > 4 && (left == 1 || left == 2))
             rowOrder_ = mirroredOrder(step.rows);
-        if (left == 1 && isTwiceOddDirect(step.second)) rowOrder_ = mirroredPairOrder(step.rows / 2);
+        if (left == 1 && isTwiceOddDirect(step.second))
+            rowOrder_ = mirroredPairOrder(step.rows / 2);
         if (left == 1) std::ranges::rotate(columnOrder_, columnOrder_.begin() + 1);
         if (fewRowsLeft()) columnOrder_ = mirroredOrder(step.columns);
     }
@@ -116,10 +117,11 @@ public:
     }
 
 private:
+    bool mirrored() const { return rowOrder_.front() != 0; }
+
     // One or two last rows whose spectra fill one group of columns and a lone column.
     bool fewRowsLeft() const {
-        const bool mirrored = rowOrder_.front() != 0;
-        return mirrored && step_.rows % 4 <= 2 && isOddDirect(step_.first) && step_.columns == 5;
+        return mirrored() && step_.rows % 4 <= 2 && isOddDirect(step_.first) && step_.columns == 5;
     }
 
     int inputOf(int row, int i) const { return input_(step_.input(row, i)); }
@@ -142,7 +144,8 @@ private:
         const int a = rows_.back()[0], b = rows_.back()[1], p = step_.columns;
         std::vector<MirroredPair> pairs;
         for (int i = 1; 2 * i < p; ++i)
-            pairs.push_back({{inputOf(a, i), inputOf(b, i)}, {inputOf(a, p - i), inputOf(b, p - i)}});
+            pairs.push_back({{inputOf(a, i), inputOf(b, i)},
+                             {inputOf(a, p - i), inputOf(b, p - i)}});
         lastColumnZero_ = load4(g_, {inputOf(a, 0), inputOf(b, 0), -1, -1});
         lastColumnZero_ = lowerHalf(g_, lastColumnZero_);
         const std::vector<Complex> parts =
@@ -153,12 +156,11 @@ private:
 
     void transformColumns(const Elements& columns) {
         const int count = countOf(columns);
-        const bool mirrored = rowOrder_.front() != 0;
         if (step_.rows == 4 && count == 1)
             result_.push_back(singleColumn(g_, step_, sign_, rowsOf(0, columns[0]), columns[0]));
-        else if (mirrored && count == 1)
+        else if (mirrored() && count == 1)
             loneColumn(columns[0]);
-        else if (mirrored && count == 2)
+        else if (mirrored() && count == 2)
             columnPair(columns[0], columns[1]);
         else
             transposedColumns(columns, count);
@@ -252,7 +254,8 @@ std::vector<LaneVector> rowTransform(Graph& g, const TwoStep& step, Sign sign,
 
 void rowPairGraph(Graph& g, const Plan& plan, Sign sign) {
     const TwoStep step(plan);
-    const std::vector<Complex> rows = rowGroup(g, step, sign, [](int i) { return i; }, {0, 1, 2, 3});
+    const std::vector<Complex> rows =
+        rowGroup(g, step, sign, [](int i) { return i; }, {0, 1, 2, 3});
     const auto column = [&](int k1) {
         return twiddleRows(g, step, sign, rows[k1], {0, 1, 2, 3}, k1);
     };
