@@ -114,6 +114,18 @@ Ref Graph::flip(Ref a, const LanePattern& lanes) {
     return intern({.op = Op::flip, .a = a.magnitude(), .pattern = mask});
 }
 
+std::vector<int> Graph::liveNodes() const {
+    std::vector<char> needed(nodes_.size());
+    for (const Output& output : outputs_) needed[output.node] = 1;
+    for (int i = static_cast<int>(nodes_.size()) - 1; i >= 0; --i)
+        for (const Ref operand : {nodes_[i].a, nodes_[i].b})
+            if (needed[i] && !operand.isZero()) needed[operand.node()] = 1;
+    std::vector<int> live;
+    for (int i = 0; i < static_cast<int>(nodes_.size()); ++i)
+        if (needed[i]) live.push_back(i);
+    return live;
+}
+
 void Graph::store(int first, int second, Ref value, LanePattern negated) {
     negated.resize(lanes_, 0);
     if (value.negative())

@@ -85,6 +85,8 @@ public:
 
     void store(int first, int second, Ref value, LanePattern negated = {});
     const std::vector<Output>& outputs() const { return outputs_; }
+    // The nodes that an output depends on, operands before their users.
+    std::vector<int> liveNodes() const;
 
 private:
     Ref difference(Ref a, Ref b);

@@ -81,7 +81,7 @@ std::string dump(std::string_view stage, std::string_view source, int length,
 
 std::string operationCountTable() {
     std::ostringstream out;
-    out << "# Vector operations of each kernel: " << "`kernelgen counts` writes this table.\n"
+    out << "# Vector operations of each kernel: `kernelgen counts` writes this table.\n"
         << "kernels length element";
     for (const auto& [name, member] : columns) out << ' ' << name;
     out << '\n';

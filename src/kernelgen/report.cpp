@@ -5,8 +5,6 @@
 #include <set>
 #include <sstream>
 
-#include "kernelgen/schedule.h"
-
 namespace kfm::kernelgen {
 namespace {
 
@@ -44,7 +42,7 @@ std::string label(const Graph& g, const Node& node) {
 
 OperationCounts countOperations(const Graph& g) {
     OperationCounts counts;
-    for (const int index : schedule(g, {})) {
+    for (const int index : g.liveNodes()) {
         switch (g.nodes()[index].op) {
         case Op::load:
             ++counts.loads;

@@ -15,25 +15,17 @@ struct Edges {
     std::vector<std::vector<int>> before, after;
 };
 
-Edges liveEdges(const Graph& g, std::vector<int>& live) {
-    const int count = static_cast<int>(g.nodes().size());
-    std::vector<char> needed(count);
-    for (const Output& output : g.outputs()) needed[output.node] = 1;
+Edges edgesBetween(const Graph& g, const std::vector<int>& live) {
+    const std::size_t count = g.nodes().size();
     Edges edges{std::vector<std::vector<int>>(count), std::vector<std::vector<int>>(count)};
-    for (int i = count - 1; i >= 0; --i) {
-        if (!needed[i]) continue;
-        const Node& node = g.nodes()[i];
-        for (const Ref operand : {node.a, node.b}) {
+    for (auto node = live.rbegin(); node != live.rend(); ++node) {
+        const auto [a, b] = std::pair(g.nodes()[*node].a, g.nodes()[*node].b);
+        for (const Ref operand : {a, b == a ? Ref() : b}) {
             if (operand.isZero()) continue;
-            const int from = operand.node();
-            needed[from] = 1;
-            if (node.a == node.b && !edges.before[i].empty()) continue;
-            edges.before[i].push_back(from);
-            edges.after[from].push_back(i);
+            edges.before[*node].push_back(operand.node());
+            edges.after[operand.node()].push_back(*node);
         }
     }
-    for (int i = 0; i < count; ++i)
-        if (needed[i]) live.push_back(i);
     return edges;
 }
 
@@ -208,8 +200,8 @@ std::vector<ScheduleChoice> scheduleCandidates() {
 }
 
 std::vector<int> schedule(const Graph& g, const ScheduleChoice& choice) {
-    std::vector<int> live;
-    Edges edges = liveEdges(g, live);
+    const std::vector<int> live = g.liveNodes();
+    Edges edges = edgesBetween(g, live);
     if (choice.transposed) std::swap(edges.before, edges.after);
     std::vector<int> order = Scheduler(std::move(edges), choice).run(live);
     if (choice.transposed) std::ranges::reverse(order);

@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(All, ComplexGraph,
 std::set<float> constantsOf(int n, bool single) {
     const Graph g = kernelGraph(n, single, false);
     std::set<float> result;
-    for (const int index : schedule(g, {}))
+    for (const int index : g.liveNodes())
         if (const Node& node = g.nodes()[index]; node.op == Op::mul)
             for (const Constant& lane : g.constant(node.constant))
                 result.insert(std::abs(static_cast<float>(lane.value())));

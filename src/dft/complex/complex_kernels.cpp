@@ -15,6 +15,8 @@ using registry::Family;
 
 namespace {
 
+constexpr std::string_view kernels = "DFT_CToC";
+
 Graph graph(int n, const Element& element, const Target& target, bool inverse) {
     if (target.vectorBytes != 16)
         throw std::invalid_argument("complex DFT: no lane mapping for " + std::string(target.name));
@@ -93,7 +95,7 @@ std::string emit(int n, const Element& element, const Target& target,
         << "using kfm::launder;\nusing Vector = "
         << (element.doublePrecision ? "f64x2" : "f32x4") << ";\n\n";
     for (const Family& family : registry::families()) {
-        if (family.kernelSource != kernelFamily().source) continue;
+        if (family.kernelSource != kernels) continue;
         const std::string kernel = family.inverse() ? "Inverse" : "Forward";
         out << emitTransform(graph(n, element, target, family.inverse()), kernel + "Transform",
                              element, choice)
@@ -109,6 +111,6 @@ std::string emit(int n, const Element& element, const Target& target,
 
 }   // namespace
 
-KernelFamily kernelFamily() { return {"DFT_CToC", graph, describe, choice, emit}; }
+KernelFamily kernelFamily() { return {kernels, graph, describe, choice, emit}; }
 
 }   // namespace kfm::dft::complex

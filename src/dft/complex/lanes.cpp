@@ -54,6 +54,11 @@ Complex load4(Graph& g, const Elements& elements) {
     return {part(0), part(1)};
 }
 
+Complex loadLane0(Graph& g, int element) {
+    const Ref value = g.load(element);
+    return {g.select(value, {0, 2, 2, 2}), g.select(value, {1, 2, 2, 2})};
+}
+
 void storeHalf(Graph& g, int first, int second, Complex value, int half) {
     const LanePattern signs = {value.re.negative(), value.im.negative(), value.re.negative(),
                                value.im.negative()};
@@ -98,13 +103,17 @@ std::array<Complex, 4> transpose4(Graph& g, const std::vector<Complex>& rows) {
     return {{{r[0], i[0]}, {r[1], i[1]}, {r[2], i[2]}, {r[3], i[3]}}};
 }
 
+Complex scaleLanes(Graph& g, Complex z, const LaneConstant& re, const LaneConstant& im) {
+    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
+}
+
 Complex twiddle(Graph& g, Complex z, const std::array<long, 4>& exponents, long n, Sign sign) {
     LaneConstant c, s;
     for (const long exponent : exponents) {
         c.push_back(Constant::cosTurn(exponent, n));
         s.push_back(Constant::sinTurn(static_cast<int>(sign) * exponent, n));
     }
-    return {g.sub(g.mul(c, z.re), g.mul(s, z.im)), g.add(g.mul(s, z.re), g.mul(c, z.im))};
+    return scaleLanes(g, z, c, s);
 }
 
 }   // namespace kfm::dft::complex

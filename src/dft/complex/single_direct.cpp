@@ -1,5 +1,8 @@
 #include "dft/complex/single_direct.h"
 
+#include <numeric>
+#include <optional>
+
 namespace kfm::dft::complex {
 
 using kernelgen::Constant;
@@ -28,8 +31,8 @@ public:
         for (int t = 0; t < half / 2; ++t) pairs_.push_back(halfButterfly(g, groups[t]));
         const Complex rest = groups[half / 2];
         if (half % 2 == 1) {
-            odd_.push_back(add(g, select(g, rest, {0, 0, 0, 0}),
-                               flip(g, select(g, rest, {1, 1, 1, 1}), {0, 0, 1, 1})));
+            odd_ = add(g, select(g, rest, {0, 0, 0, 0}),
+                       flip(g, select(g, rest, {1, 1, 1, 1}), {0, 0, 1, 1}));
             x0_ = lowerHalf(g, select(g, rest, {2, 2, 2, 2}));
         } else {
             x0_ = lowerHalf(g, select(g, rest, {0, 0, 0, 0}));
@@ -39,7 +42,7 @@ public:
     Complex outputZero() const {
         Complex sum = x0_;
         for (const Complex& t : pairs_) sum = add(g_, sum, add(g_, t, select(g_, t, neighbours)));
-        for (const Complex& t : odd_) sum = add(g_, sum, t);
+        if (odd_) sum = add(g_, sum, *odd_);
         return sum;
     }
 
@@ -54,8 +57,8 @@ public:
                                      select(g_, t, neighbours)));
             i += 2;
         }
-        for (const Complex& t : odd_)
-            sum = add(g_, sum, scale(g_, factors({i * k, i * l, i * k, i * l}, p_), t));
+        if (odd_)
+            sum = add(g_, sum, scale(g_, factors({i * k, i * l, i * k, i * l}, p_), *odd_));
         return sum;
     }
 
@@ -63,7 +66,7 @@ private:
     Graph& g_;
     int p_;
     std::vector<Complex> pairs_;
-    std::vector<Complex> odd_;   // at most one
+    std::optional<Complex> odd_;
     Complex x0_;
 };
 
@@ -127,15 +130,11 @@ std::vector<Complex> mirroredSums(Graph& g, int p, std::span<const Complex> a,
     std::vector<Complex> t;
     for (int i = 0; i < half / 2; ++i) {
         const Complex z = select(g, a[i], b[i], low), mirror = select(g, a[i], b[i], high);
-        const Complex sum = add(g, z, mirror), difference = sub(g, z, mirror);
-        t.push_back(select(g, sum, difference, lowHalves));
-        t.push_back(select(g, sum, difference, highHalves));
+        splitMirrored(g, z, mirror, true, t);
     }
     const Complex restA = a[half / 2], restB = b[half / 2];
     if (half % 2 == 1) {
-        const Complex z = select(g, restA, restB, low);
-        t.push_back(add(g, select(g, z, {0, 1, 0, 1}),
-                        flip(g, select(g, z, {2, 3, 2, 3}), {0, 0, 1, 1})));
+        t.push_back(halfButterfly(g, select(g, restA, restB, low)));
         first = lowerHalf(g, select(g, restA, restB, high));
     } else {
         first = lowerHalf(g, select(g, restA, restB, low));
@@ -156,71 +155,72 @@ std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts
     return result;
 }
 
-namespace {
+void splitMirrored(Graph& g, Complex z, Complex mirror, bool upperHalf,
+                   std::vector<Complex>& result) {
+    const Complex sum = add(g, z, mirror), difference = sub(g, z, mirror);
+    result.push_back(select(g, sum, difference, lowHalves));
+    if (upperHalf) result.push_back(select(g, sum, difference, highHalves));
+}
 
-// Even and odd lanes hold the outputs k of the two columns: their sum and difference.
-void twoPoint(Graph& g, int p, Complex even, Complex odd, const Elements& outputs,
-              std::vector<LaneVector>& result) {
+std::array<LaneVector, 2> twoPoint(Graph& g, int p, Complex even, Complex odd,
+                                   const Elements& outputs) {
     LaneVector sum{add(g, even, odd), outputs}, difference{sub(g, even, odd), outputs};
     for (int lane = 0; lane < 4 && outputs[lane] >= 0; ++lane) {
         sum.elements[lane] = kernelgen::chineseRemainder(0, 2, outputs[lane], p);
         difference.elements[lane] = kernelgen::chineseRemainder(1, 2, outputs[lane], p);
     }
-    result.insert(result.end(), {sum, difference});
+    return {sum, difference};
 }
-
-}   // namespace
 
 std::vector<LaneVector> joinColumns(Graph& g, int p, std::span<const Complex> parts,
                                     std::span<const int> outputs, Complex first, Sign sign) {
     std::vector<LaneVector> result;
+    const auto join = [&](Complex even, Complex odd, const Elements& numbers) {
+        for (const LaneVector& vector : twoPoint(g, p, even, odd, numbers))
+            result.push_back(vector);
+    };
     for (const SignedOutputs& y : combineParts(g, parts, sign)) {
         const int k = outputs[y.first];
         if (y.second >= 0) {
             const int l = outputs[y.second];
-            twoPoint(g, p, select(g, y.plus, y.minus, evenLanes),
-                     select(g, y.plus, y.minus, oddLanes), {k, l, p - k, p - l}, result);
+            join(select(g, y.plus, y.minus, evenLanes), select(g, y.plus, y.minus, oddLanes),
+                 {k, l, p - k, p - l});
         } else {
             const Complex both = select(g, y.plus, y.minus, lowHalves);
-            twoPoint(g, p, select(g, both, first, evenLanes), select(g, both, first, oddLanes),
-                     {k, p - k, 0, -1}, result);
+            join(select(g, both, first, evenLanes), select(g, both, first, oddLanes),
+                 {k, p - k, 0, -1});
         }
     }
     if (parts.size() % 2 == 0)
-        twoPoint(g, p, first, select(g, first, neighbours), {0, -1, -1, -1}, result);
+        join(first, select(g, first, neighbours), {0, -1, -1, -1});
     return result;
 }
 
+int elementOfColumn(int p, int i, int column) { return (2 * i + p * column) % (2 * p); }
+
 std::vector<int> mirroredPairOrder(int p) {
     std::vector<int> order;
-    const auto append = [&](int i) {
-        for (const int column : {0, 1}) order.push_back((2 * i + p * column) % (2 * p));
-    };
-    int i = 1;
-    for (; 2 * (i + 1) < p; i += 2)
-        for (const int position : {i, i + 1, p - i, p - i - 1}) append(position);
-    if (2 * i < p)
-        for (const int position : {i, p - i}) append(position);
-    append(0);
+    for (const int position : mirroredOrder(p))
+        for (const int column : {0, 1}) order.push_back(elementOfColumn(p, position, column));
     return order;
+}
+
+std::vector<LaneVector> directTwoColumns(Graph& g, int p, std::span<const Complex> t,
+                                         Complex first, Sign sign) {
+    const std::vector<Complex> parts = directParts(g, p, t, first);
+    std::vector<int> outputs(parts.size());
+    std::iota(outputs.begin(), outputs.end(), 1);
+    return joinColumns(g, p, parts, outputs, first, sign);
 }
 
 std::vector<LaneVector> directColumnOfPairs(Graph& g, int p, std::span<const Complex> groups,
                                             Sign sign) {
     std::vector<Complex> t;
     std::size_t next = 0;
-    for (; next + 2 < groups.size(); next += 2) {
-        const Complex sum = add(g, groups[next], groups[next + 1]);
-        const Complex difference = sub(g, groups[next], groups[next + 1]);
-        t.push_back(select(g, sum, difference, lowHalves));
-        t.push_back(select(g, sum, difference, highHalves));
-    }
+    for (; next + 2 < groups.size(); next += 2)
+        splitMirrored(g, groups[next], groups[next + 1], true, t);
     if (next + 1 < groups.size()) t.push_back(halfButterfly(g, groups[next]));
-    Complex first = lowerHalf(g, groups.back());
-    const std::vector<Complex> parts = directParts(g, p, t, first);
-    std::vector<int> outputs;
-    for (int k = 1; 2 * k < p; ++k) outputs.push_back(k);
-    return joinColumns(g, p, parts, outputs, first, sign);
+    return directTwoColumns(g, p, t, lowerHalf(g, groups.back()), sign);
 }
 
 }   // namespace kfm::dft::complex

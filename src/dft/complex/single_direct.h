@@ -5,6 +5,7 @@
 // i, j of one column or of one position of two columns. Cosines meet a, sines meet b.
 #pragma once
 
+#include <array>
 #include <span>
 #include <vector>
 
@@ -44,9 +45,25 @@ std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts
 std::vector<LaneVector> joinColumns(Graph& g, int p, std::span<const Complex> parts,
                                     std::span<const int> outputs, Complex first, Sign sign);
 
+// Appends the sums and differences of z and its mirror image, (a, a', b, b') of the lower half and,
+// where there is one, of the upper half.
+void splitMirrored(Graph& g, Complex z, Complex mirror, bool upperHalf,
+                   std::vector<Complex>& result);
+
+// The same output numbers of two columns of length p: the 2-point step of a transform of length 2p
+// by prime factors.
+std::array<LaneVector, 2> twoPoint(Graph& g, int p, Complex even, Complex odd,
+                                   const Elements& outputs);
+// Where position i of a column of length p stands in the transform of length 2p.
+int elementOfColumn(int p, int i, int column);
+
 // Positions of a column of length 2p, p odd, as two columns of length p side by side in mirrored
 // order: (1, 1', 2, 2') (-1, -1', -2, -2') ... (0, 0').
 std::vector<int> mirroredPairOrder(int p);
+
+// The transform of length 2p from the sums and differences t of two columns and their x0.
+std::vector<LaneVector> directTwoColumns(Graph& g, int p, std::span<const Complex> t,
+                                         Complex first, Sign sign);
 
 // The transform of length 2p of one column in that order.
 std::vector<LaneVector> directColumnOfPairs(Graph& g, int p, std::span<const Complex> groups,

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "dft/complex/complex_kernels.h"
+#include "dft/complex/single_direct.h"
 #include "dft/complex/single_graphs.h"
 
 namespace kfm::dft::complex {
@@ -14,7 +15,7 @@ using LaneTransform = std::vector<LaneVector> (*)(Graph&, const Plan&, Sign, con
 
 int sameElement(int i) { return i; }
 
-void storeAll(Graph& g, const std::vector<LaneVector>& vectors) {
+void storeAll(Graph& g, std::span<const LaneVector> vectors) {
     for (const LaneVector& vector : vectors) store4(g, vector);
 }
 
@@ -23,19 +24,12 @@ void raderGraph(Graph& g, const Plan& plan, Sign sign, LaneTransform transform) 
     if (plan.kind != Plan::Kind::pfa) return storeAll(g, transform(g, plan, sign, sameElement));
     const Plan& column = plan.second();
     const auto columnInput = [&](int which) {
-        return [&, which](int i) { return (2 * i + column.n * which) % plan.n; };
+        return [&, which](int i) { return elementOfColumn(column.n, i, which); };
     };
     const std::vector<LaneVector> even = transform(g, column, sign, columnInput(0));
     const std::vector<LaneVector> odd = transform(g, column, sign, columnInput(1));
-    for (std::size_t i = 0; i < even.size(); ++i) {
-        LaneVector sum{add(g, even[i].value, odd[i].value), even[i].elements};
-        LaneVector difference{sub(g, even[i].value, odd[i].value), even[i].elements};
-        for (int lane = 0; lane < 4 && even[i].elements[lane] >= 0; ++lane) {
-            sum.elements[lane] = chineseRemainder(0, 2, even[i].elements[lane], column.n);
-            difference.elements[lane] = chineseRemainder(1, 2, even[i].elements[lane], column.n);
-        }
-        storeAll(g, {sum, difference});
-    }
+    for (std::size_t i = 0; i < even.size(); ++i)
+        storeAll(g, twoPoint(g, column.n, even[i].value, odd[i].value, even[i].elements));
 }
 
 void raderPairGraph(Graph& g, const Plan& plan, Sign sign) {

@@ -18,6 +18,10 @@ using ElementMap = std::function<int(int)>;
 // One transform in vectors whose elements are output numbers, not yet stored.
 std::vector<LaneVector> rowTransform(Graph& g, const TwoStep& step, Sign sign,
                                      const ElementMap& input);
+// Twiddle factors of row r with columns in the lanes; unused lanes take those of the last column.
+Complex twiddleColumns(Graph& g, const TwoStep& step, Sign sign, Complex z, int r,
+                       const Elements& columns);
+
 std::vector<LaneVector> raderRowTransform(Graph& g, const Plan& plan, Sign sign,
                                           const ElementMap& input);
 std::vector<LaneVector> raderPairTransform(Graph& g, const Plan& plan, Sign sign,

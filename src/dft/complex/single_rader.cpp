@@ -16,9 +16,7 @@ std::vector<Complex> sumsAndDifferences(Graph& g, std::span<const MirroredPair> 
         };
         const Complex z = load4(g, elements(&MirroredPair::z));
         const Complex mirror = load4(g, elements(&MirroredPair::mirror));
-        const Complex sum = add(g, z, mirror), difference = sub(g, z, mirror);
-        result.push_back(select(g, sum, difference, lowHalves));
-        if (two) result.push_back(select(g, sum, difference, highHalves));
+        splitMirrored(g, z, mirror, two, result);
     }
     return result;
 }
@@ -31,6 +29,21 @@ ComplexConstant scaled(ComplexConstant c, const Constant& weight) {
     return {c.re * weight, c.im * weight};
 }
 
+OddRader::OddRader(const Plan& plan)
+    : prime(plan.n), q((plan.n - 1) / 2), order_(plan),
+      cosines_(order_.cosines.begin(), order_.cosines.begin() + q) {
+    for (int m = 0; m < q; ++m)
+        sines_.push_back(m % 2 == 0 ? order_.sines[m] : -order_.sines[m]);
+}
+
+ComplexConstant OddRader::cosineBin(int k) const {
+    return scaled(constantBin(cosines_, k), binWeight(k, q));
+}
+
+ComplexConstant OddRader::sineBin(int k) const {
+    return scaled(constantBin(sines_, k), binWeight(k, q));
+}
+
 namespace {
 
 LaneConstant laneConstants(const std::array<ComplexConstant, 4>& lanes,
@@ -40,11 +53,10 @@ LaneConstant laneConstants(const std::array<ComplexConstant, 4>& lanes,
     return result;
 }
 
-// z times a complex constant in each lane; here real and imaginary mean those of a bin.
-Complex scaleLanes(Graph& g, Complex z, const std::array<ComplexConstant, 4>& lanes) {
-    const LaneConstant re = laneConstants(lanes, &ComplexConstant::re);
-    const LaneConstant im = laneConstants(lanes, &ComplexConstant::im);
-    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
+// Here real and imaginary mean those of a bin.
+Complex scaleBin(Graph& g, Complex bin, const std::array<ComplexConstant, 4>& lanes) {
+    return scaleLanes(g, bin, laneConstants(lanes, &ComplexConstant::re),
+                      laneConstants(lanes, &ComplexConstant::im));
 }
 
 bool isZero(const std::array<ComplexConstant, 4>& lanes) {
@@ -54,12 +66,12 @@ bool isZero(const std::array<ComplexConstant, 4>& lanes) {
 }
 
 Complex multiplyBin(Graph& g, Complex bin, const BinConstants& constants) {
-    const Complex own = scaleLanes(g, bin, constants.own);
+    const Complex own = scaleBin(g, bin, constants.own);
     if (isZero(constants.other)) return own;
     const auto swapped = [&](Ref value) {
         return value.isZero() ? value : g.select(value, neighbours);
     };
-    return add(g, own, scaleLanes(g, {swapped(bin.re), swapped(bin.im)}, constants.other));
+    return add(g, own, scaleBin(g, {swapped(bin.re), swapped(bin.im)}, constants.other));
 }
 
 std::vector<Ref> convolveReal(Graph& g, const Plan& plan, std::vector<Ref> inputs,

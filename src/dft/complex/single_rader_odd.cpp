@@ -12,43 +12,13 @@ using namespace kernelgen;
 
 namespace {
 
-struct OddRader {
-    OddRader(const Plan& plan)
-        : order(plan), q((plan.n - 1) / 2), cosines(order.cosines.begin(),
-                                                      order.cosines.begin() + q) {
-        for (int m = 0; m < q; ++m) sines.push_back(m % 2 == 0 ? order.sines[m] : -order.sines[m]);
-    }
-
-    // z[m] and z[m+H], exchanged for odd m.
-    int z(int m) const { return order.input[m % 2 == 0 ? m : m + q]; }
-    int mirror(int m) const { return order.input[m % 2 == 0 ? m + q : m]; }
-    // Output number of C[j] + i*sign*S[j] with the sign of S put right.
-    int output(int j) const {
-        return j % 2 == 0 ? order.output[j] : order.prime - order.output[j];
-    }
-    ComplexConstant cosineBin(int k) const {
-        return scaled(constantBin(cosines, k), binWeight(k, q));
-    }
-    ComplexConstant sineBin(int k) const { return scaled(constantBin(sines, k), binWeight(k, q)); }
-
-    RaderOrder order;
-    int q;
-    std::vector<Constant> cosines, sines;
-};
-
-// x0 in lane 0, zero elsewhere.
-Complex firstInput(Graph& g) {
-    const Ref x0 = g.load(0);
-    return {g.select(x0, {0, 2, 2, 2}), g.select(x0, {1, 2, 2, 2})};
-}
-
 void storeSigned(Graph& g, const OddRader& rader, const SignedOutputs& y,
                  const std::array<int, 4>& positions) {
     LaneVector plus{y.plus, {-1, -1, -1, -1}}, minus{y.minus, {-1, -1, -1, -1}};
     for (int lane = 0; lane < 4; ++lane) {
         if (positions[lane] < 0) continue;
         plus.elements[lane] = rader.output(positions[lane]);
-        minus.elements[lane] = rader.order.prime - plus.elements[lane];
+        minus.elements[lane] = rader.prime - plus.elements[lane];
     }
     store4(g, plus);
     store4(g, minus);
@@ -135,7 +105,7 @@ void raderHalfGraph(Graph& g, const Plan& plan, Sign sign) {
         const ComplexConstant c = rader.cosineBin(k), s = rader.sineBin(k);
         return BinConstants{{c, s, c, s}, {}};
     };
-    const Complex x0 = firstInput(g);
+    const Complex x0 = loadLane0(g, 0);
     Complex sums;
     const std::vector<Complex> parts = convolve(g, plan.first().second(), halfVectors(g, rader),
                                                 constants, x0, sums);
@@ -168,7 +138,7 @@ void raderMirrorGraph(Graph& g, const Plan& plan, Sign sign) {
 
     std::vector<Ref> re, im;
     for (const Complex& input : inputs) re.push_back(input.re), im.push_back(input.im);
-    const Complex x0 = firstInput(g);
+    const Complex x0 = loadLane0(g, 0);
     MirrorNetwork network(g, rader);
     Complex sums;
     re = network.run(re, x0.re, sums.re);
@@ -176,10 +146,10 @@ void raderMirrorGraph(Graph& g, const Plan& plan, Sign sign) {
     store4(g, {sums, {0, -1, -1, -1}});
 
     const Complex alone = {re[0], im[0]};
-    const SignedOutputs centre = {addTimesI(g, alone, select(g, alone, {2, 3, 2, 3}), sign),
-                                  addTimesI(g, alone, select(g, alone, {2, 3, 2, 3}),
-                                            opposite(sign)), 0, -1};
-    storeSigned(g, rader, centre, {0, -1, -1, -1});
+    const Complex s = select(g, alone, {2, 3, 2, 3});
+    storeSigned(g, rader,
+                {addTimesI(g, alone, s, sign), addTimesI(g, alone, s, opposite(sign)), 0, -1},
+                {0, -1, -1, -1});
     std::vector<Complex> parts;
     for (int i = 1; i <= half; ++i) parts.push_back({re[i], im[i]});
     for (const SignedOutputs& y : combineParts(g, parts, sign)) {

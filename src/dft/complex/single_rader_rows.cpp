@@ -28,20 +28,18 @@ Complex multiplyBins(Graph& g, const RaderOrder& order, Sign sign, const LaneVec
         re.push_back(c.re);
         im.push_back(c.im);
     }
-    const Complex z = bins.value;
-    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
+    return scaleLanes(g, bins.value, re, im);
 }
 
 // The second step backwards for the columns from `first`: row r in vector r, columns in lanes.
 std::vector<Complex> columnsBack(Graph& g, const TwoStep& step, std::span<const Complex> bins,
                                  int first) {
     std::vector<Complex> rows = complexDft(g, step.second, bins, Sign::plus);
-    for (int r = 0; r < step.rows; ++r) {
-        std::array<long, 4> exponents;
-        for (int lane = 0; lane < 4; ++lane)
-            exponents[lane] = step.exponent(r, std::min(first + lane, step.columns - 1));
-        rows[r] = twiddle(g, rows[r], exponents, step.order(), Sign::plus);
-    }
+    Elements columns = {-1, -1, -1, -1};
+    for (int lane = 0; lane < 4 && first + lane < step.columns; ++lane)
+        columns[lane] = first + lane;
+    for (int r = 0; r < step.rows; ++r)
+        rows[r] = twiddleColumns(g, step, Sign::plus, rows[r], r, columns);
     return rows;
 }
 
@@ -56,8 +54,7 @@ std::vector<LaneVector> raderRowTransform(Graph& g, const Plan& plan, Sign sign,
     const std::vector<LaneVector> bins = rowTransform(
         g, step, Sign::minus, [&](int m) { return input(order.input[m]); });
 
-    const Ref first = g.load(input(0));
-    const Complex x0 = {g.select(first, {0, 2, 2, 2}), g.select(first, {1, 2, 2, 2})};
+    const Complex x0 = loadLane0(g, input(0));
     std::vector<LaneVector> result = {{add(g, x0, bins[0].value), {0, -1, -1, -1}}};
 
     std::vector<std::vector<Complex>> blocks;   // of up to four columns, a vector for each row

@@ -146,8 +146,7 @@ private:
         for (int i = 1; 2 * i < p; ++i)
             pairs.push_back({{inputOf(a, i), inputOf(b, i)},
                              {inputOf(a, p - i), inputOf(b, p - i)}});
-        lastColumnZero_ = load4(g_, {inputOf(a, 0), inputOf(b, 0), -1, -1});
-        lastColumnZero_ = lowerHalf(g_, lastColumnZero_);
+        lastColumnZero_ = lowerHalf(g_, load4(g_, {inputOf(a, 0), inputOf(b, 0), -1, -1}));
         const std::vector<Complex> parts =
             directParts(g_, p, sumsAndDifferences(g_, pairs), lastColumnZero_);
         const SignedOutputs y = combineParts(g_, parts, sign_).front();
@@ -218,12 +217,8 @@ private:
             for (int lane = 0; lane < countOf(rows_[i]); ++lane) x[rows_[i][lane]] = rows[lane];
         }
         for (int i = 0; i < int(lastRows_.size()); ++i) x[rows_.back()[i]] = lastRows_[i];
-        for (int r = 0; r < step_.rows; ++r) {
-            std::array<long, 4> exponents;
-            for (int lane = 0; lane < 4; ++lane)
-                exponents[lane] = step_.exponent(r, columns[std::min(lane, count - 1)]);
-            x[r] = twiddle(g_, x[r], exponents, step_.order(), sign_);
-        }
+        for (int r = 0; r < step_.rows; ++r)
+            x[r] = twiddleColumns(g_, step_, sign_, x[r], r, columns);
         const std::vector<Complex> y = complexDft(g_, step_.second, x, sign_);
         for (int k2 = 0; k2 < step_.rows; ++k2) {
             LaneVector vector{y[k2], columns};
@@ -246,6 +241,14 @@ private:
 };
 
 }   // namespace
+
+Complex twiddleColumns(Graph& g, const TwoStep& step, Sign sign, Complex z, int r,
+                       const Elements& columns) {
+    std::array<long, 4> exponents;
+    for (int lane = 0; lane < 4; ++lane)
+        exponents[lane] = step.exponent(r, columns[std::min(lane, countOf(columns) - 1)]);
+    return twiddle(g, z, exponents, step.order(), sign);
+}
 
 std::vector<LaneVector> rowTransform(Graph& g, const TwoStep& step, Sign sign,
                                      const ElementMap& input) {

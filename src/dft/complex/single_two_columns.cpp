@@ -9,73 +9,49 @@ using namespace kernelgen;
 
 namespace {
 
-// Columns of a transform of length 2p before the last step.
-struct Columns {
-    std::vector<Complex> parts;   // (C, C', S, S') of the outputs below
-    std::vector<int> outputs;     // k of the sum C + i*sign*S; the difference is p - k
-    Complex first;                // output 0 of both columns in the lower half
-};
-
-// x0 of both columns in the lower half, zero in the upper.
-Complex firstInputs(Graph& g, int p) {
-    const Complex x = load4(g, {0, p, -1, -1});
-    const LaneConstant lower = {1, 1, 0, 0};
-    return {g.mul(lower, x.re), g.mul(lower, x.im)};
-}
-
 // The inputs n and -n modulo p of both columns.
 MirroredPair inputPair(int p, int n, int mirror) {
-    const auto element = [p](int i, int column) { return (2 * i + p * column) % (2 * p); };
-    return {{element(n, 0), element(n, 1)}, {element(mirror, 0), element(mirror, 1)}};
+    return {{elementOfColumn(p, n, 0), elementOfColumn(p, n, 1)},
+            {elementOfColumn(p, mirror, 0), elementOfColumn(p, mirror, 1)}};
 }
 
-Columns directColumns(Graph& g, int p) {
-    const int half = (p - 1) / 2;
+// x0 of both columns.
+Complex firstInputs(Graph& g, int p) { return lowerHalf(g, load4(g, {0, p, -1, -1})); }
+
+std::vector<LaneVector> directColumns(Graph& g, int p, Sign sign) {
     std::vector<MirroredPair> pairs;
-    for (int i = 1; i <= half; ++i) pairs.push_back(inputPair(p, i, p - i));
+    for (int i = 1; 2 * i < p; ++i) pairs.push_back(inputPair(p, i, p - i));
     const std::vector<Complex> t = sumsAndDifferences(g, pairs);
-    Columns result;
-    result.first = firstInputs(g, p);
-    result.parts = directParts(g, p, t, result.first);
-    for (int k = 1; k <= half; ++k) result.outputs.push_back(k);
-    return result;
+    return directTwoColumns(g, p, t, firstInputs(g, p), sign);
 }
 
-Columns raderColumns(Graph& g, const Plan& plan) {
-    const RaderOrder order(plan);
-    const Plan& rows = plan.first().second();
-    const int p = plan.n, q = rows.n;
+std::vector<LaneVector> raderColumns(Graph& g, const Plan& plan, Sign sign) {
+    const OddRader rader(plan);
+    const int p = plan.n;
     std::vector<MirroredPair> pairs;
-    std::vector<Constant> sines;
-    for (int m = 0; m < q; ++m) {
-        const int even = m % 2 == 0 ? m : m + q, odd = m % 2 == 0 ? m + q : m;
-        pairs.push_back(inputPair(p, order.input[even], order.input[odd]));
-        sines.push_back(m % 2 == 0 ? order.sines[m] : -order.sines[m]);
+    std::vector<int> outputs;
+    for (int m = 0; m < rader.q; ++m) {
+        pairs.push_back(inputPair(p, rader.z(m), rader.mirror(m)));
+        outputs.push_back(rader.output(m));
     }
-    const std::span<const Constant> cosines = std::span(order.cosines).first(q);
     const auto constants = [&](int k) {
-        const ComplexConstant c = scaled(constantBin(cosines, k), binWeight(k, q));
-        const ComplexConstant s = scaled(constantBin(sines, k), binWeight(k, q));
+        const ComplexConstant c = rader.cosineBin(k), s = rader.sineBin(k);
         return BinConstants{{c, c, s, s}, {}};
     };
-    Columns result;
     const Complex x0 = firstInputs(g, p);
     Complex sums;
-    result.parts = convolve(g, rows, sumsAndDifferences(g, pairs), constants, x0, sums);
-    result.first = add(g, x0, sums);
-    for (int m = 0; m < q; ++m)
-        result.outputs.push_back(m % 2 == 0 ? order.output[m] : p - order.output[m]);
-    return result;
+    const std::vector<Complex> parts = convolve(g, plan.first().second(),
+                                                sumsAndDifferences(g, pairs), constants, x0, sums);
+    return joinColumns(g, p, parts, outputs, add(g, x0, sums), sign);
 }
 
 }   // namespace
 
 void twoColumnGraph(Graph& g, const Plan& plan, Sign sign) {
     const Plan& column = plan.second();
-    const Columns columns =
-        column.kind == Plan::Kind::rader ? raderColumns(g, column) : directColumns(g, column.n);
-    for (const LaneVector& vector :
-         joinColumns(g, column.n, columns.parts, columns.outputs, columns.first, sign))
+    for (const LaneVector& vector : column.kind == Plan::Kind::rader
+                                        ? raderColumns(g, column, sign)
+                                        : directColumns(g, column.n, sign))
         store4(g, vector);
 }
 
