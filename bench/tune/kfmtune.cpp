@@ -97,7 +97,8 @@ void tuneAll(const Options& options) {
     std::set<std::string_view> seen;
     for (const registry::Family& family : registry::families()) {
         if (!seen.insert(family.kernelSource).second) continue;
-        ScheduleTable table(options.sources / family.folder / "schedules.def");
+        ScheduleTable table(options.sources / family.folder /
+                            (std::string(family.kernelSource) + "_schedules.def"));
         for (const registry::Element* element : family.elements)
             if (options.selection.hasElement(element->suffix))
                 for (const KernelSource& kernel : kernels(family, *element, options.selection))
@@ -110,7 +111,7 @@ void tuneAll(const Options& options) {
 
 int main(int argc, char** argv) try {
     kfm::tune::Options options;
-    CLI::App app("Chooses each kernel's schedule by measurement and commits it to schedules.def.");
+    CLI::App app("Chooses each kernel's schedule by measurement and commits it to the table of schedules.");
     options.selection.addElement(app);
     options.selection.addLengths(app);
     app.add_option("--target", options.target, "row of the table")->capture_default_str();

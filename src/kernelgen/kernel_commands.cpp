@@ -8,6 +8,8 @@
 #include <stdexcept>
 
 #include "dft/complex/complex_kernels.h"
+#include "dft/real/real_kernels.h"
+#include "hartley/hartley_kernels.h"
 #include "kernelgen/report.h"
 
 namespace kfm::kernelgen {
@@ -15,8 +17,9 @@ namespace {
 
 using registry::Element;
 
-const std::array<KernelFamily, 1>& allFamilies() {
-    static const std::array<KernelFamily, 1> families = {dft::complex::kernelFamily()};
+const std::array<KernelFamily, 4>& allFamilies() {
+    static const std::array families = {dft::complex::kernelFamily(), dft::real::forwardFamily(),
+                                        dft::real::inverseFamily(), hartley::kernelFamily()};
     return families;
 }
 
@@ -28,6 +31,7 @@ constexpr std::array columns = {
     std::pair{"signChanges", &OperationCounts::signChanges},
     std::pair{"loads", &OperationCounts::loads},
     std::pair{"stores", &OperationCounts::stores},
+    std::pair{"conversions", &OperationCounts::conversions},
 };
 
 }   // namespace

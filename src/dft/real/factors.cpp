@@ -1,0 +1,94 @@
+// The factor trees of the real DFT, the same in both element types and directions. A number is the
+// direct module of that length: symmetric pairs, which all primes are computed by (a power of two
+// from 8 up: radix two). pfa needs no twiddle factors, ct has them; rader occurs inside composite
+// lengths only.
+#include "dft/real/factors.h"
+
+#include <map>
+#include <stdexcept>
+
+namespace kfm::dft::real {
+
+using namespace kernelgen;
+
+namespace {
+
+constexpr int longestScalar = 10;
+
+bool powerOfTwo(int n) { return (n & (n - 1)) == 0; }
+
+}   // namespace
+
+Row row(int n) {
+    static const Plan five = factored5(), fifteen = pfa(3, five);
+    static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(16);
+    static const Plan nineteen = rader(pfa(2, ct(3, 3)), 3);
+    static const Plan twentyThree = rader(pfa(2, 11)), twentyNine = rader(pfa(4, 7));
+    static const Plan thirtyOne = rader(pfa(2, fifteen));
+    static const std::map<int, Plan> composites = {
+        {6, pfa(3, 2)},
+        {9, ct(3, 3)},
+        {10, pfa(5, 2)},
+        {12, pfa(3, 4)},
+        {14, pfa(7, 2)},
+        {15, pfa(3, 5)},
+        {18, pfa(ct(3, 3), 2)},
+        {20, pfa(five, 4)},
+        {21, pfa(3, 7)},
+        {22, pfa(11, 2)},
+        {24, pfa(3, 8)},
+        {25, ct(five, five)},
+        {26, pfa(thirteen, 2)},
+        {27, ct(3, ct(3, 3))},
+        {28, pfa(7, 4)},
+        {30, pfa(fifteen, 2)},
+        {33, pfa(3, 11)},
+        {34, pfa(seventeen, 2)},
+        {35, pfa(five, 7)},
+        {36, pfa(ct(3, 3), 4)},
+        {38, pfa(nineteen, 2)},
+        {39, pfa(3, 13)},
+        {40, pfa(five, 8)},
+        {42, pfa(pfa(3, 7), 2)},
+        {44, pfa(11, 4)},
+        {45, pfa(ct(3, 3), five)},
+        {46, pfa(twentyThree, 2)},
+        {48, pfa(3, 16)},
+        {49, ct(7, 7)},
+        {50, pfa(ct(five, five), 2)},
+        {51, pfa(3, 17)},
+        {52, pfa(thirteen, 4)},
+        {54, pfa(ct(3, ct(3, 3)), 2)},
+        {55, pfa(five, 11)},
+        {56, pfa(7, 8)},
+        {57, pfa(3, 19)},
+        {58, pfa(twentyNine, 2)},
+        {60, pfa(fifteen, 4)},
+        {62, pfa(thirtyOne, 2)},
+        {63, pfa(ct(3, 3), 7)},
+    };
+    const auto composite = composites.find(n);
+    const Plan plan = composite == composites.end() ? Plan(n) : composite->second;
+    if (plan.n != n) throw std::invalid_argument("no factor tree of length " + std::to_string(n));
+    return {plan, n > longestScalar ? 2 : 1};
+}
+
+// Powers of two take the products of a rotation one by one before they are added.
+Arithmetic forwardArithmetic(int n, bool singlePrecision) {
+    Arithmetic arithmetic{.mixed = singlePrecision, .factoring = !powerOfTwo(n)};
+    if (!singlePrecision) return arithmetic;
+    if (powerOfTwo(n)) arithmetic.rounding = unsigned(Border::rotation);
+    if (n == 6 || n == 10) arithmetic.rounding = unsigned(Border::module);
+    if (n == 9) arithmetic.rounding = Border::module | Border::rotation;
+    return arithmetic;
+}
+
+Arithmetic inverseArithmetic(int n, bool singlePrecision) {
+    Arithmetic arithmetic{.mixed = singlePrecision};
+    if (!singlePrecision) return arithmetic;
+    if (powerOfTwo(n)) arithmetic.rounding = unsigned(Border::rotation);
+    if (n == 3) arithmetic.rounding = unsigned(Border::module);
+    return arithmetic;
+}
+
+}   // namespace kfm::dft::real
