@@ -254,6 +254,7 @@ HalfSpectrum realDft(Graph& g, const Plan& plan, std::span<const Ref> x) {
     case Plan::Kind::factored5:
         return factoredFive(g, x);
     case Plan::Kind::powerOfTwo:
+    case Plan::Kind::evenOdd:
         return splitRadix(g, plan.n, x);
     case Plan::Kind::pfa:
         return primeFactor(g, plan, x);

@@ -21,6 +21,9 @@ struct ComplexLanes {
 // X[0..n/2] of the forward transform in single lanes; with one lane per vector, scalar code.
 std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
 
+// Rader's step of it, for plans of that kind.
+std::vector<ComplexLanes> raderInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
+
 // What a kernel computes, gathered by vectors: element `first` from lane 0, `second` from lane 1,
 // -1 for none. Lanes that are negated are subtracted from zero.
 struct LaneOutput {

@@ -1,6 +1,5 @@
 // The factor trees of the real DFT, the same in both element types and directions. A number is the
-// direct module of that length: symmetric pairs, which all primes are computed by (a power of two
-// from 8 up: radix two). pfa needs no twiddle factors, ct has them; rader occurs inside composite
+// direct module of that length: symmetric pairs, which all primes are computed by. pfa needs no twiddle factors, ct has them; rader occurs inside composite
 // lengths only.
 #include "dft/real/factors.h"
 
@@ -32,40 +31,43 @@ Row row(int n) {
         {12, pfa(3, 4)},
         {14, pfa(7, 2)},
         {15, pfa(3, 5)},
+        {16, evenOdd(16)},
         {18, pfa(ct(3, 3), 2)},
         {20, pfa(five, 4)},
         {21, pfa(3, 7)},
         {22, pfa(11, 2)},
-        {24, pfa(3, 8)},
+        {24, pfa(3, evenOdd(8))},
         {25, ct(five, five)},
         {26, pfa(thirteen, 2)},
         {27, ct(3, ct(3, 3))},
         {28, pfa(7, 4)},
         {30, pfa(fifteen, 2)},
+        {32, evenOdd(32)},
         {33, pfa(3, 11)},
         {34, pfa(seventeen, 2)},
         {35, pfa(five, 7)},
         {36, pfa(ct(3, 3), 4)},
         {38, pfa(nineteen, 2)},
-        {39, pfa(3, 13)},
-        {40, pfa(five, 8)},
+        {39, pfa(3, thirteen)},
+        {40, pfa(five, evenOdd(8))},
         {42, pfa(pfa(3, 7), 2)},
         {44, pfa(11, 4)},
         {45, pfa(ct(3, 3), five)},
         {46, pfa(twentyThree, 2)},
-        {48, pfa(3, 16)},
+        {48, pfa(3, evenOdd(16))},
         {49, ct(7, 7)},
         {50, pfa(ct(five, five), 2)},
-        {51, pfa(3, 17)},
+        {51, pfa(3, seventeen)},
         {52, pfa(thirteen, 4)},
         {54, pfa(ct(3, ct(3, 3)), 2)},
         {55, pfa(five, 11)},
-        {56, pfa(7, 8)},
-        {57, pfa(3, 19)},
+        {56, pfa(7, evenOdd(8))},
+        {57, pfa(3, nineteen)},
         {58, pfa(twentyNine, 2)},
         {60, pfa(fifteen, 4)},
         {62, pfa(thirtyOne, 2)},
         {63, pfa(ct(3, 3), 7)},
+        {64, evenOdd(64)},
     };
     const auto composite = composites.find(n);
     const Plan plan = composite == composites.end() ? Plan(n) : composite->second;
