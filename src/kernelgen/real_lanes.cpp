@@ -77,7 +77,7 @@ MirroredPairs mirroredPairs(Graph& g, std::span<const Lane> x) {
         sums = g.add(sums, sum);
     }
     Ref total = alone(g, x[0]);
-    if (!sums.isZero()) total = g.add(total, g.add(sums, alone(g, high(sums))));
+    if (!sums.isZero()) total = g.add(g.add(total, sums), alone(g, high(sums)));
     if (half % 2 == 1) {
         const Ref left = alone(g, x[half]), right = alone(g, x[half + 1]);
         const Ref sum = g.settle(g.add(left, right), Border::module);
@@ -267,6 +267,10 @@ std::vector<Spectrum> firstStep(Graph& g, const Plan& plan, const std::vector<Se
     }
     // Neighbours and their mirror images meet as the second step takes them.
     bins[0] = realDftInLanes(g, plan, positions[0]);
+    for (auto& [re, im] : bins[0]) {
+        re.vector = g.settle(re.vector, Border::module);
+        im.vector = g.settle(im.vector, Border::module);
+    }
     const int half = (count - 1) / 2;
     for (int i = 1; i < half; i += 2) {
         both(i, i + 1);

@@ -12,7 +12,8 @@ using namespace kernelgen;
 
 namespace {
 
-constexpr int longestScalar = 10;
+// Shorter ones and 8 gain nothing from a second lane.
+constexpr int shortestInLanes = 5;
 
 bool powerOfTwo(int n) { return (n & (n - 1)) == 0; }
 
@@ -48,21 +49,21 @@ Row row(int n) {
         {35, pfa(five, 7)},
         {36, pfa(ct(3, 3), 4)},
         {38, pfa(nineteen, 2)},
-        {39, pfa(3, thirteen)},
+        {39, pfa(thirteen, 3)},
         {40, pfa(five, evenOdd(8))},
         {42, pfa(pfa(3, 7), 2)},
-        {44, pfa(11, 4)},
+        {44, pfa(4, 11)},
         {45, pfa(ct(3, 3), five)},
         {46, pfa(twentyThree, 2)},
         {48, pfa(3, evenOdd(16))},
         {49, ct(7, 7)},
         {50, pfa(ct(five, five), 2)},
-        {51, pfa(3, seventeen)},
+        {51, pfa(seventeen, 3)},
         {52, pfa(thirteen, 4)},
         {54, pfa(ct(3, ct(3, 3)), 2)},
         {55, pfa(five, 11)},
-        {56, pfa(7, evenOdd(8))},
-        {57, pfa(3, nineteen)},
+        {56, pfa(8, 7)},
+        {57, pfa(nineteen, 3)},
         {58, pfa(twentyNine, 2)},
         {60, pfa(fifteen, 4)},
         {62, pfa(thirtyOne, 2)},
@@ -72,7 +73,7 @@ Row row(int n) {
     const auto composite = composites.find(n);
     const Plan plan = composite == composites.end() ? Plan(n) : composite->second;
     if (plan.n != n) throw std::invalid_argument("no factor tree of length " + std::to_string(n));
-    return {plan, n > longestScalar ? 2 : 1};
+    return {plan, n < shortestInLanes || n == 8 ? 1 : 2};
 }
 
 // Powers of two take the products of a rotation one by one before they are added.
