@@ -55,6 +55,8 @@ enum {
  *   kfmScaleInvByN     1            1/N
  *   kfmScaleBySqrtN    1/sqrt(N)    1/sqrt(N)
  *   kfmScaleNone       1            1
+ *
+ * Transforms without a direction say below how they read the flags.
  */
 enum {
     kfmScaleFwdByN = 1,
@@ -368,6 +370,48 @@ KFM_API KfmStatus kfmgDFTInv_CToC_63_64fc(const Kfm64fc *src, Kfm64fc *dst, int 
 KFM_API KfmStatus kfmgDFTInv_CToC_64_64fc(const Kfm64fc *src, Kfm64fc *dst, int flag);
 KFM_API KfmStatus kfmgDFTInv_CToC_64fc(const Kfm64fc *src, Kfm64fc *dst, int length, int flag);
 /* end of declarations */
+
+/* ---------------------------------------------------------------------------------------------
+ * Real DFT, lengths N = 2 to 64, single (32f) and double (64f) precision
+ *
+ *   kfmgDFTFwd_RTo<layout>_<N>_<element>    from N real samples x to half of their spectrum X
+ *   kfmgDFTInv_<layout>ToR_<N>_<element>    from half a spectrum X to N real samples x
+ *
+ *   X(k) = s * sum over n of x(n) * exp(-2 pi i n k / N)
+ *   x(n) = s * sum over k = 0 ... N-1 of X(k) * exp(+2 pi i n k / N), with X(N-k) = conj X(k)
+ *
+ * The flag picks the factor s as for the complex DFT: 1/N in the direction that its name says,
+ * 1/sqrt(N) in both directions, or 1.
+ *
+ * Layouts: the spectrum of a real signal is determined by its bins k = 0 ... N/2 (rounded down),
+ * which are stored as an array of reals. X(0) is real and, for even N, so is X(N/2). CCS stores
+ * their imaginary parts as zeros, Pack and Perm leave them out, and Perm puts X(N/2) in second
+ * place. For odd N, Pack and Perm coincide. (Rk, Ik: real and imaginary part of X(k))
+ *
+ *   layout   reals, even N   reals, odd N   N = 5                  N = 8
+ *   CCS      N + 2           N + 1          R0 0 R1 I1 R2 I2       R0 0 R1 I1 R2 I2 R3 I3 R4 0
+ *   Pack     N               N              R0 R1 I1 R2 I2         R0 R1 I1 R2 I2 R3 I3 R4
+ *   Perm     N               N              R0 R1 I1 R2 I2         R0 R4 R1 I1 R2 I2 R3 I3
+ *
+ * Fwd writes every element of the layout and none beyond; the zeros of CCS are +0.0 whatever the
+ * input. Inv never reads the places of those zeros, elements 1 and, for even N, N+1, so anything
+ * may stand there, and for even N a CCS source may end with element N.
+ *
+ * Precision: 64f computes in double precision. 32f adds in single precision and multiplies by
+ * trigonometric constants in double precision. The three layouts hold the same bits.
+ *
+ * Alignment: any address that suits the element type; all are served alike.
+ * Aliasing: the whole source is read before the first output is written, so the destination may
+ * be the source itself (in place) or overlap it in any way. In place, the array must have room
+ * for the longer of the two: CCS needs its N + 2 or N + 1 reals.
+ * Threads: reentrant, no shared state.
+ *
+ * Status, in the order of the checks:
+ *   kfmErrSize       generic entries only, before all else: length outside 2..64
+ *   kfmErrNullPtr    src is null, or dst is null
+ *   kfmErrFlag       flag is none of the four values
+ *   kfmOk            computed and written
+ * ------------------------------------------------------------------------------------------ */
 
 /* declarations: DFTFwd_RToCCS */
 KFM_API KfmStatus kfmgDFTFwd_RToCCS_2_32f(const Kfm32f *src, Kfm32f *dst, int flag);
@@ -1154,6 +1198,27 @@ KFM_API KfmStatus kfmgDFTInv_PermToR_63_64f(const Kfm64f *src, Kfm64f *dst, int 
 KFM_API KfmStatus kfmgDFTInv_PermToR_64_64f(const Kfm64f *src, Kfm64f *dst, int flag);
 KFM_API KfmStatus kfmgDFTInv_PermToR_64f(const Kfm64f *src, Kfm64f *dst, int length, int flag);
 /* end of declarations */
+
+/* ---------------------------------------------------------------------------------------------
+ * Hartley transform, lengths N = 2 to 64, single (32f) and double (64f) precision
+ *
+ *   kfmgHartley_<N>_<element>    dst[k] = s * sum over n of src[n] * cas(2 pi n k / N)
+ *
+ * with cas(t) = cos(t) + sin(t). N reals in, N reals out, both in natural order. The transform is
+ * its own inverse up to the factor N, so the flag has no direction:
+ *
+ *   flag               s
+ *   kfmScaleFwdByN     1/N
+ *   kfmScaleInvByN     1/N
+ *   kfmScaleBySqrtN    1/sqrt(N)
+ *   kfmScaleNone       1
+ *
+ * Two calls return the input when one has kfmScaleNone and the other divides by N, or when both
+ * have kfmScaleBySqrtN.
+ *
+ * Precision, alignment, aliasing, threads and status are those of the real DFT; in place, source
+ * and destination have the same N elements.
+ * ------------------------------------------------------------------------------------------ */
 
 /* declarations: Hartley */
 KFM_API KfmStatus kfmgHartley_2_32f(const Kfm32f *src, Kfm32f *dst, int flag);
