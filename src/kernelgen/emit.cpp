@@ -72,10 +72,18 @@ public:
     std::string body() {
         for (const Output& output : g_.outputs()) nameScale(output);
         int count = 0;
-        for (const int node : schedule(g_, choice_)) {
+        const std::vector<int> order = schedule(g_, choice_);
+        auto loads = std::ranges::count(order, Op::load, [&](int i) { return g_.nodes()[i].op; });
+        std::vector<Output> ready;
+        for (const int node : order) {
             if (choice_.relaunder && ++count % nodesPerLaundering == 0) out_ << launderTables();
             printNode(node);
-            for (const Output& output : outputs_[node]) printStore(output);
+            ready.insert(ready.end(), outputs_[node].begin(), outputs_[node].end());
+            loads -= g_.nodes()[node].op == Op::load;
+            // The arrays may overlap, and some outputs do not depend on all of the source.
+            if (loads > 0) continue;
+            for (const Output& output : ready) printStore(output);
+            ready.clear();
         }
         return "        const auto scale = broadcast(factor);\n" + pointers() + out_.str();
     }

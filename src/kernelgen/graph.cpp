@@ -114,7 +114,8 @@ Ref Graph::difference(Ref a, Ref b) {
 Ref Graph::mul(const LaneConstant& c, Ref a) {
     if (a.isZero() || all(c, [](const Constant& lane) { return lane.isZero(); })) return {};
     if (a.negative()) return -mul(c, -a);
-    if (node(a).op == Op::mul) return mul(product(c, constants_[node(a).constant]), node(a).a);
+    if (arithmetic_.factoring && node(a).op == Op::mul)
+        return mul(product(c, constants_[node(a).constant]), node(a).a);
     if (node(a).op == Op::widen && node(node(a).a).op == Op::mul) return mul(c, node(a).a);
     if (uniform(c)) {
         if (c.front() == Constant(1)) return a;

@@ -50,7 +50,7 @@ constexpr unsigned operator|(Border a, Border b) { return unsigned(a) | unsigned
 struct Arithmetic {
     bool mixed = false;      // products are wide; else all nodes are of the element type
     unsigned rounding = 0;   // the borders at which wide values are rounded
-    bool factoring = true;   // c*x + c*y = c*(x + y)
+    bool factoring = true;   // c*x + c*y = c*(x + y), c*(d*x) = (c*d)*x
     bool marking = false;    // keep rounding points of narrow values too, for transposition
 
     bool rounds(Border border) const { return (rounding & unsigned(border)) != 0; }

@@ -76,9 +76,10 @@ Row row(int n) {
     return {plan, n < shortestInLanes || n == 8 ? 1 : 2};
 }
 
-// Powers of two take the products of a rotation one by one before they are added.
+// Powers of two take the products of a rotation one by one before they are added; so do 6 and 9.
 Arithmetic forwardArithmetic(int n, bool singlePrecision) {
-    Arithmetic arithmetic{.mixed = singlePrecision, .factoring = !powerOfTwo(n)};
+    const bool apart = powerOfTwo(n) || n == 6 || n == 9;
+    Arithmetic arithmetic{.mixed = singlePrecision, .factoring = !apart};
     if (!singlePrecision) return arithmetic;
     if (powerOfTwo(n)) arithmetic.rounding = unsigned(Border::rotation);
     if (n == 6 || n == 10) arithmetic.rounding = unsigned(Border::module);
