@@ -31,7 +31,8 @@ ScheduleChoice choice(int n, const Element& element, const Target& target) {
     return findSchedule(rows, n, element, target);
 }
 
-std::string emit(int n, const Element& element, const Target&, const ScheduleChoice& choice) {
+std::string emit(int n, const Element& element, const Target&, const ScheduleChoice& choice,
+                 std::span<const registry::Family* const>) {
     const Graph g = hartleyGraph(n, !element.doublePrecision);
     const std::string type(element.type);
     std::ostringstream out;

@@ -43,11 +43,17 @@ const KernelFamily& kernelFamily(std::string_view source) {
 }
 
 std::string kernelSource(std::string_view source, int length, const Element& element,
-                         const Target& target, std::string_view choice) {
+                         const Target& target, std::string_view choice,
+                         std::string_view onlyFamily) {
     const KernelFamily& family = kernelFamily(source);
+    std::vector<const registry::Family*> members;
+    for (const registry::Family& member : registry::families())
+        if (member.kernelSource == source && (onlyFamily.empty() || onlyFamily == member.name))
+            members.push_back(&member);
     return family.emit(length, element, target,
                        choice.empty() ? family.choice(length, element, target)
-                                      : ScheduleChoice::parse(choice));
+                                      : ScheduleChoice::parse(choice),
+                       members);
 }
 
 std::string explain(std::string_view source, int length, const Element& element) {

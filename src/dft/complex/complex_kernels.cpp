@@ -61,24 +61,23 @@ std::string functions(const Family& family, int n, const Element& element,
     return out.str();
 }
 
-std::string emit(int n, const Element& element, const Target& target,
-                 const ScheduleChoice& choice) {
+std::string emit(int n, const Element& element, const Target& target, const ScheduleChoice& choice,
+                 std::span<const Family* const> families) {
     std::ostringstream out, exported;
     out << fileHead("Complex DFT, " + describe(n, element),
                     graph(n, element, target, false), choice)
         << "#include \"core/complex_kernel.h\"\n\nnamespace {\n\nusing namespace kfm::simd;\n"
         << "using kfm::launder;\n\n";
-    for (const Family& family : registry::families()) {
-        if (family.kernelSource != kernels) continue;
-        const std::string kernel = family.inverse() ? "Inverse" : "Forward";
-        out << emitTransform(graph(n, element, target, family.inverse()), kernel + "Transform",
+    for (const Family* family : families) {
+        const std::string kernel = family->inverse() ? "Inverse" : "Forward";
+        out << emitTransform(graph(n, element, target, family->inverse()), kernel + "Transform",
                              element, choice)
             << "\nstruct " << kernel << " : " << kernel << "Transform {\n"
             << "    static constexpr kfm::Direction direction = kfm::Direction::"
-            << (family.inverse() ? "inverse" : "forward") << ";\n    "
+            << (family->inverse() ? "inverse" : "forward") << ";\n    "
             << scaleFactors(n, Constant::inverseSqrt(n), element, element.doublePrecision ? 2 : 4)
             << "};\n\n";
-        exported << functions(family, n, element, kernel) << "\n";
+        exported << functions(*family, n, element, kernel) << "\n";
     }
     out << "}   // namespace\n\nextern \"C\" {\n\n" << exported.str() << "}\n";
     return out.str();

@@ -66,7 +66,7 @@ std::string function(const Family& family, int n, const Element& element) {
 }
 
 std::string emit(bool inverse, const Graph& g, int n, const Element& element,
-                 const ScheduleChoice& choice) {
+                 const ScheduleChoice& choice, std::span<const Family* const> families) {
     std::ostringstream out;
     out << fileHead((inverse ? "Inverse real DFT, " : "Real DFT, ") + describe(n, element), g,
                     choice)
@@ -79,9 +79,7 @@ std::string emit(bool inverse, const Graph& g, int n, const Element& element,
         << (inverse ? "inverse" : "forward") << ";\n    "
         << scaleFactors(n, twoStepInverseSqrt(n), element, g.lanes())
         << "};\n\n}   // namespace\n\nextern \"C\" {\n\n";
-    for (const Family& family : registry::families())
-        if (family.kernelSource == (inverse ? inverseKernels : forwardKernels))
-            out << function(family, n, element) << "\n";
+    for (const Family* family : families) out << function(*family, n, element) << "\n";
     out << "}\n";
     return out.str();
 }
@@ -93,8 +91,10 @@ KernelFamily forwardFamily() {
         return forwardGraph(n, !element.doublePrecision);
     };
     const auto write = [](int n, const Element& element, const Target&,
-                          const ScheduleChoice& choice) {
-        return emit(false, forwardGraph(n, !element.doublePrecision), n, element, choice);
+                          const ScheduleChoice& choice,
+                          std::span<const Family* const> families) {
+        return emit(false, forwardGraph(n, !element.doublePrecision), n, element, choice,
+                    families);
     };
     return {forwardKernels, graph, describe, forwardChoice, write};
 }
@@ -104,8 +104,10 @@ KernelFamily inverseFamily() {
         return inverseGraph(n, !element.doublePrecision);
     };
     const auto write = [](int n, const Element& element, const Target&,
-                          const ScheduleChoice& choice) {
-        return emit(true, inverseGraph(n, !element.doublePrecision), n, element, choice);
+                          const ScheduleChoice& choice,
+                          std::span<const Family* const> families) {
+        return emit(true, inverseGraph(n, !element.doublePrecision), n, element, choice,
+                    families);
     };
     return {inverseKernels, graph, describe, inverseChoice, write};
 }
