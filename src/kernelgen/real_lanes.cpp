@@ -1,9 +1,12 @@
 #include "kernelgen/real_lanes.h"
 
+#include <algorithm>
+#include <cmath>
 #include <map>
 #include <stdexcept>
 
 #include "kernelgen/algorithms.h"
+#include "kernelgen/evaluate.h"
 
 namespace kfm::kernelgen {
 namespace {
@@ -13,9 +16,9 @@ using Sequence = std::vector<Lane>;
 
 void setBin(Spectrum& spectrum, int n, int k, ComplexLanes value) {
     if (2 * k <= n)
-        spectrum[k] = value;
+        spectrum.at(k) = value;
     else
-        spectrum[n - k] = {value.re, -value.im};
+        spectrum.at(n - k) = {value.re, -value.im};
 }
 
 Lane low(Ref vector) { return {vector, 0}; }
@@ -385,18 +388,24 @@ void storeLanes(Graph& g, std::span<const LaneOutput> outputs) {
     std::map<Ref, Vector> vectors;
     for (const auto& [element, value] : outputs) {
         Vector& vector = vectors[value.vector.magnitude()];
-        if (vector.elements[value.index] >= 0)   // two elements of one value
-            throw std::logic_error("a lane is stored once");
+        if (vector.elements[value.index] >= 0) throw std::logic_error("a lane is stored once");
         vector.elements[value.index] = element;
         vector.negative[value.index] = value.negative();
     }
+    const std::vector<double> zeros(outputs.size());
+    const auto silence = evaluateNodes<double>(g, 1, zeros);
     for (const auto& [ref, vector] : vectors) {
-        LanePattern mask;
+        LanePattern subtracted(g.lanes()), flipped(g.lanes());
         for (int lane = 0; lane < g.lanes(); ++lane) {
-            const bool unused = vector.elements[lane] < 0;
-            mask.push_back(vector.negative[unused && g.lanes() == 2 ? 1 - lane : lane]);
+            const bool used = vector.elements[lane] >= 0;
+            const bool negative = vector.negative[used || g.lanes() == 1 ? lane : 1 - lane];
+            // What silence would make a negative zero goes through zero as well.
+            flipped[lane] = used && !negative && std::signbit(silence[ref.node()][lane]);
+            subtracted[lane] = negative || flipped[lane];
         }
-        g.store(vector.elements[0], vector.elements[1], g.subtract(ref, mask));
+        const bool flips = std::ranges::any_of(flipped, [](int lane) { return lane; });
+        const Ref value = flips ? g.flip(ref, flipped) : ref;
+        g.store(vector.elements[0], vector.elements[1], g.subtract(value, subtracted));
     }
 }
 
