@@ -16,6 +16,7 @@ namespace kfm::kernelgen {
 struct KernelFamily {
     std::string_view source;   // as in the registry: "DFT_CToC"
 
+    // A family whose kernels are not computed as graphs leaves this and `choice` empty.
     // The graph of one transform, scale factor and memory operations left open. Throws for a
     // target whose vectors the family has no lane mapping for.
     std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph;

@@ -11,15 +11,17 @@
 #include "dft/real/real_kernels.h"
 #include "hartley/hartley_kernels.h"
 #include "kernelgen/report.h"
+#include "wht/wht_kernels.h"
 
 namespace kfm::kernelgen {
 namespace {
 
 using registry::Element;
 
-const std::array<KernelFamily, 4>& allFamilies() {
+const std::array<KernelFamily, 5>& allFamilies() {
     static const std::array families = {dft::complex::kernelFamily(), dft::real::forwardFamily(),
-                                        dft::real::inverseFamily(), hartley::kernelFamily()};
+                                        dft::real::inverseFamily(), hartley::kernelFamily(),
+                                        wht::kernelFamily()};
     return families;
 }
 
@@ -46,7 +48,8 @@ std::string kernelSource(std::string_view source, int length, const Element& ele
                          const Target& target, std::string_view choice) {
     const KernelFamily& family = kernelFamily(source);
     return family.emit(length, element, target,
-                       choice.empty() ? family.choice(length, element, target)
+                       !family.choice   ? ScheduleChoice()
+                       : choice.empty() ? family.choice(length, element, target)
                                       : ScheduleChoice::parse(choice));
 }
 
@@ -55,6 +58,7 @@ std::string explain(std::string_view source, int length, const Element& element)
     std::ostringstream out;
     out << source << ' ' << length << ' ' << element.suffix << '\n'
         << "  factors          " << family.describe(length, element) << '\n';
+    if (!family.graph) return out.str();
     for (const Target& target : targets()) {
         const Graph graph = family.graph(length, element, target, false);
         const ScheduleChoice choice = family.choice(length, element, target);
@@ -73,6 +77,7 @@ std::string explain(std::string_view source, int length, const Element& element)
 std::string dump(std::string_view stage, std::string_view source, int length,
                  const Element& element, const Target& target) {
     const KernelFamily& family = kernelFamily(source);
+    if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no stages");
     const Graph graph = family.graph(length, element, target, false);
     const std::vector<int> scheduled = schedule(graph, family.choice(length, element, target));
     if (stage == "schedule") return dumpText(graph, scheduled);
@@ -91,7 +96,8 @@ std::string operationCountTable() {
     out << '\n';
     std::set<std::string_view> done;
     for (const registry::Family& family : registry::families()) {
-        if (!done.insert(family.kernelSource).second) continue;
+        const bool isNew = done.insert(family.kernelSource).second;
+        if (!isNew || !kernelFamily(family.kernelSource).graph) continue;
         for (const Element* element : family.elements)
             for (int length = family.first; length <= family.last; ++length) {
                 const OperationCounts counts = countOperations(
