@@ -55,7 +55,8 @@ struct Kernel {
         if constexpr (blocking == nullptr) {
             transformBlock<order, Access<Memory>, Access<Memory>>(src, dst, finish);
         } else {
-            const WorkBuffer work(buffer, bufferBytes(doublePrecision, order));
+            constexpr std::int64_t bytes = bufferBytes(doublePrecision, order);
+            const WorkBuffer work(buffer, bytes);
             Real* main = work.template as<Real>();
             transformInPasses<*blocking, Memory>(src, dst, finish, main, main + (1 << order));
         }
