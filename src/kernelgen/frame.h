@@ -9,7 +9,7 @@
 
 namespace kfm::kernelgen {
 
-// The functions of one kernel, for a block of C linkage: the exported one, which tests the alignment
+// The functions of one kernel, for a block of C linkage: the exported one, which tests alignment
 // where the registry says so, and its unaligned copy where it has one. `kernel` is the type that
 // runKernel() takes.
 std::string kernelFunctions(const registry::Family& family, int length,
