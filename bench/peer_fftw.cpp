@@ -126,7 +126,7 @@ private:
 
 void setPeerFolder(const std::string& folder) { peerFolder = folder; }
 
-std::function<void(long)> peerOf(const registry::Function& function) {
+std::function<void(long)> fftwPlan(const registry::Function& function) {
     static const Api<fftw_plan, fftw_complex, double> doubleApi("libfftw3.so.3", "fftw_");
     static const Api<fftwf_plan, fftwf_complex, float> singleApi("libfftw3f.so.3", "fftwf_");
     const registry::Element& element = *registry::findElement(function.element);
