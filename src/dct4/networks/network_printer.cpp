@@ -1,6 +1,8 @@
 #include "dct4/networks/network_printer.h"
 
+#include <algorithm>
 #include <map>
+#include <set>
 #include <sstream>
 #include <vector>
 
@@ -36,6 +38,9 @@ public:
     NetworkPrinter(const Graph& g, bool doublePrecision, const ScheduleChoice& choice)
         : g_(g), choice_(choice), doublePrecision_(doublePrecision) {
         for (const Output& output : g.outputs()) outputs_[output.node].push_back(output);
+        for (const int node : g.liveNodes())
+            for (const Ref operand : {g.nodes()[node].a, g.nodes()[node].b})
+                if (!operand.isZero()) operands_.insert(operand.node());
     }
 
     std::string body() {
@@ -97,8 +102,17 @@ private:
         return binary(("select<" + lanes + ">").c_str(), node);
     }
 
+    // A difference that only goes out, and with the other sign, is taken the other way round.
+    bool turnsRound(int index) {
+        return g_.nodes()[index].op == Op::sub && !operands_.contains(index) &&
+               std::ranges::all_of(outputs_[index], [&](const Output& output) {
+                   return output.negated == LanePattern(g_.lanes(), 1);
+               });
+    }
+
     void printNode(int index) {
-        const Node& node = g_.nodes()[index];
+        Node node = g_.nodes()[index];
+        if (turnsRound(index)) std::swap(node.a, node.b);
         const bool isSum = node.op == Op::add || node.op == Op::sub;
         const bool pinned = choice_.pin == Pin::all || (choice_.pin == Pin::sums && isSum);
         out_ << "        " << (pinned ? "" : "const ") << "Vector t" << index << " = "
@@ -108,7 +122,7 @@ private:
 
     void printStore(const Output& output) {
         std::string value = "t" + std::to_string(output.node);
-        if (output.negated != LanePattern(g_.lanes(), 0))
+        if (output.negated != LanePattern(g_.lanes(), 0) && !turnsRound(output.node))
             value = g_.lanes() == 1 ? "-" + value
                                     : "flip(" + value + ", " + signs(output.negated) + ")";
         out_ << "        out.store(" << output.first << ", " << value << ");\n";
@@ -119,6 +133,7 @@ private:
     bool doublePrecision_;
     ConstantTable table_;
     std::map<int, std::vector<Output>> outputs_;
+    std::set<int> operands_;
     std::ostringstream out_;
 };
 
