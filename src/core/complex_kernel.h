@@ -4,14 +4,9 @@
 #include "core/kernel_entry.h"
 #include "simd/f32x4.h"
 #include "simd/f64x2.h"
+#include "simd/launder.h"
 
 namespace kfm {
-
-// Hides where a table comes from, so that its constants are loaded and not rebuilt.
-template <class T>
-[[gnu::always_inline]] inline void launder(const T*& table) {
-    asm("" : "+r"(table));
-}
 
 // Checks the arguments in their order, picks the scale factor and runs the transform. `Kernel`
 // has the static `scales` and `direction`, and transform<Memory>.

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "dct4/networks/codelet_families.h"
 #include "dft/complex/complex_kernels.h"
 #include "kernelgen/report.h"
 
@@ -15,8 +16,12 @@ namespace {
 
 using registry::Element;
 
-const std::array<KernelFamily, 1>& allFamilies() {
-    static const std::array<KernelFamily, 1> families = {dft::complex::kernelFamily()};
+const std::vector<KernelFamily>& allFamilies() {
+    static const std::vector<KernelFamily> families = [] {
+        std::vector<KernelFamily> result = dct4::codeletFamilies();
+        result.push_back(dft::complex::kernelFamily());
+        return result;
+    }();
     return families;
 }
 

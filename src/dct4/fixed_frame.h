@@ -1,0 +1,37 @@
+// The short transforms: straight from the caller's array to the caller's array.
+#pragma once
+
+#include "dct4/codelet_frame.h"
+
+namespace kfm::dct4 {
+
+template <class Real, int n>
+struct FixedTransformNetwork;
+
+// Slots are elements, or where a vector of them starts.
+template <class Vector, class Real>
+struct ElementReader {
+    const Real* first;
+
+    Vector load(int element) const {
+        if constexpr (Scalar<Vector>) return first[element];
+        else return loadUnaligned(first + element);
+    }
+};
+
+template <class Real>
+struct ElementWriter {
+    Real* first;
+
+    void store(int element, Real value) const { first[element] = value; }
+    void store(int element, VectorOf<Real> value) const { storeUnaligned(first + element, value); }
+};
+
+// Every result depends on every input, so all loads come before the first store.
+template <class Real, int n>
+void fixedTransform(const Real* src, Real* dst) {
+    using Network = FixedTransformNetwork<Real, n>;
+    Network::run(ElementReader<typename Network::Vector, Real>{src}, ElementWriter<Real>{dst});
+}
+
+}   // namespace kfm::dct4

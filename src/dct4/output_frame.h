@@ -1,0 +1,67 @@
+// The output stage: rows of w become lanes, are rotated by the table, and go through the cosine and
+// sine sums of d points. The results of a row land in every run of the output, from its start and
+// from its end.
+#pragma once
+
+#include "dct4/codelet_frame.h"
+
+namespace kfm::dct4 {
+
+template <class Real, int d>
+struct OutputStageNetwork;
+
+// Columns of `lanes` rows, each `distance` elements after the last, as vectors.
+template <class Real>
+struct Columns {
+    VectorOf<Real> column[lanes<Real>];
+
+    Columns(const Real* first, std::ptrdiff_t distance) {
+        for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned(first + j * distance);
+        transpose(column);
+    }
+};
+
+// P_r = c C_r - s T_r to vector r, R_r = s C_r + c T_r to vector d + r, for as many rows as a
+// vector has lanes. Cosines and sines stand four to a group in the table.
+template <class Real, int d>
+void rotateRows(const Real* w, const Real* table, Real* rotated) {
+    constexpr int L = lanes<Real>;
+    for (int r = 0; r < d; r += L) {
+        const Columns<Real> cosinePart(w + r, 2 * d), sinePart(w + d + r, 2 * d);
+        for (int j = 0; j < L; ++j) {
+            const VectorOf<Real> C = cosinePart.column[j], T = sinePart.column[j];
+            const VectorOf<Real> c = loadAligned(table + 8 * (r + j));
+            const VectorOf<Real> s = loadAligned(table + 8 * (r + j) + 4);
+            storeAligned(rotated + (r + j) * L, sub(mul(c, C), mul(s, T)));
+            storeAligned(rotated + (d + r + j) * L, add(mul(s, C), mul(c, T)));
+        }
+    }
+}
+
+// Slots k and d + k: run k, from its start and, backwards, from its end.
+template <class Real, int d>
+struct RunWriter {
+    Real* low;    // in run 0
+    Real* high;
+    std::ptrdiff_t run;
+
+    void store(int slot, VectorOf<Real> v) const {
+        if (slot < d) storeUnaligned(low + slot * run, v);
+        else storeUnaligned(high + (slot - d) * run, reverse(v));
+    }
+};
+
+template <class Real, int d>
+void outputStage(const Real* w, const Real* table, Real* dst, int len) {
+    constexpr int L = lanes<Real>;
+    const std::ptrdiff_t run = len / d;
+    alignas(16) Real rotated[2 * d * L];
+    for (int q = 0; q < run / 2; q += L) {
+        const Real* block = table + std::ptrdiff_t(q / 4) * 8 * d + q % 4;
+        rotateRows<Real, d>(w + std::ptrdiff_t(q) * 2 * d, block, rotated);
+        OutputStageNetwork<Real, d>::run(RowReader<Real>{rotated},
+                                         RunWriter<Real, d>{dst + q, dst + run - L - q, run});
+    }
+}
+
+}   // namespace kfm::dct4
