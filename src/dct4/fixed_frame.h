@@ -9,12 +9,12 @@ template <class Real, int n>
 struct FixedTransformNetwork;
 
 // Slots are elements, or where a vector of them starts.
-template <class Vector, class Real>
+template <class Network, class Real>
 struct ElementReader {
     const Real* first;
 
-    Vector load(int element) const {
-        if constexpr (Scalar<Vector>) return first[element];
+    typename Network::Vector load(int element) const {
+        if constexpr (Scalar<typename Network::Vector>) return first[element];
         else return loadUnaligned(first + element);
     }
 };
@@ -31,7 +31,7 @@ struct ElementWriter {
 template <class Real, int n>
 void fixedTransform(const Real* src, Real* dst) {
     using Network = FixedTransformNetwork<Real, n>;
-    Network::run(ElementReader<typename Network::Vector, Real>{src}, ElementWriter<Real>{dst});
+    Network::run(ElementReader<Network, Real>{src}, ElementWriter<Real>{dst});
 }
 
 }   // namespace kfm::dct4
