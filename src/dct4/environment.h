@@ -64,10 +64,10 @@ KfmStatus addStage(Environment& parent, EnvList* stage, Kind* child) {
     return child->plan.get()(child) == kfmOk ? kfmOk : kfmErrSize;
 }
 
-// The one environment of a stage list.
+// The one environment of a stage list: the item of its header. Every transform asks for it.
 template <class Kind>
 const Kind* stageOf(const EnvList* list) {
-    return static_cast<const Kind*>(EnvList_get(list, 0));
+    return static_cast<const Kind*>(list->item.get());
 }
 
 inline void deleteChildren(Environment& environment) {

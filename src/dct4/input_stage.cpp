@@ -56,11 +56,6 @@ void Env3<Real>::del() {
 }
 
 template <class Real>
-KfmStatus Env3<Real>::compute(const Real* src, Real* w) const {
-    return rule == 1 ? stageOf<Env5<Real>>(stage)->compute(src, w) : kfmOk;
-}
-
-template <class Real>
 Bytes Env5<Real>::mem(int len, int d) {
     const Bytes own = objectMem<Env5>(2);
     if (subLengthRule(len / d) != splitRule) return own;

@@ -37,7 +37,9 @@ struct Env3 : Environment {
     void init(void* arena, int len, int d);
     KfmStatus build();
     void del();
-    KfmStatus compute(const Real* src, Real* w) const;
+    KfmStatus compute(const Real* src, Real* w) const {
+        return rule == 1 ? stageOf<Env5<Real>>(stage)->compute(src, w) : kfmOk;
+    }
 };
 
 static_assert(sizeof(Env3<Kfm32f>) == 60 && sizeof(Env3<Kfm64f>) == 60);

@@ -62,11 +62,6 @@ void Env2<Real>::del() {
 }
 
 template <class Real>
-void Env2<Real>::compute(const Real* w, Real* dst) const {
-    if (rule == 1) stageOf<Env4<Real>>(stage)->compute(w, dst);
-}
-
-template <class Real>
 int Env4<Real>::chooseRule(int d) {
     switch (d) {
         case 1: return 1;

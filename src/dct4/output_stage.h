@@ -34,7 +34,9 @@ struct Env2 : Environment {
     void init(void* arena, int len, int d, const EnvFCompose<Real>* compose);
     KfmStatus build();
     void del();
-    void compute(const Real* w, Real* dst) const;
+    void compute(const Real* w, Real* dst) const {
+        if (rule == 1) stageOf<Env4<Real>>(stage)->compute(w, dst);
+    }
 };
 
 static_assert(sizeof(Env2<Kfm32f>) == 64 && sizeof(Env2<Kfm64f>) == 64);

@@ -90,7 +90,7 @@ KfmStatus Env1<Real>::buildStages() {
     env3->init(arena, len, divisor);
     if (addStage(*this, inputStage, env3) != kfmOk) return kfmErrSize;
     work = takeArray<Real>(arena, workBytes<Real>(len));
-    if (odd()) fillOddTable<Real>(work, len);
+    if (len % 2 != 0) fillOddTable<Real>(work, len);
     return kfmOk;
 }
 
@@ -104,17 +104,8 @@ void Env1<Real>::del() {
 }
 
 template <class Real>
-KfmStatus Env1<Real>::compute(const Real* src, Real* dst) const {
-    switch (rule) {
-        case 1: fixedTransform<Real, 2>(src, dst); return kfmOk;
-        case 2: fixedTransform<Real, 4>(src, dst); return kfmOk;
-        case 3: fixedTransform<Real, 8>(src, dst); return kfmOk;
-        case 4: fixedTransform<Real, 16>(src, dst); return kfmOk;
-        case 5: fixedTransform<Real, 32>(src, dst); return kfmOk;
-        case generalRule: break;
-        default: return kfmErrBadSpec;
-    }
-    if (odd()) {
+KfmStatus Env1<Real>::computeGeneral(const Real* src, Real* dst) const {
+    if (len % 2 != 0) {
         computeOdd(src, dst);
         return kfmOk;
     }

@@ -1,6 +1,7 @@
 // The root of a plan, env1: the whole transform. Its address is the handle that callers hold.
 #pragma once
 
+#include "dct4/codelets.h"
 #include "dct4/input_stage.h"
 #include "dct4/output_stage.h"
 
@@ -24,11 +25,25 @@ struct Env1 : Environment {
     KfmStatus compute(const Real* src, Real* dst) const;
 
 private:
-    bool odd() const { return len % 2 != 0; }
     KfmStatus buildStages();
+    KfmStatus computeGeneral(const Real* src, Real* dst) const;
     void computeOdd(const Real* src, Real* dst) const;
     void computeShortOdd(const Real* src, Real* dst) const;
 };
+
+// In the header, so that a short transform is one call away from the public one.
+template <class Real>
+KfmStatus Env1<Real>::compute(const Real* src, Real* dst) const {
+    switch (rule) {
+        case 1: fixedTransform<Real, 2>(src, dst); return kfmOk;
+        case 2: fixedTransform<Real, 4>(src, dst); return kfmOk;
+        case 3: fixedTransform<Real, 8>(src, dst); return kfmOk;
+        case 4: fixedTransform<Real, 16>(src, dst); return kfmOk;
+        case 5: fixedTransform<Real, 32>(src, dst); return kfmOk;
+        case generalRule: return computeGeneral(src, dst);
+        default: return kfmErrBadSpec;
+    }
+}
 
 static_assert(sizeof(Env1<Kfm32f>) == 44 && sizeof(Env1<Kfm64f>) == 44);
 
