@@ -18,8 +18,10 @@ constexpr int canary = 0x5a;
 class Pages {
 public:
     Pages(std::size_t bytes, bool highBit) : bytes_((bytes + page - 1) / page * page) {
-        const std::uintptr_t hint = highBit ? 0x90000000u : 0x60000000u;
-        void* mapped = mmap(reinterpret_cast<void*>(hint), bytes_ + page, PROT_NONE,
+        const std::uintptr_t low = highBit ? 0x90000000u : 0x60000000u;
+        const std::uintptr_t high = sizeof(void*) == 8 ? std::uintptr_t{0x2000} : 0;
+        auto* address = reinterpret_cast<void*>((high << 16 << 16) + low);
+        void* mapped = mmap(address, bytes_ + page, PROT_NONE,
                             MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0);
         if (mapped == MAP_FAILED) throw std::bad_alloc();
         start_ = static_cast<Kfm8u*>(mapped);
