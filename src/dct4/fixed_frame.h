@@ -14,7 +14,7 @@ struct ElementReader {
     const Real* first;
 
     typename Network::Vector load(int element) const {
-        if constexpr (Scalar<typename Network::Vector>) return first[element];
+        if constexpr (sizeof(typename Network::Vector) == sizeof(Real)) return first[element];
         else return loadUnaligned(first + element);
     }
 };

@@ -16,6 +16,7 @@ struct Columns {
     VectorOf<Real> column[lanes<Real>];
 
     Columns(const Real* first, std::ptrdiff_t distance) {
+#pragma GCC unroll 4
         for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned(first + j * distance);
         transpose(column);
     }
@@ -28,6 +29,7 @@ void rotateRows(const Real* w, const Real* table, Real* rotated) {
     constexpr int L = lanes<Real>;
     for (int r = 0; r < d; r += L) {
         const Columns<Real> cosinePart(w + r, 2 * d), sinePart(w + d + r, 2 * d);
+#pragma GCC unroll 4
         for (int j = 0; j < L; ++j) {
             const VectorOf<Real> C = cosinePart.column[j], T = sinePart.column[j];
             const VectorOf<Real> c = loadAligned(table + 8 * (r + j));
@@ -41,13 +43,11 @@ void rotateRows(const Real* w, const Real* table, Real* rotated) {
 // Slots k and d + k: run k, from its start and, backwards, from its end.
 template <class Real, int d>
 struct RunWriter {
-    Real* low;    // in run 0
-    Real* high;
-    std::ptrdiff_t run;
+    Strided<Real, d> low, high;
 
     void store(int slot, VectorOf<Real> v) const {
-        if (slot < d) storeUnaligned(low + slot * run, v);
-        else storeUnaligned(high + (slot - d) * run, reverse(v));
+        if (slot < d) storeUnaligned(low[slot], v);
+        else storeUnaligned(high[slot - d], reverse(v));
     }
 };
 
@@ -60,7 +60,7 @@ void outputStage(const Real* w, const Real* table, Real* dst, int len) {
         const Real* block = table + std::ptrdiff_t(q / 4) * 8 * d + q % 4;
         rotateRows<Real, d>(w + std::ptrdiff_t(q) * 2 * d, block, rotated);
         OutputStageNetwork<Real, d>::run(RowReader<Real>{rotated},
-                                         RunWriter<Real, d>{dst + q, dst + run - L - q, run});
+                                         RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});
     }
 }
 

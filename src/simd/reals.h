@@ -33,7 +33,9 @@ inline void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
 inline void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
 inline void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
 
-inline f32x4 reverse(f32x4 v) { return select<3, 2, 1, 0>(v, v); }
+// Not the integer shuffle that select would take: compilers fetch its operand from memory, by way
+// of the stack when it came from an address without alignment.
+inline f32x4 reverse(f32x4 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3)); }
 inline f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }
 
 // One lane in all lanes.

@@ -1,6 +1,7 @@
 #include "dct4/networks/network_printer.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <sstream>
@@ -96,6 +97,8 @@ private:
         case Op::select:
             break;
         }
+        if (node.a == node.b && std::ranges::is_sorted(node.pattern, std::greater()))
+            return "reverse(" + name(node.a) + ")";
         std::string lanes;
         for (const int lane : node.pattern)
             lanes += (lanes.empty() ? "" : ", ") + std::to_string(lane);
