@@ -13,7 +13,8 @@ namespace kfm::bench {
 void setPeerFolder(const std::string& folder);
 
 // The best plan for the function's transform, out of place and unscaled, as a subject of the
-// timer; empty without a library or without a like transform in it.
+// timer; empty without a library or without a like transform in it. Where a plan may overwrite its
+// source, it does so if that is faster.
 std::function<void(long)> peerOf(const registry::Function& function);
 
 }   // namespace kfm::bench

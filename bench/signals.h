@@ -20,7 +20,8 @@ class Signals {
 public:
     Signals(int length, const registry::Element& element, bool unaligned = false,
             bool inPlace = false)
-        : bytes((length * element.bytes + lineBytes) / lineBytes * lineBytes),
+        // A half spectrum takes up to two reals more than the signal.
+        : bytes(((length + (element.complex ? 0 : 2)) * element.bytes + lineBytes) / lineBytes * lineBytes),
           stride((2 * bytes + pageBytes / placements) / lineBytes * lineBytes),
           block(static_cast<std::byte*>(std::aligned_alloc(lineBytes, placements * stride)),
                 &std::free),

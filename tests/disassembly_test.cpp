@@ -191,6 +191,21 @@ TEST(Disassembly, KernelsComputeInSse2) {
     });
 }
 
+// Real transforms of length 2 and 4 have no constant to multiply by.
+TEST(Disassembly, SingleKernelsWithoutProductsStayInSinglePrecision) {
+    forEveryKernel([](const Kernel& kernel, const Code& code) {
+        if (!kernel.name.ends_with("_2_32f") && !kernel.name.ends_with("_4_32f"))
+            return std::string();
+        return firstWhere(code, [](const Instruction& instruction) {
+            const std::string stem = instruction.mnemonic.substr(0, 3);
+            const bool computes = stem == "add" || stem == "sub" || stem == "mul" || stem == "div";
+            const bool wide = instruction.mnemonic.ends_with("sd") ||
+                              instruction.mnemonic.ends_with("pd");
+            return stem == "cvt" || (computes && wide);
+        });
+    });
+}
+
 TEST(Disassembly, AlignedKernelsUseAlignedMoves) {
     forEveryKernel([](const Kernel& kernel, const Code& code) {
         if (!kernel.aligned) return std::string();

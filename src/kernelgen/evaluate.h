@@ -12,9 +12,10 @@ namespace kfm::kernelgen {
 
 // `source` holds the input as a flat array of lanes: element e of a load is the
 // `lanesPerElement` values from e * lanesPerElement; an output element is laid out alike.
-template <class Real>
+// Nodes that are wide are computed in `Wide`, all others in `Real`.
+template <class Real, class Wide = Real>
 std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const Real> source) {
-    using Lanes = std::vector<Real>;
+    using Lanes = std::vector<Wide>;
     const int lanes = g.lanes();
     std::vector<Lanes> values;
     const auto at = [&](Ref ref) -> const Lanes& { return values[ref.node()]; };
@@ -35,16 +36,26 @@ std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const 
                 v[i] = at(node.a)[i] - at(node.b)[i];
                 break;
             case Op::mul:
-                v[i] = static_cast<Real>(g.constant(node.constant)[i].value()) * at(node.a)[i];
+                v[i] = static_cast<Wide>(g.constant(node.constant)[i].value()) * at(node.a)[i];
                 break;
             case Op::select:
-                v[i] = node.pattern[i] < lanes ? at(node.a)[node.pattern[i]]
-                                               : at(node.b)[node.pattern[i] - lanes];
+                v[i] = node.pattern[i] < 0       ? Wide(0)
+                       : node.pattern[i] < lanes ? at(node.a)[node.pattern[i]]
+                                                 : at(node.b)[node.pattern[i] - lanes];
                 break;
             case Op::flip:
                 v[i] = node.pattern[i] ? -at(node.a)[i] : at(node.a)[i];
                 break;
+            case Op::subtract:
+                v[i] = node.pattern[i] ? Wide(0) - at(node.a)[i] : at(node.a)[i];
+                break;
+            case Op::widen:
+            case Op::round:
+                v[i] = at(node.a)[i];
+                break;
             }
+            // A single operation rounded twice, to Wide and to Real, is rounded as by Real alone.
+            if (!node.wide) v[i] = static_cast<Real>(v[i]);
         }
         values.push_back(std::move(v));
     }
@@ -54,7 +65,7 @@ std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const 
         for (int i = 0; i < lanes; ++i) {
             const int element = elements[i / lanesPerElement];
             if (element < 0) continue;
-            const Real value = values[output.node][i];
+            const Real value = static_cast<Real>(values[output.node][i]);
             result[element * lanesPerElement + i % lanesPerElement] =
                 output.negated[i] ? -value : value;
         }

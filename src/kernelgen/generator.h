@@ -2,7 +2,7 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -23,9 +23,10 @@ struct KernelFamily {
     std::function<std::string(int length, const registry::Element&)> describe;
     // The schedule on record.
     std::function<ScheduleChoice(int length, const registry::Element&, const Target&)> choice;
-    // The C++ source of all functions of one length and element type.
+    // The C++ source of the functions of one length and element type: those of all families with
+    // this source, or of one of them.
     std::function<std::string(int length, const registry::Element&, const Target&,
-                              const ScheduleChoice&)>
+                              const ScheduleChoice&, std::span<const registry::Family* const>)>
         emit;
 };
 

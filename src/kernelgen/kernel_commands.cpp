@@ -9,6 +9,8 @@
 
 #include "dct4/networks/codelet_families.h"
 #include "dft/complex/complex_kernels.h"
+#include "dft/real/real_kernels.h"
+#include "hartley/hartley_kernels.h"
 #include "kernelgen/report.h"
 
 namespace kfm::kernelgen {
@@ -20,6 +22,9 @@ const std::vector<KernelFamily>& allFamilies() {
     static const std::vector<KernelFamily> families = [] {
         std::vector<KernelFamily> result = dct4::codeletFamilies();
         result.push_back(dft::complex::kernelFamily());
+        result.push_back(dft::real::forwardFamily());
+        result.push_back(dft::real::inverseFamily());
+        result.push_back(hartley::kernelFamily());
         return result;
     }();
     return families;
@@ -33,6 +38,7 @@ constexpr std::array columns = {
     std::pair{"signChanges", &OperationCounts::signChanges},
     std::pair{"loads", &OperationCounts::loads},
     std::pair{"stores", &OperationCounts::stores},
+    std::pair{"conversions", &OperationCounts::conversions},
 };
 
 }   // namespace
@@ -44,11 +50,17 @@ const KernelFamily& kernelFamily(std::string_view source) {
 }
 
 std::string kernelSource(std::string_view source, int length, const Element& element,
-                         const Target& target, std::string_view choice) {
+                         const Target& target, std::string_view choice,
+                         std::string_view onlyFamily) {
     const KernelFamily& family = kernelFamily(source);
+    std::vector<const registry::Family*> members;
+    for (const registry::Family& member : registry::families())
+        if (member.kernelSource == source && (onlyFamily.empty() || onlyFamily == member.name))
+            members.push_back(&member);
     return family.emit(length, element, target,
                        choice.empty() ? family.choice(length, element, target)
-                                      : ScheduleChoice::parse(choice));
+                                      : ScheduleChoice::parse(choice),
+                       members);
 }
 
 std::string explain(std::string_view source, int length, const Element& element) {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <stdexcept>
 
 #include "support/fault.h"
 
@@ -26,13 +25,16 @@ std::vector<Transform> collect(bool generic) {
 
 std::string Transform::name() const { return function->name + std::strlen("kfmg"); }
 
-std::size_t Transform::sourceReals() const {
-    if (!family->name.ends_with("_CToC"))
-        throw std::logic_error("sizes of " + std::string(family->name) + " are not known");
-    return 2 * static_cast<std::size_t>(length);
+bool Transform::reads(std::size_t i) const {
+    const std::vector<Slot> spectrum = slots(source(), length);
+    return spectrum.empty() || !spectrum[i].alwaysZero(length);
 }
 
-std::size_t Transform::destinationReals() const { return sourceReals(); }
+std::size_t Transform::readBytes() const {
+    std::size_t count = sourceReals();
+    while (!reads(count - 1)) --count;
+    return count * realBytes();
+}
 
 std::ostream& operator<<(std::ostream& out, const Transform& transform) {
     return out << transform.name();

@@ -15,6 +15,7 @@
 #include "kfmgen.h"
 #include "registry/functions.h"
 #include "registry/registry.h"
+#include "support/packed_spectrum.h"
 
 namespace kfm::tests {
 
@@ -26,10 +27,19 @@ struct Transform {
 
     std::string name() const;   // "DFTFwd_CToC_16_32fc"
     std::size_t realBytes() const { return element->doublePrecision ? 8 : 4; }
-    std::size_t sourceReals() const;
-    std::size_t destinationReals() const;
+    bool inverse() const { return family->inverse(); }
+    bool hartley() const { return family->name == "Hartley"; }
+    Content source() const { return contentsOf(family->name).source; }
+    Content destination() const { return contentsOf(family->name).destination; }
+    std::size_t sourceReals() const { return reals(source(), length); }
+    std::size_t destinationReals() const { return reals(destination(), length); }
+    bool reads(std::size_t i) const;   // whether element i of the source matters
+    // Up to the last real that is read: the array may end there.
+    std::size_t readBytes() const;
     std::size_t sourceBytes() const { return sourceReals() * realBytes(); }
     std::size_t destinationBytes() const { return destinationReals() * realBytes(); }
+    // From one address that is served to the next.
+    std::size_t addressStep() const { return element->complex ? 1 : realBytes(); }
 };
 
 std::ostream& operator<<(std::ostream& out, const Transform& transform);

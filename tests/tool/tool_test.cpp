@@ -75,6 +75,43 @@ TEST_F(Transform, InverseReadsForwardOutputBack) {
     }
 }
 
+TEST_F(Transform, RealDftIsLabelledByBin) {
+    for (const char* options : {"--layout ccs", "--family DFTFwd --layout pack",
+                                "--family DFTFwd_RToPerm", "--layout perm --precision double"})
+        EXPECT_EQ(run(std::string("transform --length 4 ") + options, "1\n2\n3\n4\n5\n").out,
+                  "frame,bin,re,im\n"
+                  "0,0,10,0\n0,1,-2,2\n0,2,-2,0\n"
+                  "1,0,5,0\n1,1,5,0\n1,2,5,0\n")
+            << options;
+}
+
+TEST_F(Transform, LayoutsGiveTheSameBinsAndTakeThemBack) {
+    const std::string samples = "3\n1\n-4\n1\n5\n-9\n2\n6\n";
+    for (int length = 2; length <= 9; ++length) {
+        const std::string options = "transform --length " + std::to_string(length) + " --layout ";
+        const std::string spectrum = run(options + "ccs", samples).out;
+        const std::string signal = run(options + "ccs --family DFTInv", spectrum).out;
+        EXPECT_TRUE(signal.starts_with("frame,index,value\n0,0,")) << signal;
+        for (const std::string layout : {"pack", "perm"}) {
+            EXPECT_EQ(run(options + layout, samples).out, spectrum) << layout << length;
+            EXPECT_EQ(run(options + layout + " --family DFTInv", spectrum).out, signal)
+                << layout << length;
+        }
+    }
+    const std::string restored = "frame,index,value\n0,0,3\n0,1,1\n0,2,-4\n0,3,1\n"
+                                 "1,0,5\n1,1,-9\n1,2,2\n1,3,6\n";
+    const std::string spectrum = run("transform --length 4 --layout perm", samples).out;
+    EXPECT_EQ(run("transform --length 4 --layout pack --family DFTInv --flag inv-by-n", spectrum).out,
+              restored);
+}
+
+TEST_F(Transform, HartleyReadsItsOwnOutput) {
+    const std::string options = "transform --family Hartley --length 2 --flag ";
+    const std::string there = run(options + "none", "1\n2\n").out;
+    EXPECT_EQ(there, "frame,index,value\n0,0,3\n0,1,-1\n");
+    EXPECT_EQ(run(options + "fwd-by-n", there).out, "frame,index,value\n0,0,1\n0,1,2\n");
+}
+
 TEST_F(Transform, DigitsOfEachPrecisionReadBack) {
     const std::string third = "0.3333333333333333\n0\n";
     EXPECT_NE(run("transform --length 2", third).out.find("\n0,0,0.33333334,0\n"),
@@ -115,6 +152,9 @@ TEST_F(Refusal, Options) {
         {"transform --length 4 --flag 8", "'8' is none of"},
         {"transform --length 4 --precision half", "'half' is none of"},
         {"transform --length 4 --tail wag", "'wag' is none of"},
+        {"transform --length 4 --layout heap", "'heap' is none of ccs|pack|perm"},
+        {"transform --length 4 --layout ccs --family Hartley", "not with Hartley"},
+        {"transform --length 4 --layout ccs --family DFTFwd_CToC", "not with DFTFwd_CToC"},
         {"transform --length 4 --hop 0", "--hop"},
         {"transform --length 4 --hop -3", "--hop"},
         {"transform --length 4 --colour", "--colour"},
@@ -161,6 +201,11 @@ TEST_F(Refusal, Files) {
     expectRefusal(run(transform + soundFile("empty.wav", 8000, 1, {})), "no samples");
     expectRefusal(run(transform + "-o " + path("absent/out.csv"), "1\n"), "cannot write");
     expectRefusal(run("spectrum " + textFile("text", "1\n")), "not a sound file");
+}
+
+TEST_F(Refusal, ComplexSamplesOfARealTransform) {
+    expectRefusal(run("transform --length 2 --layout ccs -o " + path("out.csv"), "1,0\n0,1\n"),
+                  "DFTFwd_RToCCS takes real samples");
 }
 
 TEST_F(Refusal, ValueBeyondSinglePrecision) {
