@@ -51,17 +51,61 @@ struct RunWriter {
     }
 };
 
+template <class Real, int d, class Writer>
+void outputRows(const Real* w, const Real* table, int q, Writer writer) {
+    alignas(16) Real rotated[2 * d * lanes<Real>];
+    const Real* block = table + std::ptrdiff_t(q / 4) * 8 * d + q % 4;
+    rotateRows<Real, d>(w + std::ptrdiff_t(q) * 2 * d, block, rotated);
+    OutputStageNetwork<Real, d>::run(RowReader<Real>{rotated}, writer);
+}
+
+template <class Real>
+inline constexpr int lineLength = static_cast<int>(64 / sizeof(Real));
+
+// The same slots, to cache lines that wait for the rows that share them.
+template <class Real, int d>
+struct LineWriter {
+    Real* low;
+    Real* high;
+
+    void store(int slot, VectorOf<Real> v) const {
+        if (slot < d) storeAligned(low + slot * lineLength<Real>, v);
+        else storeAligned(high + slot * lineLength<Real>, reverse(v));
+    }
+};
+
+template <class Real>
+void copyLine(const Real* line, Real* dst) {
+    for (int i = 0; i < lineLength<Real>; i += lanes<Real>)
+        storeUnaligned(dst + i, loadAligned(line + i));
+}
+
+// Runs that are a multiple of a page apart fall into the same few sets of every cache, which cannot
+// hold a line of each until it is full. So lines are filled on the stack and written whole.
+template <class Real, int d>
+void outputByLines(const Real* w, const Real* table, Real* dst, std::ptrdiff_t run) {
+    constexpr int L = lanes<Real>, line = lineLength<Real>;
+    alignas(64) Real lines[2 * d * line];
+    for (int q = 0; q < run / 2; q += line) {
+        for (int row = 0; row < line; row += L)
+            outputRows<Real, d>(w, table, q + row,
+                                LineWriter<Real, d>{lines + row, lines + line - L - row});
+        for (int k = 0; k < d; ++k) {
+            copyLine(lines + k * line, dst + k * run + q);
+            copyLine(lines + (d + k) * line, dst + (k + 1) * run - line - q);
+        }
+    }
+}
+
 template <class Real, int d>
 void outputStage(const Real* w, const Real* table, Real* dst, int len) {
-    constexpr int L = lanes<Real>;
+    constexpr int L = lanes<Real>, page = 4096 / sizeof(Real);
     const std::ptrdiff_t run = len / d;
-    alignas(16) Real rotated[2 * d * L];
-    for (int q = 0; q < run / 2; q += L) {
-        const Real* block = table + std::ptrdiff_t(q / 4) * 8 * d + q % 4;
-        rotateRows<Real, d>(w + std::ptrdiff_t(q) * 2 * d, block, rotated);
-        OutputStageNetwork<Real, d>::run(RowReader<Real>{rotated},
-                                         RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});
-    }
+    if constexpr (d == 32)
+        if (run >= page) return outputByLines<Real, d>(w, table, dst, run);
+    for (int q = 0; q < run / 2; q += L)
+        outputRows<Real, d>(w, table, q,
+                            RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});
 }
 
 }   // namespace kfm::dct4

@@ -12,29 +12,27 @@ struct TwiddleStageNetwork;
 template <class Real, int divisor>
 struct TwiddleStageRootNetwork;
 
-// Complex rows `distance` elements apart, the real part before the imaginary part.
-template <class Real>
+// Complex rows some distance apart, the real part before the imaginary part.
+template <class Real, int divisor>
 struct ComplexRowWriter {
-    Real* first;
-    std::ptrdiff_t distance;
+    Strided<Real, divisor> rows;
 
     void store(int slot, VectorOf<Real> v) const {
-        storeAligned(first + slot / 2 * distance + slot % 2 * lanes<Real>, v);
+        storeAligned(rows[slot / 2] + slot % 2 * lanes<Real>, v);
     }
 };
 
-// Result t of row p, at a recursion's root, belongs into the rows 4(M't + p) of w and the next, or
-// as many from the other end for the upper half, whose two rows are one step on.
+// Result t of row p, at a recursion's root, belongs into the rows 4(M't + p) of w and the next; in
+// the upper half of t into as many from the other end.
 template <class Real, int divisor>
 struct MirroredRowWriter {
-    Real* low;    // row 4p
-    Real* high;   // row 2m - 4p - 2, for t = 0
-    std::ptrdiff_t blockDistance, rowDistance;
+    Strided<Real, divisor / 2> low;     // from row 4p upwards
+    Strided<Real, divisor / 2> high;    // from row 2m - 4p - 2, less half of the rows, downwards
+    std::ptrdiff_t rowDistance;
 
     void store(int slot, VectorOf<Real> v) const {
         const int t = slot / 2;
-        Real* pair = 2 * t < divisor || divisor == 1 ? low + t * blockDistance
-                                                     : high - t * blockDistance;
+        Real* pair = t < divisor / 2 ? low[t] : high[t - divisor / 2];
         storeAligned(pair + slot % 2 * rowDistance, v);
     }
 };
@@ -74,8 +72,8 @@ void twiddleStage(Real* rows, const Real* table, int blockRows) {
     alignas(16) Real products[2 * divisor * L];
     for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
         multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageNetwork<Real, divisor>::run(RowReader<Real>{products},
-                                                ComplexRowWriter<Real>{rows, distance});
+        TwiddleStageNetwork<Real, divisor>::run(
+            RowReader<Real>{products}, ComplexRowWriter<Real, divisor>{{rows, distance}});
     }
 }
 
@@ -84,13 +82,14 @@ void twiddleStageRoot(const Real* rows, const Real* table, int blockRows, Real* 
     constexpr int L = lanes<Real>;
     const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
     const std::ptrdiff_t row = d, block = 4 * row * blockRows;
-    Real* high = w + row * (4 * std::ptrdiff_t(divisor) * blockRows - 2);
+    Real* high = w + block * (divisor / 2) - 2 * row;
     alignas(16) Real products[2 * divisor * L];
     for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
         multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
         TwiddleStageRootNetwork<Real, divisor>::run(
             RowReader<Real>{products},
-            MirroredRowWriter<Real, divisor>{w + 4 * p * row, high - 4 * p * row, block, row});
+            MirroredRowWriter<Real, divisor>{
+                {w + 4 * p * row, block}, {high - 4 * p * row, -block}, row});
     }
 }
 
