@@ -4,7 +4,8 @@
  * is nothing to initialise: include this file, call, link with -lkfmgenw7. No function keeps state
  * between calls, so any number of threads may call at once. Signals are contiguous arrays without
  * stride; the library reads the source and writes the destination, and allocates only where the
- * text of a family says so.
+ * text of a family says so. The DCT-IV, at the end of this file, takes its length at run time and
+ * works differently.
  *
  * A name is built as kfmg<transform>_<length>_<element>; without the length it is the generic
  * entry, which takes the length as an argument.
@@ -1425,6 +1426,81 @@ KFM_API KfmStatus kfmgWHT_12_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u
 KFM_API KfmStatus kfmgWHT_13_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
 KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int flag, Kfm8u *buffer);
 /* end of declarations */
+
+/* ---------------------------------------------------------------------------------------------
+ * DCT-IV of a length chosen at run time, single (32f) and double (64f) precision
+ *
+ *   dst[k] = sum over n = 0..len-1 of src[n] * cos(pi (2n+1)(2k+1) / (4 len)),   k = 0..len-1
+ *
+ * unscaled: applied twice, it returns the input times len/2.
+ *
+ * Lengths: the powers of two from 2 to 2^27 (32f) or 2^26 (64f); and 2^k + 1 for k = 5 (33, 65, ...)
+ * to one above the longest power. These odd lengths are for completeness: their cost grows with the
+ * square of the length. Every other length is refused with kfmErrSize.
+ *
+ * A length is planned once, into a block of memory, and transformed with that plan any number of
+ * times. The handle points into the block; what it points at is not for callers.
+ *
+ *   block in the caller's memory            block from kfmMalloc
+ *
+ *   kfmgDCT4GetSize_32f(len, &size)         kfmgDCT4InitAlloc_32f(&spec, len)
+ *   block = ... size bytes ...              kfmgDCT4_32f(src, dst, spec)    any number of times
+ *   kfmgDCT4Init_32f(&spec, len, block)     kfmgDCT4Free_32f(spec)
+ *   kfmgDCT4_32f(src, dst, spec)
+ *   ... reuse or release the block
+ *
+ * Who releases what: a specification made by Init has nothing to release; the caller ends it by
+ * releasing or reusing the block. One made by InitAlloc is ended by Free, which must be given no
+ * other. After either, the handle is void.
+ *
+ * Alignment: let blocks start at a multiple of 32, as those of kfmMalloc do. A block that does not
+ * is aligned within: the size has room for rounding its address down, which is what happens, except
+ * that an address with bit 31 set is rounded up. The plan of a length up to 32 may then reach
+ * beyond `size`, by up to 32 bytes. src and dst need the alignment of an element only.
+ * Moving: on x86-64 a block holds no addresses. Its bytes may be copied to another block whose
+ * address leaves the same remainder modulo 32, and the handle, moved with it, works there. On i386
+ * a plan stays where it was made.
+ * Aliasing: dst may be src. They must not overlap otherwise.
+ * Threads: a specification of a length up to 32 is only read and may be shared by threads. Any
+ * other holds the work buffer of the transform: one call at a time. Distinct specifications are
+ * independent. No transform allocates memory.
+ * Bits: both targets give the same, except 64f beyond length 32, whose tables are made with the
+ * system's cos and sin.
+ * ------------------------------------------------------------------------------------------ */
+
+typedef struct KfmDCT4Spec_32f KfmDCT4Spec_32f;
+typedef struct KfmDCT4Spec_64f KfmDCT4Spec_64f;
+
+/* Bytes of the block that a plan of `len` needs.
+ *   kfmErrSize       a length that cannot be planned; *size is left alone
+ * size must not be null: it is not checked. */
+KFM_API KfmStatus kfmgDCT4GetSize_32f(int len, int *size);
+KFM_API KfmStatus kfmgDCT4GetSize_64f(int len, int *size);
+
+/* Plans `len` into the caller's block, of at least the size that GetSize tells for it.
+ *   kfmErrNullPtr    spec or block is null
+ *   kfmErrSize       a length that cannot be planned; *spec is left alone, of the block no more
+ *                    than 224 bytes are used */
+KFM_API KfmStatus kfmgDCT4Init_32f(KfmDCT4Spec_32f **spec, int len, Kfm8u *block);
+KFM_API KfmStatus kfmgDCT4Init_64f(KfmDCT4Spec_64f **spec, int len, Kfm8u *block);
+
+/* The same with a block from kfmMalloc, which kfmgDCT4Free gives back.
+ *   kfmErrNullPtr    spec is null, or memory is exhausted
+ *   kfmErrSize       a length that cannot be planned; nothing has been allocated */
+KFM_API KfmStatus kfmgDCT4InitAlloc_32f(KfmDCT4Spec_32f **spec, int len);
+KFM_API KfmStatus kfmgDCT4InitAlloc_64f(KfmDCT4Spec_64f **spec, int len);
+
+/* Ends a specification that InitAlloc made.
+ *   kfmErrNullPtr    spec is null */
+KFM_API KfmStatus kfmgDCT4Free_32f(KfmDCT4Spec_32f *spec);
+KFM_API KfmStatus kfmgDCT4Free_64f(KfmDCT4Spec_64f *spec);
+
+/* Transforms len elements of src to len elements of dst.
+ *   kfmErrNullPtr    spec, src or dst is null
+ *   kfmErrBadSpec    spec is not what Init or InitAlloc made
+ * On an error nothing is written. */
+KFM_API KfmStatus kfmgDCT4_32f(const Kfm32f *src, Kfm32f *dst, const KfmDCT4Spec_32f *spec);
+KFM_API KfmStatus kfmgDCT4_64f(const Kfm64f *src, Kfm64f *dst, const KfmDCT4Spec_64f *spec);
 
 #ifdef __cplusplus
 }

@@ -1,16 +1,10 @@
-// What every generated kernel runs in: argument checks, choice of the scale factor, and tables
-// that the compiler loads from.
+// What every generated kernel runs in: argument checks and choice of the scale factor.
 #pragma once
 
 #include "core/kernel_entry.h"
+#include "simd/launder.h"
 
 namespace kfm {
-
-// Hides where a table comes from, so that its constants are loaded and not rebuilt.
-template <class T>
-[[gnu::always_inline]] inline void launder(const T*& table) {
-    asm("" : "+r"(table));
-}
 
 // Checks the arguments in their order, picks the scale factor and runs the transform. `Kernel`
 // has the static `scales` and `direction`, and transform<Memory>, which takes what a function is

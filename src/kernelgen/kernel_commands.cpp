@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "dct4/networks/codelet_families.h"
 #include "dft/complex/complex_kernels.h"
 #include "dft/real/real_kernels.h"
 #include "hartley/hartley_kernels.h"
@@ -18,10 +19,16 @@ namespace {
 
 using registry::Element;
 
-const std::array<KernelFamily, 5>& allFamilies() {
-    static const std::array families = {dft::complex::kernelFamily(), dft::real::forwardFamily(),
-                                        dft::real::inverseFamily(), hartley::kernelFamily(),
-                                        wht::kernelFamily()};
+const std::vector<KernelFamily>& allFamilies() {
+    static const std::vector<KernelFamily> families = [] {
+        std::vector<KernelFamily> result = dct4::codeletFamilies();
+        result.push_back(dft::complex::kernelFamily());
+        result.push_back(dft::real::forwardFamily());
+        result.push_back(dft::real::inverseFamily());
+        result.push_back(hartley::kernelFamily());
+        result.push_back(wht::kernelFamily());
+        return result;
+    }();
     return families;
 }
 

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "dct4/networks/codelet_families.h"
 #include "kernelgen/frame.h"
 #include "kernelgen/kernel_commands.h"
 #include "registry/registry.h"
@@ -136,9 +137,21 @@ void writeKernels(OutputFolder& folder, const Target& target) {
             }
 }
 
+void writeCodelets(OutputFolder& folder, const Target& target) {
+    for (const dct4::CodeletRange& range : dct4::codeletRanges())
+        for (int size = range.first; size <= range.last; size *= 2)
+            for (const char* suffix : {"32f", "64f"}) {
+                const std::string function(range.function);
+                folder.write("dct4/" + function + "_" + std::to_string(size) + "_" + suffix +
+                                 ".cpp",
+                             kernelSource(function, size, *registry::findElement(suffix), target));
+            }
+}
+
 void build(const Arguments& arguments) {
     OutputFolder folder(arguments.required("--output"));
     writeKernels(folder, target(arguments));
+    writeCodelets(folder, target(arguments));
     folder.write("core/generic_entries.cpp", genericEntries());
     folder.write("registry/functions.cpp", functionsTable());
     folder.write("kfmgenw7.map", symbolMap());

@@ -112,6 +112,21 @@ TEST_F(Transform, HartleyReadsItsOwnOutput) {
     EXPECT_EQ(run(options + "fwd-by-n", there).out, "frame,index,value\n0,0,1\n0,1,2\n");
 }
 
+TEST_F(Transform, PlannedLengths) {
+    const std::string dct = "transform --family DCT4 ";
+    EXPECT_EQ(run(dct + "--length 2", "1\n0\n0\n-1\n").out,
+              "frame,index,value\n0,0,0.9238795\n0,1,0.38268343\n"
+              "1,0,-0.38268343\n1,1,0.9238795\n");
+    // Its own inverse, up to half the length.
+    const std::string twice = dct + "--precision double --length 64 ";
+    ASSERT_EQ(run(twice + "-o " + path("dct.csv"), "3\n-5\n").status, 0);
+    const Outcome back = run(twice + path("dct.csv"));
+    double first, second;
+    ASSERT_EQ(sscanf(back.out.c_str(), "frame,index,value 0,0,%lf 0,1,%lf", &first, &second), 2);
+    EXPECT_NEAR(first, 3 * 32, 1e-12);
+    EXPECT_NEAR(second, -5 * 32, 1e-12);
+}
+
 TEST_F(Transform, DigitsOfEachPrecisionReadBack) {
     const std::string third = "0.3333333333333333\n0\n";
     EXPECT_NE(run("transform --length 2", third).out.find("\n0,0,0.33333334,0\n"),
@@ -145,7 +160,9 @@ TEST_F(Listing, NamesTheLibraryAndItsFamilies) {
     EXPECT_NE(run("list").out.find(
                   "WHT             2..8192   32f, 64f; powers of two, orders 1..13\n"),
               std::string::npos);
-    EXPECT_NE(run("list --names").out.find("\nkfmgDFTFwd_CToC_17_64fc\n"), std::string::npos);
+    EXPECT_NE(run("list").out.find("DCT4            2..134217729"), std::string::npos);
+    for (const char* name : {"kfmgDFTFwd_CToC_17_64fc", "kfmgDCT4Init_32f"})
+        EXPECT_NE(run("list --names").out.find(name + std::string("\n")), std::string::npos);
 }
 
 TEST_F(Refusal, Options) {
@@ -163,6 +180,10 @@ TEST_F(Refusal, Options) {
         {"transform --length four", "four"},
         {"transform --length 99999999999", "99999999999"},
         {"transform --length 4 --family DFT", "no family 'DFT'"},
+        {"transform --length 100 --family DCT4", "nearest lengths of DCT4: 65 and 128"},
+        {"transform --length -3 --family DCT4", "nearest lengths of DCT4: 2"},
+        {"transform --length 2147483647 --family DCT4", "nearest lengths of DCT4: 134217729"},
+        {"transform --length 4 --family DCT4 --flag by-sqrt-n", "DCT4 is not scaled"},
         {"transform --length 4 --flag 8", "'8' is none of"},
         {"transform --length 4 --precision half", "'half' is none of"},
         {"transform --length 4 --tail wag", "'wag' is none of"},

@@ -1,10 +1,9 @@
 #include "fixed_transform.h"
 
 #include <algorithm>
-#include <cmath>
-#include <sstream>
 
 #include "kfmgen.h"
+#include "planned_transform.h"
 
 namespace kfm::tool {
 namespace {
@@ -14,7 +13,7 @@ const registry::Family& knownFamily(const std::string& name) {
     std::string message = "no family '" + name + "'; there are";
     for (const registry::Family& family : registry::families())
         message += " " + std::string(family.name);
-    throw InputError(message);
+    throw InputError(message + " " + std::string(plannedFamily));
 }
 
 const registry::Function* findFunction(const registry::Family& family, int length,
@@ -31,15 +30,6 @@ const registry::Function* findFunction(const registry::Family& family, int lengt
     return &*std::ranges::find(registry::functions(),
                                registry::functionName(family, member, *element),
                                &registry::Function::name);
-}
-
-template <class Real>
-Real converted(double value) {
-    const Real result = static_cast<Real>(value);
-    if (std::isfinite(result)) return result;
-    std::ostringstream message;
-    message << "sample " << value << " has no finite value in this precision";
-    throw InputError(message.str());
 }
 
 // Reals in, reals out; the array has room for the longer of source and destination.

@@ -3,6 +3,7 @@
 #include <iomanip>
 
 #include "kfmgen.h"
+#include "planned_transform.h"
 #include "registry/functions.h"
 
 namespace kfm::tool {
@@ -35,10 +36,12 @@ void printFamilies(std::ostream& out) {
             out << "; powers of two, orders " << family.first << ".." << family.last;
         out << '\n';
     }
+    out << std::setw(16) << plannedFamily << plannedLengths()
+        << "   32f, 64f; powers of two, from 33 on one more as well\n";
 }
 
 void printFunctionNames(std::ostream& out) {
-    for (const registry::Function& function : registry::functions()) out << function.name << '\n';
+    for (const std::string& name : registry::exportedNames()) out << name << '\n';
 }
 
 }   // namespace kfm::tool

@@ -39,7 +39,7 @@ Samples readSamples(const std::string& path) {
     return readTextFile(path);
 }
 
-void transformFrames(const Samples& samples, const FixedTransform& transform,
+void transformFrames(const Samples& samples, const FrameTransform& transform,
                      const Framing& framing, std::ostream& out) {
     if (samples.empty()) throw InputError("the input has no samples");
     const Form form = transform.resultForm();

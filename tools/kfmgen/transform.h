@@ -3,7 +3,7 @@
 
 #include <ostream>
 
-#include "fixed_transform.h"
+#include "frame_transform.h"
 #include "frames.h"
 
 namespace kfm::tool {
@@ -13,7 +13,7 @@ Samples readSamples(const std::string& path);
 
 // CSV, a row per output value, with as many digits as give the value back: index, re and im of a
 // complex signal, bin, re and im of a half spectrum, index and value of a real signal.
-void transformFrames(const Samples& samples, const FixedTransform& transform,
+void transformFrames(const Samples& samples, const FrameTransform& transform,
                      const Framing& framing, std::ostream& out);
 
 }   // namespace kfm::tool

@@ -1,0 +1,62 @@
+// What the generated codelets stand on: vector operations, and reading and writing rows.
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+
+#include "dct4/codelets.h"
+#include "simd/launder.h"
+#include "simd/reals.h"
+
+namespace kfm::dct4 {
+
+using namespace simd;
+
+// Addresses base + i*distance for i < count known to the compiler, in the form that an operand of
+// an instruction takes: a pointer for every eight steps, to which 1, 2, 4 or 8 times a register
+// that holds an odd multiple is added. Left alone, the compiler computes each address by itself.
+template <class Real, int count>
+class Strided {
+public:
+    Strided(Real* base, std::ptrdiff_t distance) {
+        const std::ptrdiff_t bytes = distance * static_cast<std::ptrdiff_t>(sizeof(Real));
+        for (int i = 0; i < pointers; ++i) {
+            base_[i] = base + 8 * i * distance;
+            asm("" : "+r"(base_[i]));
+        }
+        for (int i = 0; i < 4; ++i) {
+            odd_[i] = (2 * i + 1) * bytes;
+            if (2 * i + 1 < count) asm("" : "+r"(odd_[i]));
+        }
+    }
+
+    [[gnu::always_inline]] Real* operator[](int i) const {
+        constexpr int oddPart[] = {0, 1, 1, 3, 1, 5, 3, 7}, scale[] = {0, 1, 2, 1, 4, 1, 2, 1};
+        auto* address = reinterpret_cast<Byte*>(base_[i / 8]);
+        return reinterpret_cast<Real*>(address + scale[i % 8] * odd_[oddPart[i % 8] / 2]);
+    }
+
+private:
+    using Byte = std::conditional_t<std::is_const_v<Real>, const char, char>;
+    static constexpr int pointers = (count + 7) / 8;
+    Real* base_[pointers];
+    std::ptrdiff_t odd_[4];
+};
+
+// Numbered slots as vectors a fixed distance apart.
+template <class Real>
+struct RowReader {
+    const Real* first;
+
+    VectorOf<Real> load(int row) const { return loadAligned(first + row * lanes<Real>); }
+};
+
+template <class Real>
+struct RowWriter {
+    Real* first;
+    std::ptrdiff_t distance;
+
+    void store(int row, VectorOf<Real> v) const { storeAligned(first + row * distance, v); }
+};
+
+}   // namespace kfm::dct4

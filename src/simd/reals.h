@@ -1,0 +1,63 @@
+// Vectors of real numbers, named alike for both precisions: what hand-written loops over floats or
+// doubles are made of. A scalar is a vector of one lane.
+#pragma once
+
+#include "simd/f32x4.h"
+#include "simd/f64x2.h"
+#include "simd/scalar.h"
+
+namespace kfm::simd {
+
+template <class Real>
+struct WholeVector;
+template <>
+struct WholeVector<float> {
+    using Type = f32x4;
+};
+template <>
+struct WholeVector<double> {
+    using Type = f64x2;
+};
+template <class Real>
+using VectorOf = typename WholeVector<Real>::Type;
+
+inline f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
+inline f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
+inline f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
+inline f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
+inline f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
+inline f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
+inline void storeAligned(float* p, f32x4 v) { _mm_store_ps(p, v); }
+inline void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
+inline void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
+inline void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
+
+// Not the integer shuffle that select would take: compilers fetch its operand from memory, by way
+// of the stack when it came from an address without alignment.
+inline f32x4 reverse(f32x4 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3)); }
+inline f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }
+
+// One lane in all lanes.
+template <int lane>
+f32x4 everywhere(f32x4 v) { return select<lane, lane, lane, lane>(v, v); }
+template <int lane>
+f64x2 everywhere(f64x2 v) { return select<lane, lane>(v, v); }
+
+inline void transpose(f32x4 (&rows)[4]) {
+    const f32x4 low01 = select<0, 4, 1, 5>(rows[0], rows[1]);
+    const f32x4 high01 = select<2, 6, 3, 7>(rows[0], rows[1]);
+    const f32x4 low23 = select<0, 4, 1, 5>(rows[2], rows[3]);
+    const f32x4 high23 = select<2, 6, 3, 7>(rows[2], rows[3]);
+    rows[0] = select<0, 1, 4, 5>(low01, low23);
+    rows[1] = select<2, 3, 6, 7>(low01, low23);
+    rows[2] = select<0, 1, 4, 5>(high01, high23);
+    rows[3] = select<2, 3, 6, 7>(high01, high23);
+}
+
+inline void transpose(f64x2 (&rows)[2]) {
+    const f64x2 first = rows[0];
+    rows[0] = select<0, 2>(first, rows[1]);
+    rows[1] = select<1, 3>(first, rows[1]);
+}
+
+}   // namespace kfm::simd
