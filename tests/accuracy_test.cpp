@@ -212,7 +212,7 @@ TEST_P(RoundTrip, RestoresTheSignal) {
                                           std::pair(kfmScaleNone, kfmScaleInvByN),
                                           std::pair(kfmScaleBySqrtN, kfmScaleBySqrtN)}) {
             const Signal restored = run(*inverse, run(forward, signal, there), back);
-            ASSERT_LE(errorInUnits(forward, restored, expected), 10)
+            ASSERT_LE(errorInUnits(*inverse, restored, expected), 10)
                 << "flags " << there << ", " << back;
         }
     }

@@ -122,16 +122,31 @@ double roundedScaleFactor(const Transform& transform, int flag) {
     return static_cast<double>(exact);
 }
 
+namespace {
+
+// Of a real output, a complex one or a bin.
+Quad largestMagnitude(const Transform& transform, const std::vector<Quad>& values) {
+    const std::vector<Slot> spectrum = slots(transform.destination(), transform.length);
+    std::vector<Quad> squares(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const std::size_t whole = transform.element->complex ? i / 2
+                                  : spectrum.empty()         ? i
+                                                             : spectrum[i].bin;
+        squares[whole] += values[i] * values[i];
+    }
+    return sqrtq(*std::ranges::max_element(squares));
+}
+
+}   // namespace
+
 double errorInUnits(const Transform& transform, const Signal& actual,
                     const std::vector<Quad>& expected) {
-    Quad error = 0, largest = 0;
+    Quad error = 0;
     for (std::size_t i = 0; i < expected.size(); ++i) {
         if (!std::isfinite(actual[i])) return HUGE_VAL;
         error = std::max(error, fabsq(actual[i] - expected[i]));
-        const std::size_t pair = transform.element->complex ? i ^ 1 : i;
-        largest = std::max(largest, pair == i ? fabsq(expected[i])
-                                              : hypotq(expected[i], expected[pair]));
     }
+    const Quad largest = largestMagnitude(transform, expected);
     const int precision = transform.element->doublePrecision ? 53 : 24;
     if (largest == 0) return error == 0 ? 0 : HUGE_VAL;
     return static_cast<double>(ldexpq(error / largest, precision));
