@@ -36,6 +36,10 @@ public:
         return reinterpret_cast<Real*>(address + scale[i % 8] * odd_[oddPart[i % 8] / 2]);
     }
 
+    void advance(std::ptrdiff_t elements) {
+        for (Real*& pointer : base_) pointer += elements;
+    }
+
 private:
     using Byte = std::conditional_t<std::is_const_v<Real>, const char, char>;
     static constexpr int pointers = (count + 7) / 8;

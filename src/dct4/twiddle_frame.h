@@ -57,6 +57,7 @@ void multiplyByTwiddles(const Real* row, std::ptrdiff_t distance, const Real* ta
         multiply<2>(row + distance, loadAligned(table), products + 2 * L);
     else
         multiply<0>(row + distance, loadAligned(table + 2), products + 2 * L);
+#pragma GCC unroll 8
     for (int s = 2; s < divisor; s += L / 2) {
         const VectorOf<Real> pairs = loadAligned(table + 2 * s);
         multiply<0>(row + s * distance, pairs, products + 2 * s * L);
@@ -69,11 +70,12 @@ template <class Real, int divisor>
 void twiddleStage(Real* rows, const Real* table, int blockRows) {
     constexpr int L = lanes<Real>;
     const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
+    ComplexRowWriter<Real, divisor> writer{{rows, distance}};
     alignas(16) Real products[2 * divisor * L];
     for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
         multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageNetwork<Real, divisor>::run(
-            RowReader<Real>{products}, ComplexRowWriter<Real, divisor>{{rows, distance}});
+        TwiddleStageNetwork<Real, divisor>::run(RowReader<Real>{products}, writer);
+        writer.rows.advance(2 * L);
     }
 }
 
@@ -82,14 +84,14 @@ void twiddleStageRoot(const Real* rows, const Real* table, int blockRows, Real* 
     constexpr int L = lanes<Real>;
     const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
     const std::ptrdiff_t row = d, block = 4 * row * blockRows;
-    Real* high = w + block * (divisor / 2) - 2 * row;
+    MirroredRowWriter<Real, divisor> writer{
+        {w, block}, {w + block * (divisor / 2) - 2 * row, -block}, row};
     alignas(16) Real products[2 * divisor * L];
     for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
         multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageRootNetwork<Real, divisor>::run(
-            RowReader<Real>{products},
-            MirroredRowWriter<Real, divisor>{
-                {w + 4 * p * row, block}, {high - 4 * p * row, -block}, row});
+        TwiddleStageRootNetwork<Real, divisor>::run(RowReader<Real>{products}, writer);
+        writer.low.advance(4 * row);
+        writer.high.advance(-4 * row);
     }
 }
 
