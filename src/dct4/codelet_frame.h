@@ -12,6 +12,10 @@ namespace kfm::dct4 {
 
 using namespace simd;
 
+// Elements of a vector: a group takes one vector or two.
+template <class Real>
+inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
+
 // Addresses base + i*distance for i < count known to the compiler, in the form that an operand of
 // an instruction takes: a pointer for every eight steps, to which 1, 2, 4 or 8 times a register
 // that holds an odd multiple is added. Left alone, the compiler computes each address by itself.
