@@ -98,7 +98,7 @@ TYPED_TEST(Dct4Codelets, InputStageFillsTheRowsOfWork) {
 
 // Blocks joined by a twiddle stage, in place and at the root, are one larger block.
 TYPED_TEST(Dct4Codelets, TwiddleStagesJoinBlocks) {
-    constexpr int L = dct4::lanes<TypeParam>, blockLength = 16, d = 12;
+    constexpr int L = dct4::groupSize, blockLength = 16, d = 12;
     for (int divisor = 2; divisor <= 32; divisor *= 2) {
         const int m = divisor * blockLength, step = L + 3;
         const std::vector<TypeParam> x = randomSignal<TypeParam>(m * step);

@@ -12,6 +12,10 @@ namespace kfm::dct4 {
 
 using namespace simd;
 
+// Elements of a vector: a group takes one vector or two.
+template <class Real>
+inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
+
 // Addresses base + i*distance for i < count known to the compiler, in the form that an operand of
 // an instruction takes: a pointer for every eight steps, to which 1, 2, 4 or 8 times a register
 // that holds an odd multiple is added. Left alone, the compiler computes each address by itself.
@@ -34,6 +38,10 @@ public:
         constexpr int oddPart[] = {0, 1, 1, 3, 1, 5, 3, 7}, scale[] = {0, 1, 2, 1, 4, 1, 2, 1};
         auto* address = reinterpret_cast<Byte*>(base_[i / 8]);
         return reinterpret_cast<Real*>(address + scale[i % 8] * odd_[oddPart[i % 8] / 2]);
+    }
+
+    void advance(std::ptrdiff_t elements) {
+        for (Real*& pointer : base_) pointer += elements;
     }
 
 private:

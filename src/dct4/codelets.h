@@ -1,18 +1,17 @@
 // The arithmetic of the DCT-IV: what the stages of a plan call, once they know where their data
 // are. Plain functions of pointers and sizes; nothing here knows a plan or allocates.
 //
-// Real is float or double. A vector has `lanes<Real>` elements (4 or 2), each of which belongs to
-// another sub-transform; "rows" below are vectors, 16 bytes apart. Only the instantiations that a
-// comment names exist. Work arrays, tables and rows are aligned to 16 bytes; the caller's arrays
-// (`src`, `dst`, `front`, `back`) to an element.
+// Real is float or double. Sub-transforms are computed in groups of four neighbours; "rows" below
+// are four elements, one of each. Only the instantiations that a comment names exist. Work arrays,
+// tables and rows are aligned to 16 bytes; the caller's arrays (`src`, `dst`, `front`, `back`) to
+// an element.
 #pragma once
 
 #include <cstddef>
 
 namespace kfm::dct4 {
 
-template <class Real>
-inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
+inline constexpr int groupSize = 4;
 
 // y[k] = sum of x[i] cos(pi (2i+1)(2k+1) / 4n) for n = 2, 4, 8, 16, 32. src == dst works.
 template <class Real, int n>
@@ -29,8 +28,8 @@ void fixedTransform(const Real* src, Real* dst);
 template <class Real, int m>
 void inputStage(const Real* src, Real* w, int len, int d);
 
-// The same sums G for `lanes` neighbouring sub-transforms of a recursion, m = 2, ..., 64. Lane j
-// has a_k = front[k*step + j] and b_k = back[-k*step - j]; `rows` receives m rows in natural order,
+// The same sums G for one group of a recursion, m = 2, ..., 64. Member j < 4 of the group has
+// a_k = front[k*step + j] and b_k = back[-k*step - j]; `rows` receives m rows in natural order,
 // Re G(p) in row 2p and Im G(p) in row 2p+1.
 template <class Real, int m>
 void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* rows);
@@ -43,9 +42,9 @@ void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* 
 template <class Real, int divisor>
 void twiddleStage(Real* rows, const Real* table, int blockRows);
 
-// The same at the root of a recursion: the result goes to a column of w, in the order that
-// inputStage gives its rows (m = 2M'd'). `w` is the address of the group's first element and `d`
-// the row length of w; `rows` stays as it is.
+// The same at the root of a recursion: the result goes to the group's columns of w, in the order
+// that inputStage gives its rows (m = 2M'd'). `w` is the address of the group's first element and
+// `d` the row length of w; `rows` stays as it is.
 template <class Real, int divisor>
 void twiddleStageRoot(const Real* rows, const Real* table, int blockRows, Real* w, int d);
 

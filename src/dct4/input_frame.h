@@ -57,11 +57,13 @@ void inputStage(const Real* src, Real* w, int len, int d) {
 
 template <class Real, int m>
 void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* rows) {
+    constexpr int L = lanes<Real>;
     using Stride = Strided<const Real, m / 2>;
-    InputBlockNetwork<Real, m>::run(
-        MirroredReader<Real, m / 2, Stride, Stride>{{front, step},
-                                                    {back - (lanes<Real> - 1), -step}},
-        RowWriter<Real>{rows, lanes<Real>});
+    for (int j = 0; j < groupSize; j += L)
+        InputBlockNetwork<Real, m>::run(
+            MirroredReader<Real, m / 2, Stride, Stride>{{front + j, step},
+                                                        {back - (j + L - 1), -step}},
+            RowWriter<Real>{rows + j, groupSize});
 }
 
 }   // namespace kfm::dct4

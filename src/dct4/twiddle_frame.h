@@ -18,7 +18,7 @@ struct ComplexRowWriter {
     Strided<Real, divisor> rows;
 
     void store(int slot, VectorOf<Real> v) const {
-        storeAligned(rows[slot / 2] + slot % 2 * lanes<Real>, v);
+        storeAligned(rows[slot / 2] + slot % 2 * groupSize, v);
     }
 };
 
@@ -41,7 +41,7 @@ struct MirroredRowWriter {
 template <int at, class Real>
 void multiply(const Real* row, VectorOf<Real> pairs, Real* product) {
     constexpr int L = lanes<Real>;
-    const VectorOf<Real> re = loadAligned(row), im = loadAligned(row + L);
+    const VectorOf<Real> re = loadAligned(row), im = loadAligned(row + groupSize);
     const VectorOf<Real> c = everywhere<at>(pairs), s = everywhere<at + 1>(pairs);
     storeAligned(product, sub(mul(re, c), mul(im, s)));
     storeAligned(product + L, add(mul(re, s), mul(im, c)));
@@ -52,11 +52,12 @@ void multiplyByTwiddles(const Real* row, std::ptrdiff_t distance, const Real* ta
                         Real* products) {
     constexpr int L = lanes<Real>;
     storeAligned(products, loadAligned(row));
-    storeAligned(products + L, loadAligned(row + L));
+    storeAligned(products + L, loadAligned(row + groupSize));
     if constexpr (L == 4)
         multiply<2>(row + distance, loadAligned(table), products + 2 * L);
     else
         multiply<0>(row + distance, loadAligned(table + 2), products + 2 * L);
+#pragma GCC unroll 8
     for (int s = 2; s < divisor; s += L / 2) {
         const VectorOf<Real> pairs = loadAligned(table + 2 * s);
         multiply<0>(row + s * distance, pairs, products + 2 * s * L);
@@ -68,28 +69,36 @@ void multiplyByTwiddles(const Real* row, std::ptrdiff_t distance, const Real* ta
 template <class Real, int divisor>
 void twiddleStage(Real* rows, const Real* table, int blockRows) {
     constexpr int L = lanes<Real>;
-    const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
+    const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * groupSize;
+    ComplexRowWriter<Real, divisor> writer{{rows, distance}};
     alignas(16) Real products[2 * divisor * L];
-    for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
-        multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageNetwork<Real, divisor>::run(
-            RowReader<Real>{products}, ComplexRowWriter<Real, divisor>{{rows, distance}});
+    for (int p = 0; p < blockRows; ++p, rows += 2 * groupSize, table += 2 * divisor) {
+        for (int j = 0; j < groupSize; j += L) {
+            multiplyByTwiddles<Real, divisor>(rows + j, distance, table, products);
+            TwiddleStageNetwork<Real, divisor>::run(RowReader<Real>{products}, writer);
+            writer.rows.advance(L);
+        }
+        writer.rows.advance(groupSize);
     }
 }
 
 template <class Real, int divisor>
 void twiddleStageRoot(const Real* rows, const Real* table, int blockRows, Real* w, int d) {
     constexpr int L = lanes<Real>;
-    const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
+    const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * groupSize;
     const std::ptrdiff_t row = d, block = 4 * row * blockRows;
-    Real* high = w + block * (divisor / 2) - 2 * row;
+    MirroredRowWriter<Real, divisor> writer{
+        {w, block}, {w + block * (divisor / 2) - 2 * row, -block}, row};
     alignas(16) Real products[2 * divisor * L];
-    for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
-        multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageRootNetwork<Real, divisor>::run(
-            RowReader<Real>{products},
-            MirroredRowWriter<Real, divisor>{
-                {w + 4 * p * row, block}, {high - 4 * p * row, -block}, row});
+    for (int p = 0; p < blockRows; ++p, rows += 2 * groupSize, table += 2 * divisor) {
+        for (int j = 0; j < groupSize; j += L) {
+            multiplyByTwiddles<Real, divisor>(rows + j, distance, table, products);
+            TwiddleStageRootNetwork<Real, divisor>::run(RowReader<Real>{products}, writer);
+            writer.low.advance(L);
+            writer.high.advance(L);
+        }
+        writer.low.advance(4 * row - groupSize);
+        writer.high.advance(-4 * row - groupSize);
     }
 }
 

@@ -63,7 +63,7 @@ class Dct4Walk {
 public:
     // `divisors` of the levels of the recursion below m = len/d, none where m <= 64.
     Dct4Walk(int len, int d, const std::vector<int>& divisors)
-        : len_(len), d_(d), work_(len), kernel_(len), rows_(divisors.empty() ? 0 : len / d * L) {
+        : len_(len), d_(d), work_(len), kernel_(len), rows_(divisors.empty() ? 0 : len / d * group) {
         fillKernelTable(kernel_, len, d);
         int a = len / d;
         for (const int divisor : divisors) {
@@ -83,7 +83,7 @@ public:
                 dct4::inputStage<Real, m>(src, work_.data(), len_, d_);
             });
         else
-            for (int r = 0; r < d_; r += L)
+            for (int r = 0; r < d_; r += group)
                 split(0, src + r, src + (len_ - 1 - r), 2 * d_, rows_.data(), work_.data() + r);
     }
 
@@ -94,7 +94,7 @@ public:
     }
 
 private:
-    static constexpr int L = dct4::lanes<Real>;
+    static constexpr int group = dct4::groupSize;
 
     struct Level {
         int divisor, blockLength, blockRows;
@@ -109,7 +109,7 @@ private:
                Real* rows, Real* w) {
         Level& level = levels_[depth];
         for (int s = 0; s < level.divisor; ++s) {
-            Real* block = rows + std::ptrdiff_t(s) * level.blockLength * L;
+            Real* block = rows + std::ptrdiff_t(s) * level.blockLength * group;
             if (depth + 1 < levels_.size())
                 split(depth + 1, front + s * step, back - s * step, step * level.divisor, block,
                       w);
