@@ -12,7 +12,7 @@ namespace kfm::dct4 {
 
 using namespace simd;
 
-// Elements of a vector: a group takes one vector or two.
+// Elements of a vector.
 template <class Real>
 inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
 
@@ -40,10 +40,6 @@ public:
         return reinterpret_cast<Real*>(address + scale[i % 8] * odd_[oddPart[i % 8] / 2]);
     }
 
-    void advance(std::ptrdiff_t elements) {
-        for (Real*& pointer : base_) pointer += elements;
-    }
-
 private:
     using Byte = std::conditional_t<std::is_const_v<Real>, const char, char>;
     static constexpr int pointers = (count + 7) / 8;
@@ -66,5 +62,12 @@ struct RowWriter {
 
     void store(int row, VectorOf<Real> v) const { storeAligned(first + row * distance, v); }
 };
+
+// Elements that lie side by side, between places of any alignment.
+template <class Real, int count>
+void copyElements(const Real* from, Real* to) {
+#pragma GCC unroll 16
+    for (int i = 0; i < count; i += lanes<Real>) storeUnaligned(to + i, loadUnaligned(from + i));
+}
 
 }   // namespace kfm::dct4
