@@ -17,4 +17,7 @@ void setPeerFolder(const std::string& folder);
 // source, it does so if that is faster.
 std::function<void(long)> peerOf(const registry::Function& function);
 
+// The same for the DCT-IV of a length. Beyond 8192 the plan is FFTW_MEASURE's.
+std::function<void(long)> dct4Peer(int length, const registry::Element& element);
+
 }   // namespace kfm::bench
