@@ -151,14 +151,14 @@ const Api<fftwf_plan, fftwf_complex, float>& singleApi() {
 
 }   // namespace
 
-std::function<void(long)> peerOf(const registry::Function& function) {
+std::function<void(long)> fftwPlan(const registry::Function& function) {
     const registry::Element& element = *registry::findElement(function.element);
     const registry::Family& family = *registry::findFamily(function.family);
     return element.doublePrecision ? doubleApi().like(family, function.length, element)
                                    : singleApi().like(family, function.length, element);
 }
 
-std::function<void(long)> dct4Peer(int length, const registry::Element& element) {
+std::function<void(long)> fftwDct4Plan(int length, const registry::Element& element) {
     return element.doublePrecision ? doubleApi().dct4(length, element)
                                    : singleApi().dct4(length, element);
 }

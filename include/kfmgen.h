@@ -3,8 +3,9 @@
  * Each function computes one transform of one length, with all of its constants built in. There
  * is nothing to initialise: include this file, call, link with -lkfmgenw7. No function keeps state
  * between calls, so any number of threads may call at once. Signals are contiguous arrays without
- * stride; the library reads the source, writes the destination and allocates nothing. The DCT-IV,
- * at the end of this file, takes its length at run time and works differently.
+ * stride; the library reads the source and writes the destination, and allocates only where the
+ * text of a family says so. The DCT-IV, at the end of this file, takes its length at run time and
+ * works differently.
  *
  * A name is built as kfmg<transform>_<length>_<element>; without the length it is the generic
  * entry, which takes the length as an argument.
@@ -25,7 +26,7 @@ extern "C" {
 /* Element types. A complex value is its real part followed by its imaginary part. */
 typedef float Kfm32f;
 typedef double Kfm64f;
-typedef unsigned char Kfm8u; /* a byte of a block of memory */
+typedef unsigned char Kfm8u;   /* a byte of a memory block */
 
 typedef struct {
     Kfm32f re;
@@ -1351,6 +1352,79 @@ KFM_API KfmStatus kfmgHartley_62_64f(const Kfm64f *src, Kfm64f *dst, int flag);
 KFM_API KfmStatus kfmgHartley_63_64f(const Kfm64f *src, Kfm64f *dst, int flag);
 KFM_API KfmStatus kfmgHartley_64_64f(const Kfm64f *src, Kfm64f *dst, int flag);
 KFM_API KfmStatus kfmgHartley_64f(const Kfm64f *src, Kfm64f *dst, int length, int flag);
+/* end of declarations */
+
+/* ---------------------------------------------------------------------------------------------
+ * Walsh-Hadamard transform, orders 1 to 13, single (32f) and double (64f) precision
+ *
+ *   kfmgWHT_<order>_<element>    N = 2^order
+ *                                dst[k] = s * sum over n of src[n] * (-1)^popcount(k & n)
+ *
+ * Output is in natural (Hadamard) order, neither sorted by sequency nor bit-reversed. Nothing is
+ * computed but sums and differences, so integers stay exact while they fit the significand, and one
+ * multiplication by s of every output, also when s is 1:
+ *
+ *   flag                                   s
+ *   kfmScaleFwdByN and kfmScaleInvByN      1/N
+ *   kfmScaleBySqrtN                        1/sqrt(N)
+ *   kfmScaleNone                           1
+ *
+ * The transform is its own inverse: kfmScaleNone and then kfmScaleFwdByN, or kfmScaleBySqrtN twice,
+ * return the input.
+ *
+ * Buffer: orders 8 to 13 stage their work in a block of at least the bytes that
+ * kfmgWHTGetBufferSize tells, which must start at a multiple of 16; neither is tested. It belongs to
+ * the caller, serves any number of calls one after another, of either precision, and holds nothing
+ * between them; calls that run at the same time need one each. With a null buffer the call takes a
+ * block from kfmMalloc and returns it with kfmFree; that memory is exhausted is not noticed. Orders
+ * 1 to 7 ignore the buffer.
+ * Alignment: any address will do for source and destination. When both are multiples of 16 the call
+ * takes another path; the results are bit for bit the same.
+ * Aliasing: the whole source is read before the first output is written, so the destination may be
+ * the source itself (in place) or overlap it in any way. The buffer overlaps neither.
+ * Threads: reentrant, no shared state.
+ *
+ * Status, in the order of the checks:
+ *   kfmErrSize       generic entries only, before all else: order outside 1..13
+ *   kfmErrNullPtr    src is null, or dst is null
+ *   kfmErrFlag       flag is none of the four values
+ *   kfmOk            computed and written
+ * ------------------------------------------------------------------------------------------ */
+
+/* Writes to *size the bytes of the buffer that an order needs: 0 up to order 7. Returns kfmErrSize,
+ * and writes nothing, for an order outside 1..13. The pointer is not tested. */
+KFM_API KfmStatus kfmgWHTGetBufferSize_32f(int order, int *size);
+KFM_API KfmStatus kfmgWHTGetBufferSize_64f(int order, int *size);
+
+/* declarations: WHT */
+KFM_API KfmStatus kfmgWHT_1_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_2_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_3_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_4_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_5_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_6_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_7_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_8_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_9_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_10_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_11_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_12_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_13_32f(const Kfm32f *src, Kfm32f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_32f(const Kfm32f *src, Kfm32f *dst, int order, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_1_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_2_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_3_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_4_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_5_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_6_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_7_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_8_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_9_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_10_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_11_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_12_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_13_64f(const Kfm64f *src, Kfm64f *dst, int flag, Kfm8u *buffer);
+KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int flag, Kfm8u *buffer);
 /* end of declarations */
 
 /* ---------------------------------------------------------------------------------------------

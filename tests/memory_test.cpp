@@ -59,7 +59,7 @@ TEST_P(Memory, NonFiniteInputReachesItsOutputs) {
     const Transform& transform = GetParam();
     Random random(testSeed());
     const Signal plain = randomSignal(transform, random);
-    for (std::size_t at = 0; at < plain.size(); ++at) {
+    for (std::size_t at : positions(transform)) {
         const auto weights = definition(transform, impulse(plain.size(), at));
         for (double value : {std::numeric_limits<double>::quiet_NaN(), HUGE_VAL, -HUGE_VAL}) {
             Signal signal = plain;
@@ -90,14 +90,15 @@ KFM_FOR_EVERY_FIXED_TRANSFORM(Memory);
 
 #ifdef __i386__
 
-// Calls with the stack pointer `shift` bytes below where the current convention of Linux wants it.
+// Calls with the stack pointer `shift` bytes below where the current convention of Linux wants it,
+// and a null work buffer, which functions without one do not look at.
 __attribute__((naked, noinline)) KfmStatus callWithShiftedStack(void (*)(), const void*, void*, int,
                                                                 int) {
     asm("push %ebp\n\t"
         "mov %esp, %ebp\n\t"
         "and $-16, %esp\n\t"
-        "sub $4, %esp\n\t"          // with three arguments: aligned at the call
-        "sub 24(%ebp), %esp\n\t"
+        "sub 24(%ebp), %esp\n\t"   // with four arguments: aligned at the call
+        "push $0\n\t"
         "push 20(%ebp)\n\t"
         "push 16(%ebp)\n\t"
         "push 12(%ebp)\n\t"

@@ -86,7 +86,8 @@ void tuneAll(const Options& options) {
     const Workshop workshop(KFM_KERNELGEN, options.target, KFM_COMPILE_COMMANDS, KFM_WORK_FOLDER);
     std::set<std::string_view> seen;
     for (const registry::Family& family : registry::families()) {
-        if (!options.selection.hasFamily(family.name)) continue;
+        // Kernels of orders are templates without schedules.
+        if (family.byOrder || !options.selection.hasFamily(family.name)) continue;
         if (!seen.insert(family.kernelSource).second) continue;
         ScheduleTable table(options.sources / family.folder /
                             (std::string(family.kernelSource) + "_schedules.def"));

@@ -7,14 +7,16 @@
 namespace kfm {
 
 // Checks the arguments in their order, picks the scale factor and runs the transform. `Kernel`
-// has the static `scales` and `direction`, and transform<Memory>.
-template <class Kernel, class Memory, class Element>
-[[gnu::always_inline]] inline KfmStatus runKernel(const Element* src, Element* dst, int flag) {
+// has the static `scales` and `direction`, and transform<Memory>, which takes what a function is
+// given beyond source, destination and flag as it comes.
+template <class Kernel, class Memory, class Element, class... Further>
+[[gnu::always_inline]] inline KfmStatus runKernel(const Element* src, Element* dst, int flag,
+                                                  Further... further) {
     if (src == nullptr || dst == nullptr) return kfmErrNullPtr;
     const auto* factor = chooseScale<Kernel::direction>(Kernel::scales, flag);
     if (factor == nullptr) return kfmErrFlag;
     launder(factor);
-    Kernel::template transform<Memory>(src, dst, factor);
+    Kernel::template transform<Memory>(src, dst, factor, further...);
     return kfmOk;
 }
 

@@ -1,6 +1,7 @@
 // The factor trees of the Hartley transform, the same in both element types. A number is the direct
 // module of that length (a power of two from 8 up: radix two); pfa needs no twiddle factors, ct has
-// them, rader turns the prime one above its argument's length into that convolution.
+// them, rader turns the prime one above its argument's length into that convolution. Where a
+// primitive root is named it is the one with the smallest rounding errors.
 #include "hartley/factors.h"
 
 #include <map>
@@ -22,7 +23,7 @@ bool powerOfTwo(int n) { return (n & (n - 1)) == 0; }
 Row row(int n) {
     static const Plan five = factored5(), nine = ct(3, 3), fifteen = pfa(3, five);
     static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(16);
-    static const Plan nineteen = rader(pfa(2, nine), 3), twentyThree = rader(pfa(2, 11));
+    static const Plan nineteen = rader(pfa(2, nine), 10), twentyThree = rader(pfa(2, 11));
     static const Plan twentyNine = rader(pfa(4, 7)), thirtyOne = rader(pfa(2, fifteen));
     static const std::map<int, Plan> table = {
         {6, pfa(3, 2)},
@@ -56,7 +57,7 @@ Row row(int n) {
         {40, pfa(8, five)},
         {41, rader(pfa(8, five), 29)},
         {42, pfa(pfa(3, 7), 2)},
-        {43, rader(pfa(2, pfa(3, 7)), 26)},
+        {43, rader(pfa(2, pfa(3, 7)), 19)},
         {44, pfa(4, 11)},
         {45, pfa(nine, five)},
         {46, pfa(2, twentyThree)},
@@ -65,13 +66,13 @@ Row row(int n) {
         {50, pfa(ct(five, five), 2)},
         {51, pfa(seventeen, 3)},
         {52, pfa(thirteen, 4)},
-        {53, rader(pfa(4, thirteen))},
+        {53, rader(pfa(4, rader(pfa(4, 3), 7)), 27)},
         {54, pfa(ct(3, nine), 2)},
         {55, pfa(five, 11)},
         {56, pfa(8, 7)},
         {57, pfa(nineteen, 3)},
         {58, pfa(twentyNine, 2)},
-        {59, rader(pfa(2, twentyNine))},
+        {59, rader(pfa(2, rader(pfa(4, 7), 10)), 18)},
         {60, pfa(4, fifteen)},
         {61, rader(pfa(4, fifteen), 17)},
         {62, pfa(thirtyOne, 2)},

@@ -10,11 +10,12 @@
 
 namespace kfm::kernelgen {
 
-// `source` holds the input as a flat array of lanes: element e of a load is the
-// `lanesPerElement` values from e * lanesPerElement; an output element is laid out alike.
+// The lanes of every node. `source` holds the input as a flat array of lanes: element e of a load is
+// the `lanesPerElement` values from e * lanesPerElement.
 // Nodes that are wide are computed in `Wide`, all others in `Real`.
 template <class Real, class Wide = Real>
-std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const Real> source) {
+std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement,
+                                             std::span<const Real> source) {
     using Lanes = std::vector<Wide>;
     const int lanes = g.lanes();
     std::vector<Lanes> values;
@@ -59,6 +60,14 @@ std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const 
         }
         values.push_back(std::move(v));
     }
+    return values;
+}
+
+// The outputs, laid out like the source.
+template <class Real, class Wide = Real>
+std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const Real> source) {
+    const int lanes = g.lanes();
+    const auto values = evaluateNodes<Real, Wide>(g, lanesPerElement, source);
     std::vector<Real> result(source.size());
     for (const Output& output : g.outputs()) {
         const std::array<int, 2> elements = {output.first, output.second};

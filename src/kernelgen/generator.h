@@ -17,7 +17,8 @@ struct KernelFamily {
     std::string_view source;   // as in the registry: "DFT_CToC"
 
     // The graph of one transform, scale factor and memory operations left open. Throws for a
-    // target whose vectors the family has no lane mapping for.
+    // target whose vectors the family has no lane mapping for. Empty, as `choice` is, where kernels
+    // are templates and not written from graphs.
     std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph;
     // The factor tree and the lane mapping in words.
     std::function<std::string(int length, const registry::Element&)> describe;

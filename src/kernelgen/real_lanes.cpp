@@ -1,9 +1,12 @@
 #include "kernelgen/real_lanes.h"
 
+#include <algorithm>
+#include <cmath>
 #include <map>
 #include <stdexcept>
 
 #include "kernelgen/algorithms.h"
+#include "kernelgen/evaluate.h"
 
 namespace kfm::kernelgen {
 namespace {
@@ -13,9 +16,9 @@ using Sequence = std::vector<Lane>;
 
 void setBin(Spectrum& spectrum, int n, int k, ComplexLanes value) {
     if (2 * k <= n)
-        spectrum[k] = value;
+        spectrum.at(k) = value;
     else
-        spectrum[n - k] = {value.re, -value.im};
+        spectrum.at(n - k) = {value.re, -value.im};
 }
 
 Lane low(Ref vector) { return {vector, 0}; }
@@ -67,17 +70,18 @@ struct MirroredPairs {
 MirroredPairs mirroredPairs(Graph& g, std::span<const Lane> x) {
     const int n = static_cast<int>(x.size()), half = (n - 1) / 2;
     MirroredPairs result;
-    Ref sums;
+    std::vector<Ref> sums;
     for (int j = 1; j < half; j += 2) {
         const Ref left = pack(g, x[j], x[j + 1]), right = pack(g, x[n - j], x[n - j - 1]);
         const Ref sum = g.settle(g.add(left, right), Border::module);
         const Ref difference = g.settle(g.sub(left, right), Border::module);
         result.sumAndDifference.push_back(pack(g, low(sum), low(difference)));
         result.sumAndDifference.push_back(pack(g, high(sum), high(difference)));
-        sums = g.add(sums, sum);
+        sums.push_back(sum);
     }
     Ref total = alone(g, x[0]);
-    if (!sums.isZero()) total = g.add(g.add(total, sums), alone(g, high(sums)));
+    if (const Ref all = balancedSum(g, sums); !all.isZero())
+        total = g.add(g.add(total, all), alone(g, high(all)));
     if (half % 2 == 1) {
         const Ref left = alone(g, x[half]), right = alone(g, x[half + 1]);
         const Ref sum = g.settle(g.add(left, right), Border::module);
@@ -89,6 +93,23 @@ MirroredPairs mirroredPairs(Graph& g, std::span<const Lane> x) {
     return result;
 }
 
+// The sum of the terms, in runs of about the square root of their number: long chains of additions
+// lose accuracy, trees need registers.
+Ref sumInRuns(Graph& g, Ref start, std::span<const Ref> terms) {
+    constexpr std::size_t shortest = 6;   // up to here one run, in the order of the terms
+    const std::size_t count = terms.size();
+    const auto root = static_cast<std::size_t>(std::ceil(std::sqrt(double(count))));
+    const std::size_t run = count < shortest ? 1 : root;
+    Ref sum = start;
+    for (std::size_t first = 0; first < count; first += run) {
+        Ref part;
+        for (std::size_t i = first; i < std::min(first + run, count); ++i)
+            part = g.add(part, terms[i]);
+        sum = g.add(sum, part);
+    }
+    return sum;
+}
+
 // Odd n by the sums and differences of mirrored inputs in the lanes, against (cos, -sin). The
 // imaginary part starts from zero and so never becomes a negative zero.
 Spectrum symmetricPairs(Graph& g, std::span<const Lane> x) {
@@ -98,13 +119,14 @@ Spectrum symmetricPairs(Graph& g, std::span<const Lane> x) {
     spectrum[0] = {low(pairs.total), {}};
     const Ref start = withZero(g, x[0]);
     for (int k = 1; 2 * k < n; ++k) {
-        Ref sum = start;
+        std::vector<Ref> terms;
         for (std::size_t i = 0; i < pairs.sumAndDifference.size(); ++i) {
             const long angle = long(i + 1) * k;
-            sum = g.add(sum, g.mul(LaneConstant{Constant::cosTurn(angle, n),
-                                                -Constant::sinTurn(angle, n)},
-                                   pairs.sumAndDifference[i]));
+            terms.push_back(g.mul(LaneConstant{Constant::cosTurn(angle, n),
+                                               -Constant::sinTurn(angle, n)},
+                                  pairs.sumAndDifference[i]));
         }
+        const Ref sum = sumInRuns(g, start, terms);
         spectrum[k] = {low(sum), high(sum)};
     }
     return spectrum;
@@ -385,18 +407,24 @@ void storeLanes(Graph& g, std::span<const LaneOutput> outputs) {
     std::map<Ref, Vector> vectors;
     for (const auto& [element, value] : outputs) {
         Vector& vector = vectors[value.vector.magnitude()];
-        if (vector.elements[value.index] >= 0)   // two elements of one value
-            throw std::logic_error("a lane is stored once");
+        if (vector.elements[value.index] >= 0) throw std::logic_error("a lane is stored once");
         vector.elements[value.index] = element;
         vector.negative[value.index] = value.negative();
     }
+    const std::vector<double> zeros(outputs.size());
+    const auto silence = evaluateNodes<double>(g, 1, zeros);
     for (const auto& [ref, vector] : vectors) {
-        LanePattern mask;
+        LanePattern subtracted(g.lanes()), flipped(g.lanes());
         for (int lane = 0; lane < g.lanes(); ++lane) {
-            const bool unused = vector.elements[lane] < 0;
-            mask.push_back(vector.negative[unused && g.lanes() == 2 ? 1 - lane : lane]);
+            const bool used = vector.elements[lane] >= 0;
+            const bool negative = vector.negative[used || g.lanes() == 1 ? lane : 1 - lane];
+            // What silence would make a negative zero goes through zero as well.
+            flipped[lane] = used && !negative && std::signbit(silence[ref.node()][lane]);
+            subtracted[lane] = negative || flipped[lane];
         }
-        g.store(vector.elements[0], vector.elements[1], g.subtract(ref, mask));
+        const bool flips = std::ranges::any_of(flipped, [](int lane) { return lane; });
+        const Ref value = flips ? g.flip(ref, flipped) : ref;
+        g.store(vector.elements[0], vector.elements[1], g.subtract(value, subtracted));
     }
 }
 

@@ -19,6 +19,7 @@ inline f64x2 mul(f64x2 a, f64x2 b) { return _mm_mul_pd(a, b); }
 // Changes the sign of the lanes in which the mask holds -0.0.
 inline f64x2 flip(f64x2 a, f64x2 mask) { return _mm_xor_pd(a, mask); }
 inline f64x2 broadcast(const DoublePair* value) { return _mm_load_pd(&value->low); }
+inline f64x2 broadcast(const double* value) { return _mm_load1_pd(value); }
 inline f64x2 constant(const double* table, int index) { return _mm_load_pd(table + 2 * index); }
 inline void pin(f64x2& a) { asm("" : "+x"(a)); }
 
@@ -45,12 +46,17 @@ inline void storeHalves(double* low, double* high, f64x2 v) {
     storeHigh(high, v);
 }
 
+// A complex element at an odd address moves by halves, two real ones as a whole.
 struct AlignedDouble {
+    static f64x2 load(const Kfm64f* p) { return _mm_load_pd(p); }
+    static void store(Kfm64f* p, f64x2 v) { _mm_store_pd(p, v); }
     static f64x2 load(const Kfm64fc* p) { return _mm_load_pd(reinterpret_cast<const double*>(p)); }
     static void store(Kfm64fc* p, f64x2 v) { _mm_store_pd(reinterpret_cast<double*>(p), v); }
 };
 
 struct UnalignedDouble {
+    static f64x2 load(const Kfm64f* p) { return _mm_loadu_pd(p); }
+    static void store(Kfm64f* p, f64x2 v) { _mm_storeu_pd(p, v); }
     static f64x2 load(const Kfm64fc* p) { return loadHalves(&p->re, &p->im); }
     static void store(Kfm64fc* p, f64x2 v) { storeHalves(&p->re, &p->im, v); }
 };

@@ -28,8 +28,8 @@ Quad scaleFactor(const Transform& transform, int flag);
 // The factor that outputs are multiplied by, a value of the element type.
 double roundedScaleFactor(const Transform& transform, int flag);
 
-// The largest error of a real or imaginary part over the largest magnitude of an output element, in
-// units of 2^-24 or 2^-53, by the element type.
+// The largest error of a real or imaginary part over the largest magnitude of an output (of a whole
+// bin where the parts of a spectrum are stored), in units of 2^-24 or 2^-53, by the element type.
 double errorInUnits(const Transform& transform, const Signal& actual,
                     const std::vector<Quad>& expected);
 

@@ -15,7 +15,7 @@ Contents contentsOf(std::string_view family) {
                                                             {"CCS", Content::ccs},
                                                             {"Pack", Content::pack},
                                                             {"Perm", Content::perm}};
-    if (family == "Hartley") return {Content::realSignal, Content::realSignal};
+    if (family == "Hartley" || family == "WHT") return {Content::realSignal, Content::realSignal};
     const std::size_t from = family.find('_') + 1, to = family.find("To", from);
     if (from == 0 || to == family.npos)
         throw std::logic_error("arrays of " + std::string(family) + " are not known");

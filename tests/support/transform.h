@@ -23,12 +23,14 @@ struct Transform {
     const registry::Function* function;
     const registry::Family* family;
     const registry::Element* element;
-    int length;   // of the fixed function; for a generic entry the longest one
+    int length;   // of the fixed function's signals; for a generic entry the longest one
 
     std::string name() const;   // "DFTFwd_CToC_16_32fc"
     std::size_t realBytes() const { return element->doublePrecision ? 8 : 4; }
     bool inverse() const { return family->inverse(); }
     bool hartley() const { return family->name == "Hartley"; }
+    bool walshHadamard() const { return family->name == "WHT"; }
+    bool selfInverse() const { return hartley() || walshHadamard(); }
     Content source() const { return contentsOf(family->name).source; }
     Content destination() const { return contentsOf(family->name).destination; }
     std::size_t sourceReals() const { return reals(source(), length); }
@@ -39,7 +41,9 @@ struct Transform {
     std::size_t sourceBytes() const { return sourceReals() * realBytes(); }
     std::size_t destinationBytes() const { return destinationReals() * realBytes(); }
     // From one address that is served to the next.
-    std::size_t addressStep() const { return element->complex ? 1 : realBytes(); }
+    std::size_t addressStep() const {
+        return element->complex || walshHadamard() ? 1 : realBytes();
+    }
 };
 
 std::ostream& operator<<(std::ostream& out, const Transform& transform);
@@ -47,13 +51,14 @@ std::ostream& operator<<(std::ostream& out, const Transform& transform);
 const std::vector<Transform>& fixedTransforms();
 const std::vector<Transform>& genericTransforms();
 
-// The fixed function of another family or length, or null when the registry has none.
+// The fixed function of another family or length (or order), or null when the registry has none.
 const Transform* findTransform(std::string_view family, int length, std::string_view element);
 
 inline constexpr std::array<int, 4> allFlags = {kfmScaleFwdByN, kfmScaleInvByN, kfmScaleBySqrtN,
                                                 kfmScaleNone};
 
-// A call that faults counts as a failure of the running test and returns `crashed`.
+// A call that faults counts as a failure of the running test and returns `crashed`. Where there may
+// be a work buffer, none is passed.
 inline constexpr KfmStatus crashed = 0x7fff;
 KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag);
 KfmStatus call(const Transform& generic, const void* source, void* destination, int length,

@@ -145,9 +145,21 @@ TEST_F(Transform, SoundMonoIsRealStereoIsComplex) {
               "frame,index,re,im\n0,0,0.75,-0.125\n0,1,0.25,-0.375\n");
 }
 
+// Four samples by heart; and a length that is computed in blocks, there and back.
+TEST_F(Transform, WalshHadamardTakesLengthsNotOrders) {
+    EXPECT_EQ(run("transform --family WHT --length 4", "1\n2\n4\n8\n").out,
+              "frame,index,value\n0,0,15\n0,1,-5\n0,2,-9\n0,3,3\n");
+    const std::string there = run("transform --family WHT --length 256", "3\n-7\n").out;
+    const std::string back = run("transform --family WHT --length 256 --flag fwd-by-n", there).out;
+    EXPECT_TRUE(back.starts_with("frame,index,value\n0,0,3\n0,1,-7\n0,2,0\n0,3,0\n")) << back;
+}
+
 TEST_F(Listing, NamesTheLibraryAndItsFamilies) {
     EXPECT_NE(run("info").out.find(kfmgenGetLibVersion()->libraryName), std::string::npos);
     EXPECT_NE(run("list").out.find("DFTInv_CToC     2..64     32fc, 64fc\n"), std::string::npos);
+    EXPECT_NE(run("list").out.find(
+                  "WHT             2..8192   32f, 64f; powers of two, orders 1..13\n"),
+              std::string::npos);
     EXPECT_NE(run("list").out.find("DCT4            2..134217729"), std::string::npos);
     for (const char* name : {"kfmgDFTFwd_CToC_17_64fc", "kfmgDCT4Init_32f"})
         EXPECT_NE(run("list --names").out.find(name + std::string("\n")), std::string::npos);
@@ -163,6 +175,8 @@ TEST_F(Refusal, Options) {
         {"transform", "--length is required"},
         {"transform --length 1", "DFTFwd_CToC has lengths 2 to 64"},
         {"transform --length 65", "DFTFwd_CToC has lengths 2 to 64"},
+        {"transform --length 12 --family WHT", "WHT has lengths 2 to 8192, powers of two"},
+        {"transform --length 16384 --family WHT", "WHT has lengths 2 to 8192, powers of two"},
         {"transform --length four", "four"},
         {"transform --length 99999999999", "99999999999"},
         {"transform --length 4 --family DFT", "no family 'DFT'"},

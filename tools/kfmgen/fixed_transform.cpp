@@ -18,14 +18,17 @@ const registry::Family& knownFamily(const std::string& name) {
 
 const registry::Function* findFunction(const registry::Family& family, int length,
                                        bool doublePrecision) {
-    if (length < family.first || length > family.last)
+    int member = family.first;
+    while (member <= family.last && static_cast<int>(family.samples(member)) != length) ++member;
+    if (member > family.last)
         throw InputError("length " + std::to_string(length) + ": " + std::string(family.name) +
-                         " has lengths " + std::to_string(family.first) + " to " +
-                         std::to_string(family.last));
+                         " has lengths " + std::to_string(family.samples(family.first)) + " to " +
+                         std::to_string(family.samples(family.last)) +
+                         (family.byOrder ? ", powers of two" : ""));
     const registry::Element* element = *std::ranges::find(
         family.elements, doublePrecision, &registry::Element::doublePrecision);
     return &*std::ranges::find(registry::functions(),
-                               registry::functionName(family, length, *element),
+                               registry::functionName(family, member, *element),
                                &registry::Function::name);
 }
 
@@ -34,10 +37,14 @@ template <class Real>
 std::vector<double> apply(const registry::Function& function, std::span<const double> source,
                           int flag) {
     using Call = KfmStatus (*)(const void*, void*, int);
+    using BufferedCall = KfmStatus (*)(const void*, void*, int, Kfm8u*);
     std::vector<Real> data;
     for (const double value : source) data.push_back(converted<Real>(value));
     const KfmStatus status =
-        reinterpret_cast<Call>(function.address)(data.data(), data.data(), flag);
+        registry::findFamily(function.family)->byOrder
+            ? reinterpret_cast<BufferedCall>(function.address)(data.data(), data.data(), flag,
+                                                               nullptr)
+            : reinterpret_cast<Call>(function.address)(data.data(), data.data(), flag);
     if (status != kfmOk)
         throw std::logic_error(function.name + std::string(" returned ") + std::to_string(status));
     return {data.begin(), data.end()};
@@ -60,6 +67,7 @@ FixedTransform::FixedTransform(const std::string& family, int length, bool doubl
                                int flag)
     : family_(knownFamily(family)),
       function_(findFunction(family_, length, doublePrecision)),
+      length_(length),
       doublePrecision_(doublePrecision),
       flag_(flag) {}
 
@@ -69,7 +77,7 @@ Form FixedTransform::form(bool spectrum) const {
 }
 
 std::size_t FixedTransform::frameLength() const {
-    const std::size_t length = function_->length;
+    const std::size_t length = length_;
     return sourceForm() == Form::halfSpectrum ? length / 2 + 1 : length;
 }
 
@@ -81,7 +89,7 @@ Samples FixedTransform::operator()(std::span<const Sample> frame) const {
 
 std::vector<double> FixedTransform::arrayOf(std::span<const Sample> samples) const {
     // Room for every form on either side.
-    std::vector<double> array(2 * (function_->length + 1));
+    std::vector<double> array(2 * (length_ + 1));
     for (std::size_t i = 0; i < samples.size(); ++i) {
         const Slots slots = slotsOf(sourceForm(), i);
         array[slots.re] = samples[i].real();
@@ -94,7 +102,7 @@ std::vector<double> FixedTransform::arrayOf(std::span<const Sample> samples) con
 }
 
 Samples FixedTransform::samplesOf(std::span<const double> array) const {
-    const std::size_t length = function_->length;
+    const std::size_t length = length_;
     Samples samples(resultForm() == Form::halfSpectrum ? length / 2 + 1 : length);
     for (std::size_t i = 0; i < samples.size(); ++i) {
         const Slots slots = slotsOf(resultForm(), i);
@@ -106,7 +114,7 @@ Samples FixedTransform::samplesOf(std::span<const double> array) const {
 Slots FixedTransform::slotsOf(Form form, int i) const {
     if (form == Form::complexSignal) return {2 * i, 2 * i + 1};
     if (form == Form::realSignal) return {i, -1};
-    return binSlots(*spectrumLayout(family_), function_->length, i);
+    return binSlots(*spectrumLayout(family_), length_, i);
 }
 
 }   // namespace kfm::tool

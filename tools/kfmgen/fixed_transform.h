@@ -31,6 +31,7 @@ private:
 
     const registry::Family& family_;
     const registry::Function* function_;
+    int length_;
     bool doublePrecision_;
     int flag_;
 };

@@ -25,12 +25,15 @@ void printFamilies(std::ostream& out) {
         << "element types\n";
     for (const registry::Family& family : registry::families()) {
         out << std::setw(16) << family.name << std::setw(10)
-            << std::to_string(family.first) + ".." + std::to_string(family.last);
+            << std::to_string(family.samples(family.first)) + ".." +
+                   std::to_string(family.samples(family.last));
         const char* separator = "";
         for (const registry::Element* element : family.elements) {
             out << separator << element->suffix;
             separator = ", ";
         }
+        if (family.byOrder)
+            out << "; powers of two, orders " << family.first << ".." << family.last;
         out << '\n';
     }
     out << std::setw(16) << plannedFamily << plannedLengths()

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "kernelgen/emit.h"
+#include "kernelgen/frame.h"
 #include "kernelgen/kernel_file.h"
 
 namespace kfm::dft::complex {
@@ -36,31 +37,6 @@ ScheduleChoice choice(int n, const Element& element, const Target& target) {
     return findSchedule(rows, n, element, target);
 }
 
-// One exported function with, where the registry has one, its unaligned copy.
-std::string functions(const Family& family, int n, const Element& element,
-                      const std::string& kernel) {
-    const std::string type(element.type);
-    const std::string arguments = "(const " + type + "* src, " + type + "* dst, int flag) {\n";
-    const std::string precision = element.doublePrecision ? "Double" : "Single";
-    const auto run = [&](const std::string& memory) {
-        return "kfm::runKernel<" + kernel + ", " + memory + precision + ">(src, dst, flag);\n";
-    };
-    std::ostringstream out;
-    const std::string copy = registry::unalignedName(family, n, element);
-    if (registry::hasUnalignedCopy(family, n, element))
-        out << "KfmStatus " << copy << arguments << "    return " << run("Unaligned") << "}\n";
-    out << "KfmStatus " << registry::functionName(family, n, element) << arguments;
-    if (registry::testsAlignment(family, n, element)) {
-        out << "    if (kfm::misaligned(src) || kfm::misaligned(dst))\n        return "
-            << (registry::hasUnalignedCopy(family, n, element) ? copy + "(src, dst, flag);\n"
-                                                               : run("Unaligned"));
-        out << "    return " << run("Aligned") << "}\n";
-    } else {
-        out << "    return " << run("Unaligned") << "}\n";
-    }
-    return out.str();
-}
-
 std::string emit(int n, const Element& element, const Target& target, const ScheduleChoice& choice,
                  std::span<const Family* const> families) {
     std::ostringstream out, exported;
@@ -77,7 +53,7 @@ std::string emit(int n, const Element& element, const Target& target, const Sche
             << (family->inverse() ? "inverse" : "forward") << ";\n    "
             << scaleFactors(n, Constant::inverseSqrt(n), element, element.doublePrecision ? 2 : 4)
             << "};\n\n";
-        exported << functions(*family, n, element, kernel) << "\n";
+        exported << kernelFunctions(*family, n, element, kernel) << "\n";
     }
     out << "}   // namespace\n\nextern \"C\" {\n\n" << exported.str() << "}\n";
     return out.str();
