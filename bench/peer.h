@@ -18,6 +18,9 @@ void setPeerFolder(const std::string& folder);
 // source, it does so if that is faster.
 std::function<void(long)> fftwPlan(const registry::Function& function);
 
+// The same for the DCT-IV of a length. Beyond 8192 it is what FFTW_MEASURE finds.
+std::function<void(long)> fftwDct4Plan(int length, const registry::Element& element);
+
 // The function's Walsh-Hadamard transform by the plain loop, unscaled: a copy of the source, then
 // in place.
 std::function<void(long)> plainLoop(const registry::Function& function);

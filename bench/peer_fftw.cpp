@@ -87,18 +87,29 @@ public:
                                 : best(length, element, executeForward, forwardPlan, anyRule);
     }
 
+    std::function<void(long)> dct4(int length, const registry::Element& element) const {
+        if (!complete) return {};
+        const auto plan = [&](Real* from, Real* to, unsigned flags) {
+            return planReal(length, from, to, FFTW_REDFT11, flags);
+        };
+        // A patient search takes minutes for a length of millions.
+        const unsigned effort = length > 8192 ? FFTW_MEASURE : FFTW_PATIENT;
+        return best(length, element, executeReal, plan, anyRule, effort);
+    }
+
 private:
     template <class Source, class Destination, class MakePlan>
     static std::function<void(long)> best(int length, const registry::Element& element,
                                           void (*execute)(Plan, Source*, Destination*),
-                                          MakePlan makePlan, const SourceRules& rules) {
+                                          MakePlan makePlan, const SourceRules& rules,
+                                          unsigned effort = FFTW_PATIENT) {
         // Planning overwrites its arrays; the timed calls work on fresh ones.
         const Signals scratch(length, element);
         std::vector<std::function<void(long)>> plans;
         for (const unsigned rule : rules) {
             const Plan plan =
                 makePlan(static_cast<Source*>(scratch.source()),
-                         static_cast<Destination*>(scratch.destination()), FFTW_PATIENT | rule);
+                         static_cast<Destination*>(scratch.destination()), effort | rule);
             if (plan == nullptr) continue;
             const auto signals = std::make_shared<Signals>(length, element);
             plans.push_back([=, batch = 0](long calls) mutable {
@@ -126,13 +137,30 @@ private:
 
 void setPeerFolder(const std::string& folder) { peerFolder = folder; }
 
+namespace {
+
+const Api<fftw_plan, fftw_complex, double>& doubleApi() {
+    static const Api<fftw_plan, fftw_complex, double> api("libfftw3.so.3", "fftw_");
+    return api;
+}
+
+const Api<fftwf_plan, fftwf_complex, float>& singleApi() {
+    static const Api<fftwf_plan, fftwf_complex, float> api("libfftw3f.so.3", "fftwf_");
+    return api;
+}
+
+}   // namespace
+
 std::function<void(long)> fftwPlan(const registry::Function& function) {
-    static const Api<fftw_plan, fftw_complex, double> doubleApi("libfftw3.so.3", "fftw_");
-    static const Api<fftwf_plan, fftwf_complex, float> singleApi("libfftw3f.so.3", "fftwf_");
     const registry::Element& element = *registry::findElement(function.element);
     const registry::Family& family = *registry::findFamily(function.family);
-    return element.doublePrecision ? doubleApi.like(family, function.length, element)
-                                   : singleApi.like(family, function.length, element);
+    return element.doublePrecision ? doubleApi().like(family, function.length, element)
+                                   : singleApi().like(family, function.length, element);
+}
+
+std::function<void(long)> fftwDct4Plan(int length, const registry::Element& element) {
+    return element.doublePrecision ? doubleApi().dct4(length, element)
+                                   : singleApi().dct4(length, element);
 }
 
 }   // namespace kfm::bench

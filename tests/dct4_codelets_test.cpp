@@ -96,40 +96,41 @@ TYPED_TEST(Dct4Codelets, InputStageFillsTheRowsOfWork) {
         }
 }
 
-// Blocks joined by a twiddle stage, in place and at the root, are one larger block.
+// Blocks joined by a twiddle stage are one larger block, with half of it conjugated at the root.
 TYPED_TEST(Dct4Codelets, TwiddleStagesJoinBlocks) {
-    constexpr int L = dct4::lanes<TypeParam>, blockLength = 16, d = 12;
+    constexpr int d = dct4::rowLength, blockLength = 16;
     for (int divisor = 2; divisor <= 32; divisor *= 2) {
-        const int m = divisor * blockLength, step = L + 3;
+        const int m = divisor * blockLength, step = d + 3;
         const std::vector<TypeParam> x = randomSignal<TypeParam>(m * step);
         const TypeParam* front = x.data();
         const TypeParam* back = x.data() + x.size() - 1;
-        AlignedArray<TypeParam> rows(m * L), w(m * d), table(m);
+        AlignedArray<TypeParam> below(m * d), root(m * d), table(m);
         fillTwiddleTable(table, divisor, blockLength / 2);
         for (int s = 0; s < divisor; ++s)
             dct4::inputBlock<TypeParam, blockLength>(front + s * step, back - s * step,
                                                      divisor * step,
-                                                     rows.data() + s * blockLength * L);
+                                                     below.data() + s * blockLength * d);
+        std::copy_n(below.data(), m * d, root.data());
         withSize<2, 32>(divisor, [&]<int size>() {
-            dct4::twiddleStageRoot<TypeParam, size>(rows.data(), table.data(), blockLength / 2,
-                                                    w.data() + 8, d);
-            dct4::twiddleStage<TypeParam, size>(rows.data(), table.data(), blockLength / 2);
+            dct4::twiddleStage<TypeParam, size>(below.data(), table.data(), blockLength / 2);
+            dct4::twiddleStageRoot<TypeParam, size>(root.data(), table.data(), blockLength / 2);
         });
-        for (int lane = 0; lane < L; ++lane) {
+        for (int column = 0; column < d; ++column) {
             std::vector<WideComplex> u;
             for (int k = 0; k < m / 2; ++k)
-                u.emplace_back(front[k * step + lane], -back[-k * step - lane]);
+                u.emplace_back(front[k * step + column], -back[-k * step - column]);
             const std::vector<WideComplex> G = mirroredSums(u);
-            WideSignal natural, mirrored;
-            std::vector<TypeParam> inPlace, atRoot;
+            WideSignal natural, halfConjugated;
+            std::vector<TypeParam> belowColumn, rootColumn;
             for (int row = 0; row < m; ++row) {
-                natural.push_back(row % 2 ? G[row / 2].imag() : G[row / 2].real());
-                mirrored.push_back(rowOfWork(G, row));
-                inPlace.push_back(rows[row * L + lane]);
-                atRoot.push_back(w[8 + row * d + lane]);
+                const Wide part = row % 2 ? G[row / 2].imag() : G[row / 2].real();
+                natural.push_back(part);
+                halfConjugated.push_back(row % 2 && row >= m / 2 ? -part : part);
+                belowColumn.push_back(below[row * d + column]);
+                rootColumn.push_back(root[row * d + column]);
             }
-            ASSERT_LE(errorInUnits(inPlace.data(), natural), promisedUnits) << divisor;
-            ASSERT_LE(errorInUnits(atRoot.data(), mirrored), promisedUnits) << divisor;
+            ASSERT_LE(errorInUnits(belowColumn.data(), natural), promisedUnits) << divisor;
+            ASSERT_LE(errorInUnits(rootColumn.data(), halfConjugated), promisedUnits) << divisor;
         }
     }
 }

@@ -12,6 +12,10 @@ namespace kfm::dct4 {
 
 using namespace simd;
 
+// Elements of a vector.
+template <class Real>
+inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
+
 // Addresses base + i*distance for i < count known to the compiler, in the form that an operand of
 // an instruction takes: a pointer for every eight steps, to which 1, 2, 4 or 8 times a register
 // that holds an odd multiple is added. Left alone, the compiler computes each address by itself.
@@ -58,5 +62,12 @@ struct RowWriter {
 
     void store(int row, VectorOf<Real> v) const { storeAligned(first + row * distance, v); }
 };
+
+// Elements that lie side by side, between places of any alignment.
+template <class Real, int count>
+void copyElements(const Real* from, Real* to) {
+#pragma GCC unroll 16
+    for (int i = 0; i < count; i += lanes<Real>) storeUnaligned(to + i, loadUnaligned(from + i));
+}
 
 }   // namespace kfm::dct4

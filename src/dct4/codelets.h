@@ -1,18 +1,16 @@
 // The arithmetic of the DCT-IV: what the stages of a plan call, once they know where their data
 // are. Plain functions of pointers and sizes; nothing here knows a plan or allocates.
 //
-// Real is float or double. A vector has `lanes<Real>` elements (4 or 2), each of which belongs to
-// another sub-transform; "rows" below are vectors, 16 bytes apart. Only the instantiations that a
-// comment names exist. Work arrays, tables and rows are aligned to 16 bytes; the caller's arrays
-// (`src`, `dst`, `front`, `back`) to an element.
+// Real is float or double. Only the instantiations that a comment names exist. Work arrays and
+// tables are aligned to 16 bytes; the caller's arrays (`src`, `dst`, `front`, `back`) to an element.
 #pragma once
 
 #include <cstddef>
 
 namespace kfm::dct4 {
 
-template <class Real>
-inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
+// Of w, wherever an input stage recurses; that is, for all m > 64.
+inline constexpr int rowLength = 32;
 
 // y[k] = sum of x[i] cos(pi (2i+1)(2k+1) / 4n) for n = 2, 4, 8, 16, 32. src == dst works.
 template <class Real, int n>
@@ -29,27 +27,26 @@ void fixedTransform(const Real* src, Real* dst);
 template <class Real, int m>
 void inputStage(const Real* src, Real* w, int len, int d);
 
-// The same sums G for `lanes` neighbouring sub-transforms of a recursion, m = 2, ..., 64. Lane j
-// has a_k = front[k*step + j] and b_k = back[-k*step - j]; `rows` receives m rows in natural order,
+// The same sums G inside a recursion, m = 2, ..., 64, for all columns of w: column j < 32 has
+// a_k = front[k*step + j] and b_k = back[-k*step - j]; `rows` receives m rows in natural order,
 // Re G(p) in row 2p and Im G(p) in row 2p+1.
 template <class Real, int m>
 void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* rows);
 
 // Joins d' = 2, 4, 8, 16, 32 interleaved sub-transforms of M' = `blockRows` complex rows to one of
-// M'd', in place. Block s is complex rows sM' .. sM'+M'-1 of `rows` (real part, then imaginary
-// part). `table` holds M' groups of d' pairs cos, sin, of the angle pi s (4p'+1) / (2 M'd') for
-// pair s of group p'. Reads complex rows sM'+p', multiplies by the pairs and writes to complex row
-// M't+p' the sum over s of each with exp(2 pi i st/d').
+// M'd', in place, in all columns. Block s is complex rows sM' .. sM'+M'-1 of `rows` (real part,
+// then imaginary part). `table` holds M' groups of d' pairs cos, sin, of the angle
+// pi s (4p'+1) / (2 M'd') for pair s of group p'. Reads complex rows sM'+p', multiplies by the pairs
+// and writes to complex row M't+p' the sum over s of each with exp(2 pi i st/d').
 template <class Real, int divisor>
 void twiddleStage(Real* rows, const Real* table, int blockRows);
 
-// The same at the root of a recursion: the result goes to a column of w, in the order that
-// inputStage gives its rows (m = 2M'd'). `w` is the address of the group's first element and `d`
-// the row length of w; `rows` stays as it is.
+// The same at the root of a recursion, where the upper half of the results is conjugated.
 template <class Real, int divisor>
-void twiddleStageRoot(const Real* rows, const Real* table, int blockRows, Real* w, int d);
+void twiddleStageRoot(Real* rows, const Real* table, int blockRows);
 
-// The output stage for d = 4, 8, 16, 32: reads w as inputStage leaves it and all of `table`
+// The output stage for d = 4, 8, 16, 32: reads w as inputStage leaves it, or twiddleStageRoot
+// where len/d > 64, and all of `table`
 // (len elements: element (block i, column c, j) at 8di + 4c + j is the cosine, for odd c the sine,
 // of pi (2q+1)(2r+1) / 4len with q = 4i+j, r = c/2) and writes all of `dst`, which is not w. `len`
 // is a multiple of 8d.

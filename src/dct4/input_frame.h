@@ -55,13 +55,22 @@ void inputStage(const Real* src, Real* w, int len, int d) {
             RowWriter<Real>{w + r, d});
 }
 
+// The inputs of a block are far apart, by a power of two, and fall into the same few sets of every
+// cache. They are fetched once, whole rows at a time, to where all columns find them side by side.
 template <class Real, int m>
 void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* rows) {
-    using Stride = Strided<const Real, m / 2>;
-    InputBlockNetwork<Real, m>::run(
-        MirroredReader<Real, m / 2, Stride, Stride>{{front, step},
-                                                    {back - (lanes<Real> - 1), -step}},
-        RowWriter<Real>{rows, lanes<Real>});
+    constexpr int L = lanes<Real>, half = m / 2;
+    alignas(64) Real fromFront[half * rowLength], fromBack[half * rowLength];
+    for (int k = 0; k < half; ++k) {
+        copyElements<Real, rowLength>(front + k * step, fromFront + k * rowLength);
+        copyElements<Real, rowLength>(back - k * step - (rowLength - 1), fromBack + k * rowLength);
+    }
+    using Stride = ConstantStride<const Real, rowLength>;
+    for (int column = 0; column < rowLength; column += L)
+        InputBlockNetwork<Real, m>::run(
+            MirroredReader<Real, half, Stride, Stride>{{fromFront + column},
+                                                       {fromBack + rowLength - column - L}},
+            RowWriter<Real>{rows + column, rowLength});
 }
 
 }   // namespace kfm::dct4

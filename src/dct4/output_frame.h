@@ -3,6 +3,8 @@
 // from its end.
 #pragma once
 
+#include <cstdint>
+
 #include "dct4/codelet_frame.h"
 
 namespace kfm::dct4 {
@@ -10,25 +12,45 @@ namespace kfm::dct4 {
 template <class Real, int d>
 struct OutputStageNetwork;
 
-// Columns of `lanes` rows, each `distance` elements after the last, as vectors.
+// Where the cosine part of row j of the next rows stands in w, the sine part following it: one row
+// behind the other, or, from a recursion, alternately from the front and from the back.
+template <class Real, int d>
+struct ConsecutiveRows {
+    const Real* first;
+
+    const Real* operator[](int j) const { return first + j * 2 * d; }
+};
+
+template <class Real, int d>
+struct FoldedRows {
+    const Real* front;
+    const Real* back;
+
+    const Real* operator[](int j) const {
+        return j % 2 == 0 ? front + j / 2 * 2 * d : back - j / 2 * 2 * d;
+    }
+};
+
+// The elements of as many rows as a vector has lanes, column by column.
 template <class Real>
 struct Columns {
     VectorOf<Real> column[lanes<Real>];
 
-    Columns(const Real* first, std::ptrdiff_t distance) {
+    template <class Rows>
+    Columns(const Rows& rows, int offset) {
 #pragma GCC unroll 4
-        for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned(first + j * distance);
+        for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned(rows[j] + offset);
         transpose(column);
     }
 };
 
 // P_r = c C_r - s T_r to vector r, R_r = s C_r + c T_r to vector d + r, for as many rows as a
 // vector has lanes. Cosines and sines stand four to a group in the table.
-template <class Real, int d>
-void rotateRows(const Real* w, const Real* table, Real* rotated) {
+template <class Real, int d, class Rows>
+void rotateRows(const Rows& rows, const Real* table, Real* rotated) {
     constexpr int L = lanes<Real>;
     for (int r = 0; r < d; r += L) {
-        const Columns<Real> cosinePart(w + r, 2 * d), sinePart(w + d + r, 2 * d);
+        const Columns<Real> cosinePart(rows, r), sinePart(rows, d + r);
 #pragma GCC unroll 4
         for (int j = 0; j < L; ++j) {
             const VectorOf<Real> C = cosinePart.column[j], T = sinePart.column[j];
@@ -51,11 +73,10 @@ struct RunWriter {
     }
 };
 
-template <class Real, int d, class Writer>
-void outputRows(const Real* w, const Real* table, int q, Writer writer) {
+template <class Real, int d, class Rows, class Writer>
+void outputRows(const Rows& rows, const Real* table, int q, Writer writer) {
     alignas(16) Real rotated[2 * d * lanes<Real>];
-    const Real* block = table + std::ptrdiff_t(q / 4) * 8 * d + q % 4;
-    rotateRows<Real, d>(w + std::ptrdiff_t(q) * 2 * d, block, rotated);
+    rotateRows<Real, d>(rows, table + std::ptrdiff_t(q / 4) * 8 * d + q % 4, rotated);
     OutputStageNetwork<Real, d>::run(RowReader<Real>{rotated}, writer);
 }
 
@@ -74,37 +95,55 @@ struct LineWriter {
     }
 };
 
-template <class Real>
-void copyLine(const Real* line, Real* dst) {
+// Past the caches, or through them.
+template <class Real, bool streaming>
+void writeLine(const Real* line, Real* dst) {
+    if constexpr (!streaming) return copyElements<Real, lineLength<Real>>(line, dst);
     for (int i = 0; i < lineLength<Real>; i += lanes<Real>)
-        storeUnaligned(dst + i, loadAligned(line + i));
+        storeStreaming(dst + i, loadAligned(line + i));
 }
 
 // Runs that are a multiple of a page apart fall into the same few sets of every cache, which cannot
 // hold a line of each until it is full. So lines are filled on the stack and written whole.
-template <class Real, int d>
+template <class Real, int d, bool streaming>
 void outputByLines(const Real* w, const Real* table, Real* dst, std::ptrdiff_t run) {
     constexpr int L = lanes<Real>, line = lineLength<Real>;
     alignas(64) Real lines[2 * d * line];
-    for (int q = 0; q < run / 2; q += line) {
-        for (int row = 0; row < line; row += L)
-            outputRows<Real, d>(w, table, q + row,
+    for (std::ptrdiff_t q = 0; q < run / 2; q += line) {
+        for (int row = 0; row < line; row += L) {
+            const std::ptrdiff_t first = (q + row) * d;
+            outputRows<Real, d>(FoldedRows<Real, d>{w + first, w + (run - 2) * d - first}, table,
+                                static_cast<int>(q) + row,
                                 LineWriter<Real, d>{lines + row, lines + line - L - row});
+        }
         for (int k = 0; k < d; ++k) {
-            copyLine(lines + k * line, dst + k * run + q);
-            copyLine(lines + (d + k) * line, dst + (k + 1) * run - line - q);
+            writeLine<Real, streaming>(lines + k * line, dst + k * run + q);
+            writeLine<Real, streaming>(lines + (d + k) * line, dst + (k + 1) * run - line - q);
         }
     }
 }
 
+// An output too large for the second cache would only be fetched there to be overwritten, and push
+// out what is still to be read.
+inline constexpr std::ptrdiff_t streamedBytes = 512 * 1024;
+
+template <class Real, int d>
+void outputOfRecursion(const Real* w, const Real* table, Real* dst, std::ptrdiff_t run) {
+    const bool wholeLines = reinterpret_cast<std::uintptr_t>(dst) % 64 == 0;
+    if (!wholeLines || run * d * static_cast<std::ptrdiff_t>(sizeof(Real)) < streamedBytes)
+        return outputByLines<Real, d, false>(w, table, dst, run);
+    outputByLines<Real, d, true>(w, table, dst, run);
+    finishStreaming();
+}
+
 template <class Real, int d>
 void outputStage(const Real* w, const Real* table, Real* dst, int len) {
-    constexpr int L = lanes<Real>, page = 4096 / sizeof(Real);
+    constexpr int L = lanes<Real>;
     const std::ptrdiff_t run = len / d;
-    if constexpr (d == 32)
-        if (run >= page) return outputByLines<Real, d>(w, table, dst, run);
+    if constexpr (d == rowLength)
+        if (run > 64) return outputOfRecursion<Real, d>(w, table, dst, run);
     for (int q = 0; q < run / 2; q += L)
-        outputRows<Real, d>(w, table, q,
+        outputRows<Real, d>(ConsecutiveRows<Real, d>{w + std::ptrdiff_t(q) * 2 * d}, table, q,
                             RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});
 }
 

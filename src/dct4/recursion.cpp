@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <cmath>
 
-#include "dct4/codelets.h"
 #include "dct4/numbers.h"
 
 namespace kfm::dct4 {
 namespace {
 
-// The recursion's vectors, and what an odd length needs instead.
+// A vector for each of the sub-transform's values, so that sizes follow one rule; only an odd length
+// uses it.
 template <class Real>
 constexpr Bytes scratchBytes(int a, int len, bool root) {
     if (!root) return 0;
@@ -88,25 +88,15 @@ void Env7<Real>::del() {
     deleteChildren(*this);
 }
 
+// Neighbouring groups share the cache lines of the input and the rows of the work buffer. So the
+// call for the first group of a row takes along all others, and these find nothing left to do.
 template <class Real>
-KfmStatus Env7<Real>::compute(const Real* src, Real* dst, int in0, int refl, int out0) const {
+KfmStatus Env7<Real>::compute(const Real* src, Real* w, int in0, int refl, int out0) const {
     if (rule != 1) return kfmErrBadSpec;
-    if (root != 0) return computeRoot(src, dst + out0, in0, refl);
-    const KfmStatus status = stageOf<Env9<Real>>(splitting)->compute(src, dst, in0, refl, out0);
-    if (status == kfmOk) stageOf<Env8<Real>>(joining)->compute(dst + out0);
+    if (out0 % rowLength != 0) return kfmOk;
+    const KfmStatus status = stageOf<Env9<Real>>(splitting)->compute(src, w, in0, refl, out0);
+    if (status == kfmOk) stageOf<Env8<Real>>(joining)->compute(w + out0);
     return status;
-}
-
-// The scratch holds as many sub-transforms at a time as a vector has lanes.
-template <class Real>
-KfmStatus Env7<Real>::computeRoot(const Real* src, Real* w, int in0, int refl) const {
-    for (int lane = 0; lane < 4; lane += lanes<Real>) {
-        const KfmStatus status = stageOf<Env9<Real>>(splitting)->compute(
-            src, scratch, in0 + lane, refl - 2 * lane, 0);
-        if (status != kfmOk) return status;
-        stageOf<Env8<Real>>(joining)->computeRoot(scratch, w + lane);
-    }
-    return kfmOk;
 }
 
 template <class Real>
@@ -138,7 +128,7 @@ void Env8<Real>::init(void* arena, const SplitShape& shape, int splitFactor,
     a = shape.a;
     m = a / divisor;
     blockRows = m / 2;
-    rowStride = lanes<Real>;
+    rowStride = rowLength;
     blockStride = m * rowStride;
     tableStride = 2 * divisor;
     stride = shape.d;
@@ -182,22 +172,11 @@ void Env8<Real>::del() {
 template <class Real>
 void Env8<Real>::compute(Real* rows) const {
     switch (rule) {
-        case 1: return twiddleStage<Real, 2>(rows, table, blockRows);
-        case 2: return twiddleStage<Real, 4>(rows, table, blockRows);
-        case 3: return twiddleStage<Real, 8>(rows, table, blockRows);
-        case 4: return twiddleStage<Real, 16>(rows, table, blockRows);
-        case 5: return twiddleStage<Real, 32>(rows, table, blockRows);
-    }
-}
-
-template <class Real>
-void Env8<Real>::computeRoot(const Real* rows, Real* w) const {
-    switch (rule) {
-        case 1: return twiddleStageRoot<Real, 2>(rows, table, blockRows, w, stride);
-        case 2: return twiddleStageRoot<Real, 4>(rows, table, blockRows, w, stride);
-        case 3: return twiddleStageRoot<Real, 8>(rows, table, blockRows, w, stride);
-        case 4: return twiddleStageRoot<Real, 16>(rows, table, blockRows, w, stride);
-        case 5: return twiddleStageRoot<Real, 32>(rows, table, blockRows, w, stride);
+        case 1: return join<2>(rows);
+        case 2: return join<4>(rows);
+        case 3: return join<8>(rows);
+        case 4: return join<16>(rows);
+        case 5: return join<32>(rows);
     }
 }
 
@@ -221,7 +200,7 @@ void Env9<Real>::init(void* arena, const SplitShape& shape, int divisor) {
     len = shape.len;
     mirror = 2 * len - 1;
     count = divisor;
-    rowStride = lanes<Real>;
+    rowStride = rowLength;
     blockStride = m * rowStride;
     d = shape.d;
 }
@@ -242,15 +221,15 @@ void Env9<Real>::del() {
 }
 
 template <class Real>
-KfmStatus Env9<Real>::compute(const Real* src, Real* rows, int in0, int refl, int out0) const {
+KfmStatus Env9<Real>::compute(const Real* src, Real* w, int in0, int refl, int out0) const {
     for (int s = 0; s < count; ++s) {
         if (rule == splitRule) {
             const KfmStatus status =
-                stageOf<Env7<Real>>(recursion)->compute(src, rows, in0, refl, out0);
+                stageOf<Env7<Real>>(recursion)->compute(src, w, in0, refl, out0);
             if (status != kfmOk) return status;
         } else {
             const Real* front = src + in0;
-            computeBlock(front, front + (refl - len), rows + out0);
+            computeBlock(front, front + (refl - len), w + out0);
         }
         in0 += shift;
         refl -= shiftBack;

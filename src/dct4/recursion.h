@@ -1,12 +1,13 @@
 // Sub-transforms of the input stage too long for one codelet. env7 splits a length a = d' m' (d'
 // its divisor): env9 transforms d' interleaved sub-sequences of m' values each, by codelet or by
-// another env7; env8 joins them. The env7 right below the input stage, the root, takes the scratch
-// in which all levels work, and its env8 writes the result to the work buffer.
+// another env7; env8 joins them. All levels work in the work buffer, in place.
 //
-// Three integers say which sub-transforms are meant: in0, refl and out0. Their first inputs are
-// src[in0 + t] and, once the input is mirrored at its end, src[in0 + refl - t], t = 0, step, ...
+// Three integers say which sub-transforms are meant: in0, refl and out0. Their inputs are
+// src[in0 + t] and, once the input is mirrored at its end, src[in0 + refl - t], t = 0, step, ...;
+// their results start at element out0 of the work buffer.
 #pragma once
 
+#include "dct4/codelets.h"
 #include "dct4/index_maps.h"
 
 namespace kfm::dct4 {
@@ -29,7 +30,7 @@ struct Env8 : Environment {
     std::int32_t rule;   // 1..5 for d' = 2, 4, ..., 32
     Ref<const EnvLambda<Real>> lambda;
     std::int32_t divisor, a, m, blockRows;                     // blockRows = m'/2, complex rows
-    std::int32_t rowStride, blockStride, tableStride, stride;  // in elements; the last of w
+    std::int32_t rowStride, blockStride, tableStride, stride;  // in elements
     std::int32_t len, root;
 
     static int chooseRule(int divisor);
@@ -38,10 +39,15 @@ struct Env8 : Environment {
     KfmStatus build();
     void del();
     void compute(Real* rows) const;
-    void computeRoot(const Real* rows, Real* w) const;
 
 private:
     void fillTable();
+
+    template <int d>
+    void join(Real* rows) const {
+        if (root != 0) twiddleStageRoot<Real, d>(rows, table, blockRows);
+        else twiddleStage<Real, d>(rows, table, blockRows);
+    }
 };
 
 template <class Real>
@@ -55,7 +61,7 @@ struct Env9 : Environment {
     void init(void* arena, const SplitShape& shape, int divisor);
     KfmStatus build();
     void del();
-    KfmStatus compute(const Real* src, Real* rows, int in0, int refl, int out0) const;
+    KfmStatus compute(const Real* src, Real* w, int in0, int refl, int out0) const;
 
 private:
     void computeBlock(const Real* front, const Real* back, Real* rows) const;
@@ -64,7 +70,7 @@ private:
 template <class Real>
 struct Env7 : Environment {
     Ref<EnvList> joining, splitting;   // the env8, the env9
-    Ref<Real> scratch;                 // of the root: room for `a` vectors; null otherwise
+    Ref<Real> scratch;                 // of the root, for odd lengths; null below
     std::int32_t rule;                 // 1
     std::int32_t a, divisor, step, len, d, root;
     Ref<const EnvLambda<Real>> lambda;
@@ -73,12 +79,7 @@ struct Env7 : Environment {
     void init(void* arena, const SplitShape& shape);
     KfmStatus build();
     void del();
-    // At the root `dst` is the work buffer. Below, it holds the rows of all levels; the result is
-    // at element out0.
-    KfmStatus compute(const Real* src, Real* dst, int in0, int refl, int out0) const;
-
-private:
-    KfmStatus computeRoot(const Real* src, Real* w, int in0, int refl) const;
+    KfmStatus compute(const Real* src, Real* w, int in0, int refl, int out0) const;
 };
 
 static_assert(sizeof(Env7<Kfm32f>) == 64 && sizeof(Env7<Kfm64f>) == 64);

@@ -1,6 +1,6 @@
-// The twiddle stage of a recursion. The products by the twiddle factors go to a buffer on the
-// stack first: rows that are a power of two apart are fetched once and in order, and the long
-// network that follows finds its input in the first cache.
+// The twiddle stage of a recursion. The rows it joins are a power of two apart and fall into the
+// same few sets of every cache, so they are fetched once, whole, and written once, whole: products
+// by the twiddle factors and results wait on the stack, in the first cache.
 #pragma once
 
 #include "dct4/codelet_frame.h"
@@ -12,85 +12,54 @@ struct TwiddleStageNetwork;
 template <class Real, int divisor>
 struct TwiddleStageRootNetwork;
 
-// Complex rows some distance apart, the real part before the imaginary part.
-template <class Real, int divisor>
-struct ComplexRowWriter {
-    Strided<Real, divisor> rows;
+inline constexpr std::ptrdiff_t complexRow = 2 * rowLength;   // the real part, then the imaginary
 
-    void store(int slot, VectorOf<Real> v) const {
-        storeAligned(rows[slot / 2] + slot % 2 * lanes<Real>, v);
-    }
-};
-
-// Result t of row p, at a recursion's root, belongs into the rows 4(M't + p) of w and the next; in
-// the upper half of t into as many from the other end.
-template <class Real, int divisor>
-struct MirroredRowWriter {
-    Strided<Real, divisor / 2> low;     // from row 4p upwards
-    Strided<Real, divisor / 2> high;    // from row 2m - 4p - 2, less half of the rows, downwards
-    std::ptrdiff_t rowDistance;
-
-    void store(int slot, VectorOf<Real> v) const {
-        const int t = slot / 2;
-        Real* pair = t < divisor / 2 ? low[t] : high[t - divisor / 2];
-        storeAligned(pair + slot % 2 * rowDistance, v);
-    }
-};
-
-// The product of one complex row and a pair in the lanes `at` and `at + 1` of `pairs`.
-template <int at, class Real>
-void multiply(const Real* row, VectorOf<Real> pairs, Real* product) {
+// One complex row times cosine and sine; the vectors of a column are `stride` elements apart.
+template <class Real>
+void multiplyRow(const Real* row, const Real* pair, Real* products, std::ptrdiff_t stride) {
     constexpr int L = lanes<Real>;
-    const VectorOf<Real> re = loadAligned(row), im = loadAligned(row + L);
-    const VectorOf<Real> c = everywhere<at>(pairs), s = everywhere<at + 1>(pairs);
-    storeAligned(product, sub(mul(re, c), mul(im, s)));
-    storeAligned(product + L, add(mul(re, s), mul(im, c)));
+    const VectorOf<Real> c = loadEverywhere(pair), s = loadEverywhere(pair + 1);
+#pragma GCC unroll 4
+    for (int column = 0; column < rowLength; column += L, products += stride) {
+        const VectorOf<Real> re = loadAligned(row + column);
+        const VectorOf<Real> im = loadAligned(row + rowLength + column);
+        storeAligned(products, sub(mul(re, c), mul(im, s)));
+        storeAligned(products + L, add(mul(re, s), mul(im, c)));
+    }
 }
 
-template <class Real, int divisor>
-void multiplyByTwiddles(const Real* row, std::ptrdiff_t distance, const Real* table,
-                        Real* products) {
-    constexpr int L = lanes<Real>;
-    storeAligned(products, loadAligned(row));
-    storeAligned(products + L, loadAligned(row + L));
-    if constexpr (L == 4)
-        multiply<2>(row + distance, loadAligned(table), products + 2 * L);
-    else
-        multiply<0>(row + distance, loadAligned(table + 2), products + 2 * L);
-    for (int s = 2; s < divisor; s += L / 2) {
-        const VectorOf<Real> pairs = loadAligned(table + 2 * s);
-        multiply<0>(row + s * distance, pairs, products + 2 * s * L);
-        if constexpr (L == 4)
-            multiply<2>(row + (s + 1) * distance, pairs, products + 2 * (s + 1) * L);
+template <class Real>
+void prefetchRow(const Real* row) {
+    constexpr int line = static_cast<int>(64 / sizeof(Real));
+    for (int i = 0; i < complexRow; i += line) __builtin_prefetch(row + i);
+}
+
+template <class Real, int divisor, class Network>
+void joinRows(Real* rows, const Real* table, int blockRows) {
+    constexpr int L = lanes<Real>, slots = 2 * divisor;
+    const std::ptrdiff_t distance = blockRows * complexRow;
+    alignas(64) Real products[slots * rowLength], results[slots * rowLength];
+    for (int p = 0; p < blockRows; ++p, rows += complexRow, table += slots) {
+        for (int s = 0; s < divisor; ++s) {
+            prefetchRow(rows + s * distance + complexRow);
+            multiplyRow(rows + s * distance, table + 2 * s, products + 2 * s * L, slots * L);
+        }
+        for (int column = 0; column < rowLength; column += L)
+            Network::run(RowReader<Real>{products + column * slots},
+                         RowWriter<Real>{results + column, rowLength});
+        for (int t = 0; t < divisor; ++t)
+            copyElements<Real, complexRow>(results + t * complexRow, rows + t * distance);
     }
 }
 
 template <class Real, int divisor>
 void twiddleStage(Real* rows, const Real* table, int blockRows) {
-    constexpr int L = lanes<Real>;
-    const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
-    alignas(16) Real products[2 * divisor * L];
-    for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
-        multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageNetwork<Real, divisor>::run(
-            RowReader<Real>{products}, ComplexRowWriter<Real, divisor>{{rows, distance}});
-    }
+    joinRows<Real, divisor, TwiddleStageNetwork<Real, divisor>>(rows, table, blockRows);
 }
 
 template <class Real, int divisor>
-void twiddleStageRoot(const Real* rows, const Real* table, int blockRows, Real* w, int d) {
-    constexpr int L = lanes<Real>;
-    const std::ptrdiff_t distance = std::ptrdiff_t(blockRows) * 2 * L;
-    const std::ptrdiff_t row = d, block = 4 * row * blockRows;
-    Real* high = w + block * (divisor / 2) - 2 * row;
-    alignas(16) Real products[2 * divisor * L];
-    for (int p = 0; p < blockRows; ++p, rows += 2 * L, table += 2 * divisor) {
-        multiplyByTwiddles<Real, divisor>(rows, distance, table, products);
-        TwiddleStageRootNetwork<Real, divisor>::run(
-            RowReader<Real>{products},
-            MirroredRowWriter<Real, divisor>{
-                {w + 4 * p * row, block}, {high - 4 * p * row, -block}, row});
-    }
+void twiddleStageRoot(Real* rows, const Real* table, int blockRows) {
+    joinRows<Real, divisor, TwiddleStageRootNetwork<Real, divisor>>(rows, table, blockRows);
 }
 
 }   // namespace kfm::dct4

@@ -63,7 +63,7 @@ class Dct4Walk {
 public:
     // `divisors` of the levels of the recursion below m = len/d, none where m <= 64.
     Dct4Walk(int len, int d, const std::vector<int>& divisors)
-        : len_(len), d_(d), work_(len), kernel_(len), rows_(divisors.empty() ? 0 : len / d * L) {
+        : len_(len), d_(d), work_(len), kernel_(len) {
         fillKernelTable(kernel_, len, d);
         int a = len / d;
         for (const int divisor : divisors) {
@@ -83,8 +83,7 @@ public:
                 dct4::inputStage<Real, m>(src, work_.data(), len_, d_);
             });
         else
-            for (int r = 0; r < d_; r += L)
-                split(0, src + r, src + (len_ - 1 - r), 2 * d_, rows_.data(), work_.data() + r);
+            split(0, src, src + (len_ - 1), 2 * d_, work_.data());
     }
 
     void runOutput(Real* dst) {
@@ -94,8 +93,6 @@ public:
     }
 
 private:
-    static constexpr int L = dct4::lanes<Real>;
-
     struct Level {
         int divisor, blockLength, blockRows;
         AlignedArray<Real> table;
@@ -106,30 +103,27 @@ private:
     };
 
     void split(std::size_t depth, const Real* front, const Real* back, std::ptrdiff_t step,
-               Real* rows, Real* w) {
+               Real* rows) {
         Level& level = levels_[depth];
         for (int s = 0; s < level.divisor; ++s) {
-            Real* block = rows + std::ptrdiff_t(s) * level.blockLength * L;
+            Real* block = rows + std::ptrdiff_t(s) * level.blockLength * dct4::rowLength;
+            const std::ptrdiff_t blockStep = step * level.divisor;
             if (depth + 1 < levels_.size())
-                split(depth + 1, front + s * step, back - s * step, step * level.divisor, block,
-                      w);
+                split(depth + 1, front + s * step, back - s * step, blockStep, block);
             else
                 withSize<2, 64>(level.blockLength, [&]<int m>() {
-                    dct4::inputBlock<Real, m>(front + s * step, back - s * step,
-                                              step * level.divisor, block);
+                    dct4::inputBlock<Real, m>(front + s * step, back - s * step, blockStep, block);
                 });
         }
         withSize<2, 32>(level.divisor, [&]<int divisor>() {
-            Real* table = level.table.data();
-            if (depth == 0)
-                dct4::twiddleStageRoot<Real, divisor>(rows, table, level.blockRows, w, d_);
-            else
-                dct4::twiddleStage<Real, divisor>(rows, table, level.blockRows);
+            (depth == 0 ? dct4::twiddleStageRoot<Real, divisor>
+                        : dct4::twiddleStage<Real, divisor>)(rows, level.table.data(),
+                                                             level.blockRows);
         });
     }
 
     int len_, d_;
-    AlignedArray<Real> work_, kernel_, rows_;
+    AlignedArray<Real> work_, kernel_;
     std::deque<Level> levels_;
 };
 

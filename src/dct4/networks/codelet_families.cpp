@@ -28,7 +28,7 @@ Graph inputGraph(int m, int lanes, std::vector<Ref> (*rows)(const std::vector<Co
     return g;
 }
 
-// Slots 2s and 2s+1: input s. At the root the upper half of the results is conjugated, as w has it.
+// Slots 2s and 2s+1: input s. At the root the upper half of the results is conjugated.
 Graph twiddleGraph(int divisor, int lanes, bool root) {
     Graph g(lanes);
     std::vector<Complex> z;
@@ -71,7 +71,7 @@ const Kind kinds[] = {
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), naturalRows); }},
     {"twiddleStage", "twiddle_frame.h", "R*, const R*, int",
      [](int divisor, bool wide) { return twiddleGraph(divisor, lanesOf(wide), false); }},
-    {"twiddleStageRoot", "twiddle_frame.h", "const R*, const R*, int, R*, int",
+    {"twiddleStageRoot", "twiddle_frame.h", "R*, const R*, int",
      [](int divisor, bool wide) { return twiddleGraph(divisor, lanesOf(wide), true); }},
     {"outputStage", "output_frame.h", "const R*, const R*, R*, int",
      [](int d, bool wide) { return outputGraph(d, lanesOf(wide)); }},
