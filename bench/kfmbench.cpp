@@ -1,4 +1,5 @@
-// Times the functions of the registry, each next to FFTW's best plan for the same transform.
+// Times the functions of the registry, each next to FFTW's best plan or a plain loop for the
+// same transform.
 #include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
@@ -17,7 +18,7 @@ namespace {
 struct Options {
     Selection selection;
     int batches = 100;
-    bool unaligned = false, inPlace = false, summary = false;
+    bool unaligned = false, inPlace = false, noBuffer = false, summary = false;
     std::string csv, peerFolder;
     int core = lastCore();
 };
@@ -30,6 +31,7 @@ void addOptions(CLI::App& app, Options& options) {
         ->check(CLI::Range(1, 100000))->capture_default_str();
     app.add_flag("--unaligned", options.unaligned, "start our arrays 8 bytes off alignment");
     app.add_flag("--in-place", options.inPlace, "let our destination be our source");
+    app.add_flag("--no-buffer", options.noBuffer, "let functions allocate their work buffers");
     app.add_option("--csv", options.csv, "write the CSV to this file");
     app.add_flag("--summary", options.summary, "print a summary; without --csv, instead of it");
     app.add_option("--fftw-folder", options.peerFolder, "folder of the FFTW libraries");
@@ -38,16 +40,32 @@ void addOptions(CLI::App& app, Options& options) {
 
 KfmStatus doNothing(const void*, void*, int) { return kfmOk; }
 
-std::function<void(long)> ours(const registry::Function& function, const Options& options) {
-    const auto transform = reinterpret_cast<Transform>(function.address);
-    const auto signals = std::make_shared<Signals>(
-        function.length, *registry::findElement(function.element), options.unaligned,
-        options.inPlace);
-    // In place every call transforms the last result, which must neither grow nor vanish.
-    const int flag = options.inPlace ? kfmScaleBySqrtN : kfmScaleNone;
-    if (transform(signals->source(), signals->destination(), flag) != kfmOk)
+// In place every call transforms the last result. Unscaled it grows to infinity, which costs
+// nothing, and never vanishes into denormal numbers, which would.
+template <class... Further>
+std::function<void(long)> repeatUnscaled(const registry::Function& function,
+                                         std::shared_ptr<const Signals> signals,
+                                         Further... further) {
+    const auto transform =
+        reinterpret_cast<KfmStatus (*)(const void*, void*, int, Further...)>(function.address);
+    if (transform(signals->source(), signals->destination(), kfmScaleNone, further...) != kfmOk)
         throw std::runtime_error(std::string(function.name) + " fails");
-    return repeatCall(transform, signals, flag);
+    return repeatCall(transform, signals, kfmScaleNone, further...);
+}
+
+std::function<void(long)> ours(const registry::Function& function, const Options& options) {
+    const registry::Family& family = *registry::findFamily(function.family);
+    const registry::Element& element = *registry::findElement(function.element);
+    const int samples = static_cast<int>(family.samples(function.length));
+    const auto signals = std::make_shared<Signals>(samples, element, options.unaligned,
+                                                   options.inPlace);
+    if (!family.byOrder) return repeatUnscaled(function, signals);
+    if (options.noBuffer) return repeatUnscaled(function, signals, static_cast<Kfm8u*>(nullptr));
+    // Twice the signal is more than any order asks for.
+    const std::shared_ptr<void> buffer(std::aligned_alloc(64, (2 * samples + 8) * sizeof(double)),
+                                       &std::free);
+    return [buffer, repeat = repeatUnscaled(function, signals, static_cast<Kfm8u*>(buffer.get()))](
+               long calls) { repeat(calls); };
 }
 
 // The clock takes its turns too: its rate may differ from one function to the next.
@@ -55,7 +73,9 @@ Result measure(const registry::Function& function, const Options& options) {
     Subject mine(ours(function, options)), cycle = cycleSubject();
     std::vector<Subject*> subjects = {&mine, &cycle};
     std::optional<Subject> peer;
-    if (auto repeat = peerOf(function)) subjects.push_back(&peer.emplace(std::move(repeat)));
+    const bool byOrder = registry::findFamily(function.family)->byOrder;
+    if (auto repeat = byOrder ? plainLoop(function) : fftwPlan(function))
+        subjects.push_back(&peer.emplace(std::move(repeat)));
     runInterleaved(subjects, options.batches);
     Result result{&function, mine.minimum(), mine.median(), {}, {}, cycle.minimum()};
     if (peer) result.peerNs = peer->minimum();
@@ -71,8 +91,12 @@ std::vector<Result> measureAll(const Options& options) {
             !options.selection.hasLength(function.length))
             continue;
         Result& result = results.emplace_back(measure(function, options));
-        const std::string kernels(registry::findFamily(function.family)->kernelSource);
+        const registry::Family& family = *registry::findFamily(function.family);
+        const std::string kernels(family.kernelSource);
         const auto row = counts.find({kernels, function.length, function.element});
+        if (family.byOrder)
+            result.counts = countsOfOrder(function.length,
+                                          *registry::findElement(function.element));
         if (row != counts.end()) result.counts = row->second;
     }
     return results;

@@ -4,10 +4,13 @@
 #include <dlfcn.h>
 #include <fftw3.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 #include "signals.h"
+#include "timer.h"
 
 namespace kfm::bench {
 namespace {
@@ -26,49 +29,110 @@ void find(void* library, const std::string& name, Address& address) {
     if (library) address = reinterpret_cast<Address>(dlsym(library, name.c_str()));
 }
 
-// The part of FFTW's interface in use, for one precision.
-template <class Plan, class Complex>
-struct Api {
-    Plan (*planDft)(int, Complex*, Complex*, int, unsigned) = nullptr;
-    void (*executeDft)(Plan, Complex*, Complex*) = nullptr;
+// The fastest of several plans, timed as everything here is.
+std::function<void(long)> fastest(const std::vector<std::function<void(long)>>& plans) {
+    std::vector<Subject> subjects(plans.begin(), plans.end());
+    std::vector<Subject*> inTurns;
+    for (Subject& subject : subjects) inTurns.push_back(&subject);
+    runInterleaved(inTurns, 20);
+    const auto best = std::ranges::min_element(subjects, {}, &Subject::minimum);
+    return plans[best - subjects.begin()];
+}
 
+// Whether a plan may overwrite its source. The inverse real DFT of some lengths is faster when it
+// may. What it leaves there is the next call's source: values that grow, which costs nothing.
+using SourceRules = std::vector<unsigned>;
+const SourceRules keepSource = {FFTW_PRESERVE_INPUT};
+const SourceRules anyRule = {FFTW_PRESERVE_INPUT, FFTW_DESTROY_INPUT};
+
+// The part of FFTW's interface in use, for one precision.
+template <class Plan, class Complex, class Real>
+class Api {
+public:
     Api(const std::string& libraryName, const std::string& prefix) {
         void* library = openLibrary(libraryName);
         find(library, prefix + "plan_dft_1d", planDft);
         find(library, prefix + "execute_dft", executeDft);
+        find(library, prefix + "plan_dft_r2c_1d", planForward);
+        find(library, prefix + "execute_dft_r2c", executeForward);
+        find(library, prefix + "plan_dft_c2r_1d", planInverse);
+        find(library, prefix + "execute_dft_c2r", executeInverse);
+        find(library, prefix + "plan_r2r_1d", planReal);
+        find(library, prefix + "execute_r2r", executeReal);
+        complete = planDft && executeDft && planForward && executeForward && planInverse &&
+                   executeInverse && planReal && executeReal;
     }
 
-    std::function<void(long)> complexDft(int length, const registry::Element& element,
-                                         bool inverse) const {
-        if (!planDft || !executeDft) return {};
-        const auto signals = std::make_shared<Signals>(length, element);
+    std::function<void(long)> like(const registry::Family& family, int length,
+                                   const registry::Element& element) const {
+        if (!complete) return {};
+        const auto complexPlan = [&](Complex* from, Complex* to, unsigned flags) {
+            return planDft(length, from, to, family.inverse() ? FFTW_BACKWARD : FFTW_FORWARD,
+                           flags);
+        };
+        const auto hartleyPlan = [&](Real* from, Real* to, unsigned flags) {
+            return planReal(length, from, to, FFTW_DHT, flags);
+        };
+        const auto forwardPlan = [&](Real* from, Complex* to, unsigned flags) {
+            return planForward(length, from, to, flags);
+        };
+        const auto inversePlan = [&](Complex* from, Real* to, unsigned flags) {
+            return planInverse(length, from, to, flags);
+        };
+        if (element.complex) return best(length, element, executeDft, complexPlan, keepSource);
+        if (family.name == "Hartley")
+            return best(length, element, executeReal, hartleyPlan, anyRule);
+        if (!family.name.starts_with("DFT")) return {};
+        return family.inverse() ? best(length, element, executeInverse, inversePlan, anyRule)
+                                : best(length, element, executeForward, forwardPlan, anyRule);
+    }
+
+private:
+    template <class Source, class Destination, class MakePlan>
+    static std::function<void(long)> best(int length, const registry::Element& element,
+                                          void (*execute)(Plan, Source*, Destination*),
+                                          MakePlan makePlan, const SourceRules& rules) {
         // Planning overwrites its arrays; the timed calls work on fresh ones.
         const Signals scratch(length, element);
-        const Plan plan = planDft(length, static_cast<Complex*>(scratch.source()),
-                                  static_cast<Complex*>(scratch.destination()),
-                                  inverse ? FFTW_BACKWARD : FFTW_FORWARD, FFTW_PATIENT);
-        return [signals, plan, execute = executeDft, batch = 0](long calls) mutable {
-            const int placement = batch++ % Signals::placements;
-            const auto source = static_cast<Complex*>(signals->source(placement));
-            const auto destination = static_cast<Complex*>(signals->destination(placement));
-            for (long i = 0; i < calls; ++i) execute(plan, source, destination);
-        };
+        std::vector<std::function<void(long)>> plans;
+        for (const unsigned rule : rules) {
+            const Plan plan =
+                makePlan(static_cast<Source*>(scratch.source()),
+                         static_cast<Destination*>(scratch.destination()), FFTW_PATIENT | rule);
+            if (plan == nullptr) continue;
+            const auto signals = std::make_shared<Signals>(length, element);
+            plans.push_back([=, batch = 0](long calls) mutable {
+                const int placement = batch++ % Signals::placements;
+                const auto source = static_cast<Source*>(signals->source(placement));
+                const auto destination = static_cast<Destination*>(signals->destination(placement));
+                for (long i = 0; i < calls; ++i) execute(plan, source, destination);
+            });
+        }
+        return plans.empty() ? std::function<void(long)>() : fastest(plans);
     }
+
+    Plan (*planDft)(int, Complex*, Complex*, int, unsigned) = nullptr;
+    void (*executeDft)(Plan, Complex*, Complex*) = nullptr;
+    Plan (*planForward)(int, Real*, Complex*, unsigned) = nullptr;
+    void (*executeForward)(Plan, Real*, Complex*) = nullptr;
+    Plan (*planInverse)(int, Complex*, Real*, unsigned) = nullptr;
+    void (*executeInverse)(Plan, Complex*, Real*) = nullptr;
+    Plan (*planReal)(int, Real*, Real*, fftw_r2r_kind, unsigned) = nullptr;
+    void (*executeReal)(Plan, Real*, Real*) = nullptr;
+    bool complete;
 };
 
 }   // namespace
 
 void setPeerFolder(const std::string& folder) { peerFolder = folder; }
 
-std::function<void(long)> peerOf(const registry::Function& function) {
-    static const Api<fftw_plan, fftw_complex> doubleApi("libfftw3.so.3", "fftw_");
-    static const Api<fftwf_plan, fftwf_complex> singleApi("libfftw3f.so.3", "fftwf_");
+std::function<void(long)> fftwPlan(const registry::Function& function) {
+    static const Api<fftw_plan, fftw_complex, double> doubleApi("libfftw3.so.3", "fftw_");
+    static const Api<fftwf_plan, fftwf_complex, float> singleApi("libfftw3f.so.3", "fftwf_");
     const registry::Element& element = *registry::findElement(function.element);
     const registry::Family& family = *registry::findFamily(function.family);
-    if (family.kernelSource != "DFT_CToC") return {};
-    if (element.doublePrecision)
-        return doubleApi.complexDft(function.length, element, family.inverse());
-    return singleApi.complexDft(function.length, element, family.inverse());
+    return element.doublePrecision ? doubleApi.like(family, function.length, element)
+                                   : singleApi.like(family, function.length, element);
 }
 
 }   // namespace kfm::bench

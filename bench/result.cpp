@@ -38,9 +38,11 @@ void summarise(std::ostream& out, const std::vector<const Result*>& group) {
         ++compared;
     }
     if (compared > 0) {
-        out << "  ours/FFTW: geometric mean " << std::exp(logarithms / compared) << " of "
+        const std::string peer =
+            registry::findFamily(group.front()->function->family)->byOrder ? "plain loop" : "FFTW";
+        out << "  ours/" << peer << ": geometric mean " << std::exp(logarithms / compared) << " of "
             << compared << " lengths, worst " << ratio.value << " at " << ratio.length
-            << "\n  slower than FFTW:";
+            << "\n  slower than " << peer << ':';
         for (const Result* result : group)
             if (result->ratio().value_or(0) > 1)
                 out << ' ' << result->function->length << " (" << *result->ratio() << ')';
@@ -69,7 +71,7 @@ std::optional<double> Result::boundRatio() const {
 }
 
 void writeCsv(std::ostream& out, const std::vector<Result>& results) {
-    out << "function,ns,median_ns,fftw_ns,ratio,additions,multiplies,shuffles,bound_ns,"
+    out << "function,ns,median_ns,peer_ns,ratio,additions,multiplies,shuffles,bound_ns,"
            "bound_ratio\n"
         << std::fixed << std::setprecision(3);
     for (const Result& result : results) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <random>
+#include <type_traits>
 
 #include "kfmgen.h"
 #include "registry/registry.h"
@@ -20,7 +21,9 @@ class Signals {
 public:
     Signals(int length, const registry::Element& element, bool unaligned = false,
             bool inPlace = false)
-        : bytes((length * element.bytes + lineBytes) / lineBytes * lineBytes),
+        // A half spectrum takes up to two reals more than the signal.
+        : bytes(((length + (element.complex ? 0 : 2)) * element.bytes + lineBytes) / lineBytes *
+                lineBytes),
           stride((2 * bytes + pageBytes / placements) / lineBytes * lineBytes),
           block(static_cast<std::byte*>(std::aligned_alloc(lineBytes, placements * stride)),
                 &std::free),
@@ -55,16 +58,19 @@ private:
     bool inPlace;
 };
 
-// Every fixed-length function, whatever its element types.
+// Every fixed-length function, whatever its element types, without and with a work buffer.
 using Transform = KfmStatus (*)(const void*, void*, int);
+using BufferedTransform = KfmStatus (*)(const void*, void*, int, Kfm8u*);
 
-inline std::function<void(long)> repeatCall(Transform transform,
-                                            std::shared_ptr<const Signals> signals, int flag) {
+template <class... Further>
+std::function<void(long)> repeatCall(KfmStatus (*transform)(const void*, void*, int, Further...),
+                                     std::shared_ptr<const Signals> signals, int flag,
+                                     std::type_identity_t<Further>... further) {
     return [=, batch = 0](long calls) mutable {
         const int placement = batch++ % Signals::placements;
         const void* source = signals->source(placement);
         void* destination = signals->destination(placement);
-        for (long i = 0; i < calls; ++i) transform(source, destination, flag);
+        for (long i = 0; i < calls; ++i) transform(source, destination, flag, further...);
     };
 }
 

@@ -12,21 +12,14 @@ constexpr std::size_t finalists = 4;
 
 }   // namespace
 
-double Contestant::time() const {
-    double sum = 0;
-    for (const bench::Subject& subject : subjects) sum += subject.minimum();
-    return sum;
-}
-
-int findFastest(std::vector<Contestant>& contestants, int incumbent, int firstBatches) {
+int findFastest(std::vector<bench::Subject>& contestants, int incumbent, int firstBatches) {
     std::vector<int> field(contestants.size());
     std::iota(field.begin(), field.end(), 0);
     for (int batches = firstBatches;; batches *= 2) {
         std::vector<bench::Subject*> subjects;
-        for (int i : field)
-            for (bench::Subject& subject : contestants[i].subjects) subjects.push_back(&subject);
+        for (int i : field) subjects.push_back(&contestants[i]);
         bench::runInterleaved(subjects, batches);
-        std::ranges::sort(field, {}, [&](int i) { return contestants[i].time(); });
+        std::ranges::sort(field, {}, [&](int i) { return contestants[i].minimum(); });
         if (field.size() <= finalists) break;
         // The incumbent stays to the end: a tie is decided on equally many batches.
         std::vector<int> next(field.begin(),
@@ -36,7 +29,7 @@ int findFastest(std::vector<Contestant>& contestants, int incumbent, int firstBa
         field = next;
     }
     std::vector<double> times(contestants.size(), std::numeric_limits<double>::infinity());
-    for (int i : field) times[i] = contestants[i].time();
+    for (int i : field) times[i] = contestants[i].minimum();
     return winner(times, incumbent);
 }
 

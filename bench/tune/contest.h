@@ -9,14 +9,8 @@
 
 namespace kfm::tune {
 
-// A contestant is timed as the sum of its subjects' minimums.
-struct Contestant {
-    std::vector<bench::Subject> subjects;
-    double time() const;
-};
-
 // Runs the contest and returns the index of the winner.
-int findFastest(std::vector<Contestant>& contestants, int incumbent, int firstBatches);
+int findFastest(std::vector<bench::Subject>& contestants, int incumbent, int firstBatches);
 
 // The choice by time. Within the tie margin of the fastest the incumbent wins (-1: there is none),
 // else the earliest: what is committed must not change without a gain.

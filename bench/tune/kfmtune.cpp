@@ -26,15 +26,13 @@ struct Options {
 void requireSameBits(const std::vector<Candidate>& candidates, const bench::Signals& signals,
                      std::size_t bytes) {
     const auto output = static_cast<char*>(signals.destination());
-    for (std::size_t f = 0; f < candidates[0].functions.size(); ++f) {
-        std::vector<char> expected;
-        for (const Candidate& candidate : candidates) {
-            std::memset(output, 0x99, bytes);
-            candidate.functions[f](signals.source(), output, kfmScaleNone);
-            if (expected.empty()) expected.assign(output, output + bytes);
-            if (std::memcmp(output, expected.data(), bytes) != 0)
-                throw std::runtime_error("schedule " + candidate.schedule + " changes results");
-        }
+    std::vector<char> expected;
+    for (const Candidate& candidate : candidates) {
+        std::memset(output, 0x99, bytes);
+        candidate.function(signals.source(), output, kfmScaleNone);
+        if (expected.empty()) expected.assign(output, output + bytes);
+        if (std::memcmp(output, expected.data(), bytes) != 0)
+            throw std::runtime_error("schedule " + candidate.schedule + " changes results");
     }
 }
 
@@ -47,15 +45,12 @@ int indexOf(const std::vector<Candidate>& candidates, const std::string& schedul
 std::string fastest(const std::vector<Candidate>& candidates, const std::string& current,
                     std::shared_ptr<const bench::Signals> signals, const Options& options) {
     const bench::PinnedToCore pinned(options.core);
-    std::vector<Contestant> contestants;
-    for (const Candidate& candidate : candidates) {
-        Contestant& contestant = contestants.emplace_back();
-        for (bench::Transform function : candidate.functions)
-            contestant.subjects.emplace_back(bench::repeatCall(function, signals, kfmScaleNone));
-    }
+    std::vector<bench::Subject> contestants;
+    for (const Candidate& candidate : candidates)
+        contestants.emplace_back(bench::repeatCall(candidate.function, signals, kfmScaleNone));
     const int incumbent = indexOf(candidates, current);
     const int winner = findFastest(contestants, incumbent, options.batches);
-    const auto times = [&](int i) { return contestants[i].time(); };
+    const auto times = [&](int i) { return contestants[i].minimum(); };
     std::printf("%-18s %8.2f ns, first candidate %8.2f", candidates[winner].schedule.c_str(),
                 times(winner), times(0));
     if (incumbent >= 0) std::printf(", before %8.2f", times(incumbent));
@@ -63,19 +58,14 @@ std::string fastest(const std::vector<Candidate>& candidates, const std::string&
     return candidates[winner].schedule;
 }
 
-// The selected kernels of the family's source. One kernel holds the functions of all families that
-// have the same source.
 std::vector<KernelSource> kernels(const registry::Family& family, const registry::Element& element,
                                   const bench::Selection& selection) {
     std::vector<KernelSource> result;
-    for (int length = family.first; length <= family.last; ++length) {
-        if (!selection.hasLength(length)) continue;
-        KernelSource& kernel = result.emplace_back(std::string(family.kernelSource),
-                                                   std::string(element.suffix), length);
-        for (const registry::Family& other : registry::families())
-            if (other.kernelSource == family.kernelSource)
-                kernel.functions.push_back(registry::functionName(other, length, element));
-    }
+    for (int length = family.first; length <= family.last; ++length)
+        if (selection.hasLength(length))
+            result.push_back({std::string(family.kernelSource), std::string(element.suffix), length,
+                              std::string(family.name),
+                              registry::functionName(family, length, element)});
     return result;
 }
 
@@ -96,8 +86,11 @@ void tuneAll(const Options& options) {
     const Workshop workshop(KFM_KERNELGEN, options.target, KFM_COMPILE_COMMANDS, KFM_WORK_FOLDER);
     std::set<std::string_view> seen;
     for (const registry::Family& family : registry::families()) {
+        // Kernels of orders are templates without schedules.
+        if (family.byOrder || !options.selection.hasFamily(family.name)) continue;
         if (!seen.insert(family.kernelSource).second) continue;
-        ScheduleTable table(options.sources / family.folder / "schedules.def");
+        ScheduleTable table(options.sources / family.folder /
+                            (std::string(family.kernelSource) + "_schedules.def"));
         for (const registry::Element* element : family.elements)
             if (options.selection.hasElement(element->suffix))
                 for (const KernelSource& kernel : kernels(family, *element, options.selection))
@@ -110,7 +103,8 @@ void tuneAll(const Options& options) {
 
 int main(int argc, char** argv) try {
     kfm::tune::Options options;
-    CLI::App app("Chooses each kernel's schedule by measurement and commits it to schedules.def.");
+    CLI::App app("Chooses each kernel's schedule by measurement and commits it to the table of schedules.");
+    options.selection.addFamily(app);
     options.selection.addElement(app);
     options.selection.addLengths(app);
     app.add_option("--target", options.target, "row of the table")->capture_default_str();

@@ -1,4 +1,4 @@
-// Reads and writes the rows of schedules.def.
+// Reads and writes the rows of a table of schedules.
 #include "schedule_table.h"
 
 #include <fstream>

@@ -1,4 +1,4 @@
-// The committed choice of schedules of one family folder: its schedules.def, as text rows
+// The committed choice of schedules of one kernel source: its _schedules.def, as text rows
 // KFM_SCHEDULE(target, length, element, schedule) below a comment that is kept as it stands.
 #pragma once
 

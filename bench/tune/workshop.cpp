@@ -52,11 +52,9 @@ Candidate load(const KernelSource& kernel, const std::string& schedule,
                const std::filesystem::path& object) {
     Candidate candidate{schedule, {dlopen(object.c_str(), RTLD_NOW | RTLD_LOCAL), &dlclose}, {}};
     if (!candidate.library) throw std::runtime_error(dlerror());
-    for (const std::string& name : kernel.functions) {
-        candidate.functions.push_back(
-            reinterpret_cast<bench::Transform>(dlsym(candidate.library.get(), name.c_str())));
-        if (!candidate.functions.back()) throw std::runtime_error(dlerror());
-    }
+    candidate.function = reinterpret_cast<bench::Transform>(
+        dlsym(candidate.library.get(), kernel.function.c_str()));
+    if (!candidate.function) throw std::runtime_error(dlerror());
     return candidate;
 }
 
@@ -94,7 +92,8 @@ std::string Workshop::path(std::size_t candidate, const char* extension) const {
 void Workshop::generate(const KernelSource& kernel) const {
     const std::string command = shellWord(kernelgen) + " kernel " + std::to_string(kernel.length) +
                                 " " + kernel.element + " --kernels " + kernel.source +
-                                " --target " + target + " --schedule ";
+                                " --target " + target + " --family " + kernel.family +
+                                " --schedule ";
     std::vector<std::string> commands;
     for (std::size_t i = 0; i < schedules.size(); ++i)
         commands.push_back(command + schedules[i] + " -o " + shellWord(path(i, ".cpp")));

@@ -11,19 +11,20 @@
 
 namespace kfm::tune {
 
-// What a kernel source file holds: "DFT_CToC", 16, "32fc" and its exported functions.
+// A kernel source file, "DFT_CToC", 16, "32fc", and the one of its functions that is timed: those
+// of other families share its schedule.
 struct KernelSource {
     std::string source, element;
     int length;
-    std::vector<std::string> functions;
+    std::string family, function;
 
     std::string stem() const;   // "DFT_CToC_16_32fc"
 };
 
 struct Candidate {
     std::string schedule;
-    std::shared_ptr<void> library;   // keeps the functions loaded
-    std::vector<bench::Transform> functions;
+    std::shared_ptr<void> library;   // keeps the function loaded
+    bench::Transform function;
 };
 
 class Workshop {

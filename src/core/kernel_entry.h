@@ -20,7 +20,8 @@ struct ScaleFactors {
     Real bySqrtN;
 };
 
-enum class Direction { forward, inverse };
+// A transform that is its own inverse is scaled by either flag.
+enum class Direction { forward, inverse, both };
 
 // The factor that `flag` selects, or null for a value that is no flag.
 template <Direction direction, class Real>
@@ -29,7 +30,7 @@ inline const Real* chooseScale(const ScaleFactors<Real>& factors, int flag) {
     if (flag == kfmScaleNone) return &factors.none;
     if (flag == kfmScaleBySqrtN) return &factors.bySqrtN;
     if (flag == kfmScaleFwdByN || flag == kfmScaleInvByN)
-        return flag == dividesByN ? &factors.byN : &factors.none;
+        return direction == Direction::both || flag == dividesByN ? &factors.byN : &factors.none;
     return nullptr;
 }
 

@@ -49,8 +49,8 @@ HalfSpectrum symmetricPairs(Graph& g, int n, std::span<const Ref> x) {
     const int half = (n - 1) / 2;
     std::vector<Ref> sum(half + 1), difference(half + 1);
     for (int j = 1; j <= half; ++j) {
-        sum[j] = g.add(x[j], x[n - j]);
-        difference[j] = g.sub(x[j], x[n - j]);
+        sum[j] = g.settle(g.add(x[j], x[n - j]), Border::module);
+        difference[j] = g.settle(g.sub(x[j], x[n - j]), Border::module);
     }
     HalfSpectrum spectrum(half + 1);
     for (int k = 0; k <= half; ++k) {
@@ -118,11 +118,19 @@ void acrossRows(Graph& g, const Plan& plan, const std::vector<Complex>& column, 
     }
 }
 
+// The first step of a factorised length: a transform of one row.
+HalfSpectrum rowDft(Graph& g, const Plan& plan, std::span<const Ref> x) {
+    HalfSpectrum row = realDft(g, plan, x);
+    for (Complex& value : row)
+        value = {g.settle(value.re, Border::module), g.settle(value.im, Border::module)};
+    return row;
+}
+
 // Good-Thomas: n = second*i + first*j on input, k = k1 (mod first), k2 (mod second) on output.
 HalfSpectrum primeFactor(Graph& g, const Plan& plan, std::span<const Ref> x) {
     const int a = plan.first().n, b = plan.second().n;
     std::vector<HalfSpectrum> rows(b);
-    for (int j = 0; j < b; ++j) rows[j] = realDft(g, plan.first(), strided(x, a * j, b, a));
+    for (int j = 0; j < b; ++j) rows[j] = rowDft(g, plan.first(), strided(x, a * j, b, a));
     HalfSpectrum spectrum(plan.n / 2 + 1);
     for (int k1 = 0; 2 * k1 <= a; ++k1) {
         std::vector<Complex> column(b);
@@ -154,7 +162,7 @@ void middleColumn(Graph& g, const Plan& plan, const std::vector<HalfSpectrum>& r
 HalfSpectrum cooleyTukey(Graph& g, const Plan& plan, std::span<const Ref> x) {
     const int a = plan.first().n, b = plan.second().n;
     std::vector<HalfSpectrum> rows(b);
-    for (int r = 0; r < b; ++r) rows[r] = realDft(g, plan.first(), strided(x, r, b, a));
+    for (int r = 0; r < b; ++r) rows[r] = rowDft(g, plan.first(), strided(x, r, b, a));
     HalfSpectrum spectrum(plan.n / 2 + 1);
     for (int k1 = 0; 2 * k1 < a; ++k1) {
         std::vector<Complex> column(b);
@@ -231,7 +239,9 @@ Complex scaleBy(Graph& g, Complex z, ComplexConstant c) {
 Complex rotate(Graph& g, Complex z, long numerator, long denominator, Sign sign) {
     const Constant c = cosine(numerator, denominator);
     const Constant s = sine(numerator, denominator);
-    return scaleBy(g, z, {c, sign == Sign::plus ? s : -s});
+    z = {g.settle(z.re, Border::rotation), g.settle(z.im, Border::rotation)};
+    z = scaleBy(g, z, {c, sign == Sign::plus ? s : -s});
+    return {g.settle(z.re, Border::rotation), g.settle(z.im, Border::rotation)};
 }
 
 HalfSpectrum realDft(Graph& g, const Plan& plan, std::span<const Ref> x) {
@@ -244,6 +254,7 @@ HalfSpectrum realDft(Graph& g, const Plan& plan, std::span<const Ref> x) {
     case Plan::Kind::factored5:
         return factoredFive(g, x);
     case Plan::Kind::powerOfTwo:
+    case Plan::Kind::evenOdd:
         return splitRadix(g, plan.n, x);
     case Plan::Kind::pfa:
         return primeFactor(g, plan, x);

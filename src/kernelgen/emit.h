@@ -3,6 +3,9 @@
 // The body is a template over the memory operations, so the aligned and the unaligned copy are
 // one text. Constants are whole vectors in one table whose address is hidden from the compiler:
 // a compiler that sees the values rebuilds them from scalars at twice the instructions.
+//
+// Kernels on complex elements move whole elements; kernels on real data move single ones, whose
+// places in a packed spectrum are the template parameter's to know: one text serves all layouts.
 #pragma once
 
 #include <string>
@@ -14,8 +17,13 @@
 
 namespace kfm::kernelgen {
 
-// A struct `name` with the constants and a static function transform<Memory>(src, dst, scale).
+// Which side of a kernel on real data is a packed spectrum.
+enum class Packed { neither, source, destination };
+
+// A struct `name` with the constants and a static function transform<Memory>(src, dst, scale),
+// where `scale` points to the factor.
 std::string emitTransform(const Graph& g, std::string_view name,
-                          const registry::Element& element, const ScheduleChoice& choice);
+                          const registry::Element& element, const ScheduleChoice& choice,
+                          Packed packed = Packed::neither);
 
 }   // namespace kfm::kernelgen

@@ -10,11 +10,13 @@
 
 namespace kfm::kernelgen {
 
-// `source` holds the input as a flat array of lanes: element e of a load is the
-// `lanesPerElement` values from e * lanesPerElement; an output element is laid out alike.
-template <class Real>
-std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const Real> source) {
-    using Lanes = std::vector<Real>;
+// The lanes of every node. `source` holds the input as a flat array of lanes: element e of a load is
+// the `lanesPerElement` values from e * lanesPerElement.
+// Nodes that are wide are computed in `Wide`, all others in `Real`.
+template <class Real, class Wide = Real>
+std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement,
+                                             std::span<const Real> source) {
+    using Lanes = std::vector<Wide>;
     const int lanes = g.lanes();
     std::vector<Lanes> values;
     const auto at = [&](Ref ref) -> const Lanes& { return values[ref.node()]; };
@@ -35,26 +37,44 @@ std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const 
                 v[i] = at(node.a)[i] - at(node.b)[i];
                 break;
             case Op::mul:
-                v[i] = static_cast<Real>(g.constant(node.constant)[i].value()) * at(node.a)[i];
+                v[i] = static_cast<Wide>(g.constant(node.constant)[i].value()) * at(node.a)[i];
                 break;
             case Op::select:
-                v[i] = node.pattern[i] < lanes ? at(node.a)[node.pattern[i]]
-                                               : at(node.b)[node.pattern[i] - lanes];
+                v[i] = node.pattern[i] < 0       ? Wide(0)
+                       : node.pattern[i] < lanes ? at(node.a)[node.pattern[i]]
+                                                 : at(node.b)[node.pattern[i] - lanes];
                 break;
             case Op::flip:
                 v[i] = node.pattern[i] ? -at(node.a)[i] : at(node.a)[i];
                 break;
+            case Op::subtract:
+                v[i] = node.pattern[i] ? Wide(0) - at(node.a)[i] : at(node.a)[i];
+                break;
+            case Op::widen:
+            case Op::round:
+                v[i] = at(node.a)[i];
+                break;
             }
+            // A single operation rounded twice, to Wide and to Real, is rounded as by Real alone.
+            if (!node.wide) v[i] = static_cast<Real>(v[i]);
         }
         values.push_back(std::move(v));
     }
+    return values;
+}
+
+// The outputs, laid out like the source.
+template <class Real, class Wide = Real>
+std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const Real> source) {
+    const int lanes = g.lanes();
+    const auto values = evaluateNodes<Real, Wide>(g, lanesPerElement, source);
     std::vector<Real> result(source.size());
     for (const Output& output : g.outputs()) {
         const std::array<int, 2> elements = {output.first, output.second};
         for (int i = 0; i < lanes; ++i) {
             const int element = elements[i / lanesPerElement];
             if (element < 0) continue;
-            const Real value = values[output.node][i];
+            const Real value = static_cast<Real>(values[output.node][i]);
             result[element * lanesPerElement + i % lanesPerElement] =
                 output.negated[i] ? -value : value;
         }

@@ -23,10 +23,18 @@ void forEachVariant(Visit visit) {
         for (const Element* element : family.elements) visit(family, *element);
 }
 
-// The pointers every function of an element type starts with.
-std::string signalParameters(const Element& element) {
+std::string lengthName(const Family& family) { return family.byOrder ? "order" : "length"; }
+
+std::string parameters(const Family& family, const Element& element, bool generic = false) {
     const std::string type(element.type);
-    return "const " + type + " *src, " + type + " *dst, ";
+    return "const " + type + " *src, " + type + " *dst, " +
+           (generic ? "int " + lengthName(family) + ", " : "") + "int flag" +
+           (family.byOrder ? ", Kfm8u *buffer" : "");
+}
+
+// What the parameters of a fixed-length function are called, to hand them on.
+std::string arguments(const Family& family) {
+    return std::string("src, dst, flag") + (family.byOrder ? ", buffer" : "");
 }
 
 std::string declaration(const std::string& name, const std::string& parameters) {
@@ -36,26 +44,25 @@ std::string declaration(const std::string& name, const std::string& parameters) 
 std::string familyDeclarations(const Family& family) {
     std::string text;
     for (const Element* element : family.elements) {
-        const std::string signals = signalParameters(*element);
         for (int length = family.first; length <= family.last; ++length)
             text += declaration(registry::functionName(family, length, *element),
-                                signals + "int flag");
+                                parameters(family, *element));
         text += declaration(registry::genericName(family, *element),
-                            signals + "int length, int flag");
+                            parameters(family, *element, true));
     }
     return text;
 }
 
 std::string genericEntry(const Family& family, const Element& element) {
-    const std::string type(element.type);
     const std::string table = std::string(family.name) + "_" + std::string(element.suffix);
-    std::string text = "static KfmStatus (*const " + table + "[])(const " + type + "*, " + type +
-                       "*, int) = {\n";
+    std::string text =
+        "static KfmStatus (*const " + table + "[])(" + parameters(family, element) + ") = {\n";
     for (int length = family.first; length <= family.last; ++length)
         text += "    " + registry::functionName(family, length, element) + ",\n";
     return text + "};\n\nextern \"C\" KfmStatus " + registry::genericName(family, element) + "(" +
-           signalParameters(element) + "int length, int flag) {\n    return kfm::callByLength(" +
-           table + ", " + std::to_string(family.first) + ", length, src, dst, flag);\n}\n\n";
+           parameters(family, element, true) + ") {\n    return kfm::callByLength(" + table + ", " +
+           std::to_string(family.first) + ", " + lengthName(family) + ", " + arguments(family) +
+           ");\n}\n\n";
 }
 
 std::string functionRow(const std::string& name, const Family& family, const Element& element,
@@ -66,6 +73,25 @@ std::string functionRow(const std::string& name, const Family& family, const Ele
 }
 
 }   // namespace
+
+std::string kernelFunctions(const Family& family, int length, const Element& element,
+                            const std::string& kernel) {
+    const std::string head = "(" + parameters(family, element) + ") {\n";
+    const auto run = [&](const std::string& memory) {
+        return "return kfm::runKernel<" + kernel + ", kfm::simd::" + memory +
+               (element.doublePrecision ? "Double" : "Single") + ">(" + arguments(family) + ");\n";
+    };
+    const std::string copy = registry::unalignedName(family, length, element);
+    const bool hasCopy = registry::hasUnalignedCopy(family, length, element);
+    std::string text;
+    if (hasCopy) text += "KfmStatus " + copy + head + "    " + run("Unaligned") + "}\n";
+    text += "KfmStatus " + registry::functionName(family, length, element) + head;
+    if (!registry::testsAlignment(family, length, element))
+        return text + "    " + run("Unaligned") + "}\n";
+    return text + "    if (kfm::misaligned(src) || kfm::misaligned(dst))\n        " +
+           (hasCopy ? "return " + copy + "(" + arguments(family) + ");\n" : run("Unaligned")) +
+           "    " + run("Aligned") + "}\n";
+}
 
 std::string symbolMap() {
     std::string text = "{\n  global:\n";

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,15 +17,17 @@ struct KernelFamily {
     std::string_view source;   // as in the registry: "DFT_CToC"
 
     // The graph of one transform, scale factor and memory operations left open. Throws for a
-    // target whose vectors the family has no lane mapping for.
+    // target whose vectors the family has no lane mapping for. Empty, as `choice` is, where kernels
+    // are templates and not written from graphs.
     std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph;
     // The factor tree and the lane mapping in words.
     std::function<std::string(int length, const registry::Element&)> describe;
     // The schedule on record.
     std::function<ScheduleChoice(int length, const registry::Element&, const Target&)> choice;
-    // The C++ source of all functions of one length and element type.
+    // The C++ source of the functions of one length and element type: those of all families with
+    // this source, or of one of them.
     std::function<std::string(int length, const registry::Element&, const Target&,
-                              const ScheduleChoice&)>
+                              const ScheduleChoice&, std::span<const registry::Family* const>)>
         emit;
 };
 

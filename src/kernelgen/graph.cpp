@@ -3,6 +3,7 @@
 //   a - b = -(b - a) where b - a exists already
 //   c*x + c*y = c*(x + y), which saves a multiplication (the one rewrite that moves a rounding)
 //   0*a = 0;  1*a = a;  (-c)*a = -(c*a);  c*(-a) = -(c*a);  c*(d*a) = (c*d)*a
+//   0 - (a - b) = b - a
 //   select of two negations is the negation of the select; selecting a operand's own lanes is it
 #include "kernelgen/graph.h"
 
@@ -31,7 +32,10 @@ LaneConstant product(const LaneConstant& c, const LaneConstant& d) {
 Ref Graph::intern(Node node) {
     const Key key{node.op, node.a, node.b, node.constant, node.first, node.second, node.pattern};
     const auto [found, inserted] = index_.try_emplace(key, static_cast<int>(nodes_.size()));
-    if (inserted) nodes_.push_back(std::move(node));
+    if (inserted) {
+        node.wide = computesWide(node);
+        nodes_.push_back(std::move(node));
+    }
     return Ref::toNode(found->second);
 }
 
@@ -42,8 +46,33 @@ int Graph::internConstant(const LaneConstant& c) {
     return found->second;
 }
 
+bool Graph::computesWide(const Node& node) const {
+    if (node.op == Op::load || node.op == Op::round) return false;
+    return node.op == Op::widen || wide(node.a) || wide(node.b);
+}
+
+Ref Graph::widened(Ref a) {
+    if (a.isZero() || wide(a)) return a;
+    const Ref magnitude = intern({.op = Op::widen, .a = a.magnitude()});
+    return a.negative() ? -magnitude : magnitude;
+}
+
+void Graph::matchPrecision(Ref& a, Ref& b) {
+    if (wide(a) == wide(b)) return;
+    a = widened(a);
+    b = widened(b);
+}
+
+Ref Graph::rounded(Ref a) {
+    if (a.isZero()) return a;
+    if (a.negative()) return -rounded(-a);
+    const bool already = node(a).op == Op::round;
+    if (already || !(arithmetic_.marking || wide(a))) return a;
+    return intern({.op = Op::round, .a = a});
+}
+
 bool Graph::sameFactor(Ref a, Ref b) const {
-    return node(a).op == Op::mul && node(b).op == Op::mul && node(a).constant == node(b).constant;
+    return arithmetic_.factoring && node(a).op == Op::mul && node(b).op == Op::mul && node(a).constant == node(b).constant;
 }
 
 Ref Graph::load(int first, int second) {
@@ -58,12 +87,25 @@ Ref Graph::add(Ref a, Ref b) {
     if (a.negative() && b.negative()) return -add(-a, -b);
     if (a.negative()) return difference(b, -a);
     if (b.negative()) return difference(a, -b);
-    if (sameFactor(a, b)) return mul(constants_[node(a).constant], add(node(a).a, node(b).a));
+    if (sameFactor(a, b)) return commonFactor(a, b, false);
+    matchPrecision(a, b);
     return intern({.op = Op::add, .a = std::min(a, b), .b = std::max(a, b)});
 }
 
+// c*x + c*y or c*x - c*y as one product; the sum is narrow where x and y are.
+Ref Graph::commonFactor(Ref a, Ref b, bool negative) {
+    const LaneConstant factor = constants_[node(a).constant];
+    const auto operand = [&](Ref product) {
+        const Ref x = node(product).a;
+        return node(x).op == Op::widen ? node(x).a : x;
+    };
+    const Ref x = operand(a), y = operand(b);
+    return mul(factor, negative ? sub(x, y) : add(x, y));
+}
+
 Ref Graph::difference(Ref a, Ref b) {
-    if (sameFactor(a, b)) return mul(constants_[node(a).constant], sub(node(a).a, node(b).a));
+    if (sameFactor(a, b)) return commonFactor(a, b, true);
+    matchPrecision(a, b);
     const auto reversed = index_.find({Op::sub, b, a, 0, -1, -1, {}});
     if (reversed != index_.end()) return -Ref::toNode(reversed->second);
     return intern({.op = Op::sub, .a = a, .b = b});
@@ -72,11 +114,16 @@ Ref Graph::difference(Ref a, Ref b) {
 Ref Graph::mul(const LaneConstant& c, Ref a) {
     if (a.isZero() || all(c, [](const Constant& lane) { return lane.isZero(); })) return {};
     if (a.negative()) return -mul(c, -a);
-    if (node(a).op == Op::mul) return mul(product(c, constants_[node(a).constant]), node(a).a);
+    if (arithmetic_.factoring && node(a).op == Op::mul)
+        return mul(product(c, constants_[node(a).constant]), node(a).a);
+    if (node(a).op == Op::widen && node(node(a).a).op == Op::mul) return mul(c, node(a).a);
     if (uniform(c)) {
         if (c.front() == Constant(1)) return a;
         if (c.front() < Constant(0)) return -mul(LaneConstant(lanes_, -c.front()), a);
     }
+    // Doubling is exact in either precision.
+    const bool doubling = uniform(c) && c.front() == Constant(2);
+    if (arithmetic_.mixed && !doubling) a = widened(a);
     return intern({.op = Op::mul, .a = a, .constant = internConstant(c)});
 }
 
@@ -97,6 +144,7 @@ Ref Graph::unsignedRef(Ref a) {
 Ref Graph::select(Ref a, Ref b, const LanePattern& pattern) {
     if (a.isZero() || b.isZero()) throw std::logic_error("select takes no zero");
     if (a.negative() && b.negative()) return -select(-a, -b, pattern);
+    matchPrecision(a, b);
     a = unsignedRef(a);
     b = unsignedRef(b);
     bool identity = true;
@@ -112,6 +160,18 @@ Ref Graph::flip(Ref a, const LanePattern& lanes) {
     if (a.negative())
         for (int& lane : mask) lane = 1 - lane;
     return intern({.op = Op::flip, .a = a.magnitude(), .pattern = mask});
+}
+
+Ref Graph::subtract(Ref a, const LanePattern& lanes) {
+    LanePattern mask = lanes;
+    if (a.negative())
+        for (int& lane : mask) lane = 1 - lane;
+    a = a.magnitude();
+    const auto isSet = [](int lane) { return lane != 0; };
+    if (std::ranges::none_of(mask, isSet)) return a;
+    if (std::ranges::all_of(mask, isSet) && node(a).op == Op::sub)
+        return intern({.op = Op::sub, .a = node(a).b, .b = node(a).a});
+    return intern({.op = Op::subtract, .a = a, .pattern = mask});
 }
 
 std::vector<int> Graph::liveNodes() const {

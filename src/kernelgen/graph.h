@@ -4,6 +4,11 @@
 // zero: negations and zeros never become nodes, so "hoisting" a sign is a matter of references.
 // The constructors simplify as they build; the complete list of rewrites is in graph.cpp. None of
 // them reassociates, so the bits of a result follow from the algorithm as written.
+//
+// In a graph of mixed precision a node is narrow (of the element type, single precision) or wide
+// (double precision): products are wide, and so is a sum with a wide operand, until a rounding
+// point makes it narrow again. Where the rounding points are is the algorithm's to say (settle) and
+// the graph's to choose.
 #pragma once
 
 #include <cstdint>
@@ -32,20 +37,42 @@ private:
     int id_ = 0;   // 0: zero; +-(node + 1)
 };
 
+// The places of an algorithm at which a value may be rounded to the element type.
+enum class Border : unsigned {
+    rotation = 1,   // after the product by a twiddle factor
+    module = 2,     // after an inner transform, and after the sums and differences it starts with
+    result = 4,     // before the last sums of a kernel
+};
+
+constexpr unsigned operator|(Border a, Border b) { return unsigned(a) | unsigned(b); }
+
+// How a graph computes.
+struct Arithmetic {
+    bool mixed = false;      // products are wide; else all nodes are of the element type
+    unsigned rounding = 0;   // the borders at which wide values are rounded
+    bool factoring = true;   // c*x + c*y = c*(x + y), c*(d*x) = (c*d)*x
+    bool marking = false;    // keep rounding points of narrow values too, for transposition
+
+    bool rounds(Border border) const { return (rounding & unsigned(border)) != 0; }
+};
+
 // One value per lane.
 using LaneConstant = std::vector<Constant>;
 
 // For each lane of a result the lane it is taken from: 0..L-1 of the first operand, L..2L-1 of
-// the second.
+// the second; -1 for zero.
 using LanePattern = std::vector<int>;
 
 enum class Op {
-    load,     // the source elements `first` and `second`; -1: the upper half is zero
-    add,      // a + b
-    sub,      // a - b
-    mul,      // constant * a
-    select,   // lanes of a and b by `pattern`
-    flip,     // a with the sign changed in the lanes whose pattern entry is 1
+    load,      // the source elements `first` and `second`; -1: the upper half is zero
+    add,       // a + b
+    sub,       // a - b
+    mul,       // constant * a
+    select,    // lanes of a and b by `pattern`
+    flip,      // a with the sign changed in the lanes whose pattern entry is 1
+    subtract,  // 0 - a in the lanes whose pattern entry is 1, a in the others
+    widen,     // a narrow value made wide
+    round,     // a wide value rounded to the element type
 };
 
 struct Node {
@@ -54,9 +81,10 @@ struct Node {
     int constant = 0;     // mul: index of the lane constant
     int first = -1, second = -1;
     LanePattern pattern = {};
+    bool wide = false;    // follows from the operation and its operands
 };
 
-// What a kernel writes: the elements `first` and `second` (-1: only the lower half) from a node,
+// What a kernel writes: the elements `first` and `second` (-1: that half is not stored) from a node,
 // with the sign changed in the lanes whose entry is 1; the scale factor takes the signs along.
 struct Output {
     int first, second;
@@ -66,9 +94,12 @@ struct Output {
 
 class Graph {
 public:
-    explicit Graph(int lanes) : lanes_(lanes) {}
+    explicit Graph(int lanes, Arithmetic arithmetic = {})
+        : lanes_(lanes), arithmetic_(arithmetic) {}
 
     int lanes() const { return lanes_; }
+    const Arithmetic& arithmetic() const { return arithmetic_; }
+    bool wide(Ref ref) const { return !ref.isZero() && node(ref).wide; }
     const std::vector<Node>& nodes() const { return nodes_; }
     const Node& node(Ref ref) const { return nodes_[ref.node()]; }
     const LaneConstant& constant(int index) const { return constants_[index]; }
@@ -82,6 +113,11 @@ public:
     Ref select(Ref a, Ref b, const LanePattern& pattern);
     Ref select(Ref a, const LanePattern& pattern) { return select(a, a, pattern); }
     Ref flip(Ref a, const LanePattern& lanes);
+    // 0 - a in some lanes: unlike a change of sign it never makes a negative zero.
+    Ref subtract(Ref a, const LanePattern& lanes);
+    // A rounding point, if the graph rounds at this border.
+    Ref settle(Ref a, Border border) { return arithmetic_.rounds(border) ? rounded(a) : a; }
+    Ref rounded(Ref a);
 
     void store(int first, int second, Ref value, LanePattern negated = {});
     const std::vector<Output>& outputs() const { return outputs_; }
@@ -90,13 +126,18 @@ public:
 
 private:
     Ref difference(Ref a, Ref b);
+    Ref commonFactor(Ref a, Ref b, bool negative);
     Ref unsignedRef(Ref a);
+    Ref widened(Ref a);
+    void matchPrecision(Ref& a, Ref& b);
+    bool computesWide(const Node& node) const;
     bool sameFactor(Ref a, Ref b) const;
     int internConstant(const LaneConstant& c);
     Ref intern(Node node);
 
     using Key = std::tuple<Op, Ref, Ref, int, int, int, LanePattern>;
     int lanes_;
+    Arithmetic arithmetic_;
     std::vector<Node> nodes_;
     std::map<Key, int> index_;
     std::vector<LaneConstant> constants_;

@@ -9,7 +9,10 @@
 
 #include "dct4/networks/codelet_families.h"
 #include "dft/complex/complex_kernels.h"
+#include "dft/real/real_kernels.h"
+#include "hartley/hartley_kernels.h"
 #include "kernelgen/report.h"
+#include "wht/wht_kernels.h"
 
 namespace kfm::kernelgen {
 namespace {
@@ -20,6 +23,10 @@ const std::vector<KernelFamily>& allFamilies() {
     static const std::vector<KernelFamily> families = [] {
         std::vector<KernelFamily> result = dct4::codeletFamilies();
         result.push_back(dft::complex::kernelFamily());
+        result.push_back(dft::real::forwardFamily());
+        result.push_back(dft::real::inverseFamily());
+        result.push_back(hartley::kernelFamily());
+        result.push_back(wht::kernelFamily());
         return result;
     }();
     return families;
@@ -33,6 +40,7 @@ constexpr std::array columns = {
     std::pair{"signChanges", &OperationCounts::signChanges},
     std::pair{"loads", &OperationCounts::loads},
     std::pair{"stores", &OperationCounts::stores},
+    std::pair{"conversions", &OperationCounts::conversions},
 };
 
 }   // namespace
@@ -44,11 +52,18 @@ const KernelFamily& kernelFamily(std::string_view source) {
 }
 
 std::string kernelSource(std::string_view source, int length, const Element& element,
-                         const Target& target, std::string_view choice) {
+                         const Target& target, std::string_view choice,
+                         std::string_view onlyFamily) {
     const KernelFamily& family = kernelFamily(source);
+    std::vector<const registry::Family*> members;
+    for (const registry::Family& member : registry::families())
+        if (member.kernelSource == source && (onlyFamily.empty() || onlyFamily == member.name))
+            members.push_back(&member);
     return family.emit(length, element, target,
-                       choice.empty() ? family.choice(length, element, target)
-                                      : ScheduleChoice::parse(choice));
+                       !family.choice   ? ScheduleChoice()
+                       : choice.empty() ? family.choice(length, element, target)
+                                        : ScheduleChoice::parse(choice),
+                       members);
 }
 
 std::string explain(std::string_view source, int length, const Element& element) {
@@ -56,6 +71,7 @@ std::string explain(std::string_view source, int length, const Element& element)
     std::ostringstream out;
     out << source << ' ' << length << ' ' << element.suffix << '\n'
         << "  factors          " << family.describe(length, element) << '\n';
+    if (!family.graph) return out.str();
     for (const Target& target : targets()) {
         const Graph graph = family.graph(length, element, target, false);
         const ScheduleChoice choice = family.choice(length, element, target);
@@ -74,6 +90,7 @@ std::string explain(std::string_view source, int length, const Element& element)
 std::string dump(std::string_view stage, std::string_view source, int length,
                  const Element& element, const Target& target) {
     const KernelFamily& family = kernelFamily(source);
+    if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no stages");
     const Graph graph = family.graph(length, element, target, false);
     const std::vector<int> scheduled = schedule(graph, family.choice(length, element, target));
     if (stage == "schedule") return dumpText(graph, scheduled);
@@ -92,7 +109,8 @@ std::string operationCountTable() {
     out << '\n';
     std::set<std::string_view> done;
     for (const registry::Family& family : registry::families()) {
-        if (!done.insert(family.kernelSource).second) continue;
+        const bool isNew = done.insert(family.kernelSource).second;
+        if (!isNew || !kernelFamily(family.kernelSource).graph) continue;
         for (const Element* element : family.elements)
             for (int length = family.first; length <= family.last; ++length) {
                 const OperationCounts counts = countOperations(

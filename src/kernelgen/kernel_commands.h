@@ -11,9 +11,11 @@ namespace kfm::kernelgen {
 // The family whose generated files are called `source`_<N>_<element>.cpp; throws for others.
 const KernelFamily& kernelFamily(std::string_view source);
 
-// The source of one kernel; an empty schedule takes the one on record.
+// The source of one kernel; an empty schedule takes the one on record, and a named family leaves
+// out the functions of the others with the same source.
 std::string kernelSource(std::string_view source, int length, const registry::Element& element,
-                         const Target& target, std::string_view schedule = {});
+                         const Target& target, std::string_view schedule = {},
+                         std::string_view family = {});
 
 // Factor tree, lane mapping, operation counts.
 std::string explain(std::string_view source, int length, const registry::Element& element);

@@ -170,7 +170,8 @@ void printDeclarations(const Arguments& arguments) {
 void printKernel(const Arguments& arguments) {
     const KernelName kernel(arguments);
     writeResult(arguments, kernelSource(kernel.source, kernel.length, *kernel.element,
-                                        target(arguments), arguments.option("--schedule", "")));
+                                        target(arguments), arguments.option("--schedule", ""),
+                                        arguments.option("--family", "")));
 }
 
 void printExplanation(const Arguments& arguments) {
@@ -201,7 +202,7 @@ struct Command {
 
 constexpr Command commands[] = {
     {"build", "--target <target> --output <folder>", "write all generated sources", build},
-    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [-o <file>]",
+    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [--family <name>] [-o <file>]",
      "write the source of one kernel", printKernel},
     {"explain", "<N> <element>", "factor tree, lane mapping and operation counts of a kernel",
      printExplanation},

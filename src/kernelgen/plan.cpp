@@ -40,6 +40,11 @@ Plan::Plan(int length, Kind planKind, std::vector<Plan> planParts)
 
 Plan factored5() { return Plan(5, Plan::Kind::factored5, {}); }
 
+Plan evenOdd(int n) {
+    if (n < 8 || !isPowerOfTwo(n)) refuse(n, "even and odd samples need a power of two");
+    return Plan(n, Plan::Kind::evenOdd, {});
+}
+
 Plan pfa(const Plan& first, const Plan& second) {
     const int n = first.n * second.n;
     if (std::gcd(first.n, second.n) != 1) refuse(n, "prime factors must be coprime");
@@ -78,6 +83,8 @@ std::string Plan::text() const {
         return length;
     case Kind::powerOfTwo:
         return length + " by split radix";
+    case Kind::evenOdd:
+        return length + " by even and odd samples";
     case Kind::factored5:
         return "factored 5";
     case Kind::pfa:

@@ -12,6 +12,7 @@ struct Plan {
         direct,      // 2, 4, or the symmetric pairs of an odd length
         factored5,   // the 5-point module with four products saved to three
         powerOfTwo,  // conjugate-pair split radix
+        evenOdd,     // the same, but even and odd samples side by side where there are two lanes
         pfa,         // Good-Thomas: first x second, coprime, no twiddle factors
         ct,          // Cooley-Tukey: first x second with twiddle factors between
         rader,       // a prime as a cyclic convolution of length n - 1
@@ -33,6 +34,7 @@ struct Plan {
 private:
     Plan(int length, Kind kind, std::vector<Plan> parts);
     friend Plan factored5();
+    friend Plan evenOdd(int);
     friend Plan pfa(const Plan&, const Plan&);
     friend Plan ct(const Plan&, const Plan&);
     friend Plan rader(const Plan&, int);
@@ -40,6 +42,8 @@ private:
 };
 
 Plan factored5();
+// A power of two from 8 up.
+Plan evenOdd(int n);
 // The transforms of length `first` are taken first, those of length `second` across them.
 Plan pfa(const Plan& first, const Plan& second);
 Plan ct(const Plan& first, const Plan& second);

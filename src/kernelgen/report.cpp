@@ -34,6 +34,14 @@ std::string label(const Graph& g, const Node& node) {
         out << " by";
         for (const int lane : node.pattern) out << ' ' << lane;
         break;
+    case Op::subtract:
+        out << "0 - " << operand(node.a) << " in lanes";
+        for (const int lane : node.pattern) out << ' ' << lane;
+        break;
+    case Op::widen:
+    case Op::round:
+        out << (node.op == Op::widen ? "widen " : "round ") << operand(node.a);
+        break;
     }
     return out.str();
 }
@@ -60,10 +68,55 @@ OperationCounts countOperations(const Graph& g) {
         case Op::flip:
             ++counts.signChanges;
             break;
+        case Op::subtract:
+            ++counts.additions;
+            break;
+        case Op::widen:
+        case Op::round:
+            ++counts.conversions;
+            break;
         }
     }
     counts.stores = static_cast<int>(g.outputs().size());
     return counts;
+}
+
+namespace {
+
+// The lanes of each node that an output depends on.
+std::vector<std::vector<char>> neededLanes(const Graph& g) {
+    std::vector<std::vector<char>> needed(g.nodes().size(), std::vector<char>(g.lanes()));
+    for (const Output& output : g.outputs()) {
+        if (output.first >= 0) needed[output.node].front() = 1;
+        if (output.second >= 0) needed[output.node].back() = 1;
+    }
+    for (int i = static_cast<int>(g.nodes().size()) - 1; i >= 0; --i) {
+        const Node& node = g.nodes()[i];
+        for (int lane = 0; lane < g.lanes(); ++lane) {
+            if (!needed[i][lane]) continue;
+            const int from = node.op == Op::select ? node.pattern[lane] : lane;
+            if (node.op == Op::select && from < 0) continue;
+            const bool second = node.op == Op::select && from >= g.lanes();
+            if (!node.a.isZero() && !second) needed[node.a.node()][from] = 1;
+            if (!node.b.isZero() && (second || node.op != Op::select))
+                needed[node.b.node()][from % g.lanes()] = 1;
+        }
+    }
+    return needed;
+}
+
+}   // namespace
+
+int countScalarProducts(const Graph& g) {
+    const auto needed = neededLanes(g);
+    int products = 0;
+    for (std::size_t i = 0; i < g.nodes().size(); ++i) {
+        const Node& node = g.nodes()[i];
+        if (node.op != Op::mul) continue;
+        for (int lane = 0; lane < g.lanes(); ++lane)
+            if (needed[i][lane] && !(g.constant(node.constant)[lane] == Constant(2))) ++products;
+    }
+    return products;
 }
 
 int countReloads(const Graph& g, const std::vector<int>& order, int registers) {

@@ -11,9 +11,13 @@ namespace kfm::kernelgen {
 // Vector instructions of one transform, the products by the scale factor not counted.
 struct OperationCounts {
     int additions = 0, multiplications = 0, shuffles = 0, signChanges = 0, loads = 0, stores = 0;
+    int conversions = 0;   // between single and double precision
 };
 
 OperationCounts countOperations(const Graph& g);
+
+// Scalar products by constants other than 2, lane by lane, of those that an output depends on.
+int countScalarProducts(const Graph& g);
 
 // How many values an order must fetch again with so many registers, when the register whose value
 // is needed latest is given up (L. Belady, 1966). Compilers need more.

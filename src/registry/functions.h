@@ -12,7 +12,7 @@ struct Function {
     const char* name;
     const char* family;    // registry name of the family
     const char* element;   // suffix of the element type
-    int length;            // 0 for the generic entry
+    int length;            // or order; 0 for the generic entry
     void (*address)();     // cast to the family's signature to call
 };
 

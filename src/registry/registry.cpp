@@ -33,10 +33,13 @@ const Element* findElement(std::string_view suffix) {
 std::span<const Family> families() {
     static const std::vector<Family> all = {
 #define KFM_FAMILY(name, folder, source, first, last, elements) \
-    {#name, #folder, #source, first, last, parseElements(#elements)},
+    {#name, #folder, #source, first, last, parseElements(#elements), false},
+#define KFM_ORDER_FAMILY(name, folder, source, first, last, elements) \
+    {#name, #folder, #source, first, last, parseElements(#elements), true},
 #define KFM_FUNCTION(name)
 #include "registry/families.def"
 #undef KFM_FAMILY
+#undef KFM_ORDER_FAMILY
 #undef KFM_FUNCTION
     };
     return all;
@@ -60,13 +63,16 @@ std::string unalignedName(const Family& family, int length, const Element& eleme
     return "owng" + functionName(family, length, element).substr(4) + "_unaligned";
 }
 
-bool testsAlignment(const Family&, int length, const Element& element) {
+bool testsAlignment(const Family& family, int length, const Element& element) {
+    if (family.byOrder) return length > (element.doublePrecision ? 2 : 3);
     return element.complex && (element.doublePrecision || length > 5);
 }
 
 bool hasUnalignedCopy(const Family& family, int length, const Element& element) {
-    return testsAlignment(family, length, element) && length > 4;
+    return testsAlignment(family, length, element) && length > (family.byOrder ? 3 : 4);
 }
+
+bool usesBuffer(const Family& family, int length) { return family.byOrder && length > 7; }
 
 std::vector<std::string> exportedNames() {
     std::vector<std::string> names;
@@ -78,9 +84,11 @@ std::vector<std::string> exportedNames() {
         for (const Element* element : family.elements)
             names.push_back(genericName(family, *element));
 #define KFM_FAMILY(name, folder, source, first, last, elements)
+#define KFM_ORDER_FAMILY(name, folder, source, first, last, elements)
 #define KFM_FUNCTION(name) names.push_back(#name);
 #include "registry/families.def"
 #undef KFM_FAMILY
+#undef KFM_ORDER_FAMILY
 #undef KFM_FUNCTION
     return names;
 }

@@ -3,6 +3,7 @@
 // tests and benchmarks all walk this registry.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,10 +23,15 @@ struct Family {
     std::string_view name;           // "DFTFwd_CToC"
     std::string_view folder;         // below src/, where its kernels are assembled
     std::string_view kernelSource;   // "DFT_CToC": stem of its generated files
-    int first, last;                 // lengths
+    int first, last;                 // lengths, or orders
     std::vector<const Element*> elements;
+    bool byOrder;   // members are orders, and a work buffer is the last argument
 
     bool inverse() const { return name.starts_with("DFTInv"); }
+    // Elements in the signal of a member.
+    std::size_t samples(int member) const {
+        return byOrder ? std::size_t{1} << member : static_cast<std::size_t>(member);
+    }
 };
 
 std::span<const Element> elements();
@@ -33,6 +39,8 @@ const Element* findElement(std::string_view suffix);
 
 std::span<const Family> families();
 const Family* findFamily(std::string_view name);
+
+// Wherever a length is asked for below, an order is meant in a family of orders.
 
 // "kfmgDFTFwd_CToC_16_32fc", "kfmgDFTFwd_CToC_32fc", "owngDFTFwd_CToC_16_32fc_unaligned".
 std::string functionName(const Family& family, int length, const Element& element);
@@ -43,6 +51,9 @@ std::string unalignedName(const Family& family, int length, const Element& eleme
 // function of its own.
 bool testsAlignment(const Family& family, int length, const Element& element);
 bool hasUnalignedCopy(const Family& family, int length, const Element& element);
+
+// Whether the function stages its work in the buffer, which it allocates where the caller has none.
+bool usesBuffer(const Family& family, int length);
 
 // Every exported name: the fixed lengths of each family and element type in order, then the
 // generic entries, then the functions outside families.

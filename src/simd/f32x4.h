@@ -45,8 +45,19 @@ inline f32x4 select(f32x4 a, f32x4 b) {
     }
 }
 
-// Two neighbouring elements move as a whole vector, others by halves.
+// Two real elements in the low lanes, zeros in the others.
+struct HalfSingle {
+    static f32x4 load(const Kfm32f* p) {
+        return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+    }
+    static void store(Kfm32f* p, f32x4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+};
+
+// Two neighbouring complex elements move as a whole vector, others by halves; four real ones as a
+// whole vector.
 struct AlignedSingle {
+    static f32x4 load(const Kfm32f* p) { return _mm_load_ps(p); }
+    static void store(Kfm32f* p, f32x4 v) { _mm_store_ps(p, v); }
     static f32x4 loadPair(const Kfm32fc* p) {
         return _mm_load_ps(reinterpret_cast<const float*>(p));
     }
@@ -54,19 +65,19 @@ struct AlignedSingle {
 };
 
 struct UnalignedSingle {
+    static f32x4 load(const Kfm32f* p) { return _mm_loadu_ps(p); }
+    static void store(Kfm32f* p, f32x4 v) { _mm_storeu_ps(p, v); }
     static f32x4 loadPair(const Kfm32fc* p) {
         return _mm_loadu_ps(reinterpret_cast<const float*>(p));
     }
     static void storePair(Kfm32fc* p, f32x4 v) { _mm_storeu_ps(reinterpret_cast<float*>(p), v); }
 };
 
-inline f32x4 loadLow(const Kfm32fc* p) {
-    return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
-}
+inline f32x4 loadLow(const Kfm32fc* p) { return HalfSingle::load(&p->re); }
 inline f32x4 loadHalves(const Kfm32fc* low, const Kfm32fc* high) {
     return _mm_loadh_pi(loadLow(low), reinterpret_cast<const __m64*>(high));
 }
-inline void storeLow(Kfm32fc* p, f32x4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+inline void storeLow(Kfm32fc* p, f32x4 v) { HalfSingle::store(&p->re, v); }
 inline void storeHalves(Kfm32fc* low, Kfm32fc* high, f32x4 v) {
     _mm_storel_pi(reinterpret_cast<__m64*>(low), v);
     _mm_storeh_pi(reinterpret_cast<__m64*>(high), v);

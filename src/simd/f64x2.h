@@ -1,4 +1,4 @@
-// Two double-precision lanes: one complex element.
+// Two double-precision lanes: one complex element, or two real ones.
 #pragma once
 
 #include <emmintrin.h>
@@ -19,32 +19,46 @@ inline f64x2 mul(f64x2 a, f64x2 b) { return _mm_mul_pd(a, b); }
 // Changes the sign of the lanes in which the mask holds -0.0.
 inline f64x2 flip(f64x2 a, f64x2 mask) { return _mm_xor_pd(a, mask); }
 inline f64x2 broadcast(const DoublePair* value) { return _mm_load_pd(&value->low); }
+inline f64x2 broadcast(const double* value) { return _mm_load1_pd(value); }
 inline f64x2 constant(const double* table, int index) { return _mm_load_pd(table + 2 * index); }
 inline void pin(f64x2& a) { asm("" : "+x"(a)); }
 
-// The lanes i0, i1 of a (0, 1) and b (2, 3).
+inline f64x2 subtractFromZero(f64x2 a) { return _mm_sub_pd(_mm_setzero_pd(), a); }
+
+// The lanes i0, i1 of a (0, 1) and b (2, 3); -1: zero.
 template <int i0, int i1>
 inline f64x2 select(f64x2 a, f64x2 b) {
-    static_assert(i0 < 2 || i1 > 1, "the operands are in the order of the lanes");
     const f64x2 first = i0 < 2 ? a : b, second = i1 < 2 ? a : b;
-    return _mm_shuffle_pd(first, second, (i0 & 1) | (i1 & 1) << 1);
+    if constexpr (i1 >= 0) return _mm_shuffle_pd(first, second, (i0 & 1) | (i1 & 1) << 1);
+    else if constexpr (i0 % 2 == 1) return _mm_unpackhi_pd(first, _mm_setzero_pd());
+    else return _mm_castsi128_pd(_mm_move_epi64(_mm_castpd_si128(first)));
 }
 
+// Single elements.
+inline f64x2 loadLow(const double* p) { return _mm_load_sd(p); }
+inline f64x2 loadHalves(const double* low, const double* high) {
+    return _mm_loadh_pd(_mm_load_sd(low), high);
+}
+inline void storeLow(double* p, f64x2 v) { _mm_storel_pd(p, v); }
+inline void storeHigh(double* p, f64x2 v) { _mm_storeh_pd(p, v); }
+inline void storeHalves(double* low, double* high, f64x2 v) {
+    storeLow(low, v);
+    storeHigh(high, v);
+}
+
+// A complex element at an odd address moves by halves, two real ones as a whole.
 struct AlignedDouble {
+    static f64x2 load(const Kfm64f* p) { return _mm_load_pd(p); }
+    static void store(Kfm64f* p, f64x2 v) { _mm_store_pd(p, v); }
     static f64x2 load(const Kfm64fc* p) { return _mm_load_pd(reinterpret_cast<const double*>(p)); }
     static void store(Kfm64fc* p, f64x2 v) { _mm_store_pd(reinterpret_cast<double*>(p), v); }
 };
 
 struct UnalignedDouble {
-    static f64x2 load(const Kfm64fc* p) {
-        const double* halves = reinterpret_cast<const double*>(p);
-        return _mm_loadh_pd(_mm_load_sd(halves), halves + 1);
-    }
-    static void store(Kfm64fc* p, f64x2 v) {
-        double* halves = reinterpret_cast<double*>(p);
-        _mm_storel_pd(halves, v);
-        _mm_storeh_pd(halves + 1, v);
-    }
+    static f64x2 load(const Kfm64f* p) { return _mm_loadu_pd(p); }
+    static void store(Kfm64f* p, f64x2 v) { _mm_storeu_pd(p, v); }
+    static f64x2 load(const Kfm64fc* p) { return loadHalves(&p->re, &p->im); }
+    static void store(Kfm64fc* p, f64x2 v) { storeHalves(&p->re, &p->im, v); }
 };
 
 }   // namespace kfm::simd

@@ -2,10 +2,9 @@
 // doubles are made of. A scalar is a vector of one lane.
 #pragma once
 
-#include <concepts>
-
 #include "simd/f32x4.h"
 #include "simd/f64x2.h"
+#include "simd/scalar.h"
 
 namespace kfm::simd {
 
@@ -60,17 +59,5 @@ inline void transpose(f64x2 (&rows)[2]) {
     rows[0] = select<0, 2>(first, rows[1]);
     rows[1] = select<1, 3>(first, rows[1]);
 }
-
-template <class Real>
-concept Scalar = std::same_as<Real, float> || std::same_as<Real, double>;
-
-template <Scalar Real>
-Real add(Real a, Real b) { return a + b; }
-template <Scalar Real>
-Real sub(Real a, Real b) { return a - b; }
-template <Scalar Real>
-Real mul(Real a, Real b) { return a * b; }
-template <Scalar Real>
-void pin(Real& a) { asm("" : "+x"(a)); }
 
 }   // namespace kfm::simd

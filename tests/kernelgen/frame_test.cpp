@@ -5,14 +5,20 @@
 
 #include <stdexcept>
 
+#include "registry/registry.h"
+
 namespace kfm::tests {
 namespace {
 
 // A header as an editor may leave it: declarations gone stale, text of people around them.
 std::string staleHeader() {
-    return "/* forward */\n/* declarations: DFTFwd_CToC */\nint old(void);\n"
-           "/* end of declarations */\n/* inverse */\n/* declarations: DFTInv_CToC */\n"
-           "/* end of declarations */\n/* the end */\n";
+    std::string text = "/* forward */\n/* declarations: DFTFwd_CToC */\nint old(void);\n"
+                       "/* end of declarations */\n/* inverse */\n";
+    for (const registry::Family& family : registry::families())
+        if (family.name != "DFTFwd_CToC")
+            text += "/* declarations: " + std::string(family.name) + " */\n" +
+                    "/* end of declarations */\n";
+    return text + "/* the end */\n";
 }
 
 TEST(Frame, RenewsDeclarationsAndKeepsTheTextAround) {
@@ -23,6 +29,8 @@ TEST(Frame, RenewsDeclarationsAndKeepsTheTextAround) {
                                    "Kfm32fc *dst, int flag);\n"));
     EXPECT_NE(header.find("(const Kfm64fc *src, Kfm64fc *dst, int length, int flag);\n"
                           "/* end of declarations */\n/* inverse */\n"),
+              std::string::npos);
+    EXPECT_NE(header.find("(const Kfm64f *src, Kfm64f *dst, int order, int flag, Kfm8u *buffer);\n"),
               std::string::npos);
     EXPECT_TRUE(header.ends_with("/* the end */\n"));
     EXPECT_EQ(kernelgen::withDeclarations(header), header);

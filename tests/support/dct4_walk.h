@@ -2,22 +2,15 @@
 // in which a transform calls them.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <deque>
 #include <vector>
 
 #include "dct4/codelets.h"
+#include "support/dct4_definition.h"
 
 namespace kfm::tests {
-
-inline long double cosPi(long double x) {
-    return std::cos(3.141592653589793238462643383279502884L * x);
-}
-inline long double sinPi(long double x) {
-    return std::sin(3.141592653589793238462643383279502884L * x);
-}
 
 // Calls body.operator()<size>() for a power of two from `first` to `last`.
 template <int first, int last>

@@ -37,6 +37,13 @@ Signal impulse(std::size_t reals, std::size_t at, double value) {
     return signal;
 }
 
+std::vector<std::size_t> positions(const Transform& transform) {
+    const std::size_t reals = transform.sourceReals(), step = reals / 128 | 1;
+    std::vector<std::size_t> result;
+    for (std::size_t at = 0; at < reals; at += step) result.push_back(at);
+    return result;
+}
+
 Bytes encode(const Signal& signal, const Transform& transform) {
     Bytes bytes(signal.size() * transform.realBytes());
     if (transform.element->doublePrecision) {

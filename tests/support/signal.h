@@ -30,6 +30,10 @@ std::uint64_t testSeed();
 Signal randomSignal(const Transform& transform, Random& random);
 Signal impulse(std::size_t reals, std::size_t at, double value = 1);
 
+// Where to put an impulse: everywhere in a short signal; in a long one at places so far apart by an
+// odd step that they meet both values of every bit of the index.
+std::vector<std::size_t> positions(const Transform& transform);
+
 Bytes encode(const Signal& signal, const Transform& transform);
 Signal decode(const void* data, std::size_t reals, const Transform& transform);
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <stdexcept>
 
 #include "support/fault.h"
 
@@ -17,7 +16,8 @@ std::vector<Transform> collect(bool generic) {
             function.family ? registry::findFamily(function.family) : nullptr;
         if (!family || (function.length == 0) != generic) continue;
         const registry::Element* element = registry::findElement(function.element);
-        result.push_back({&function, family, element, generic ? family->last : function.length});
+        const int member = generic ? family->last : function.length;
+        result.push_back({&function, family, element, static_cast<int>(family->samples(member))});
     }
     return result;
 }
@@ -26,13 +26,16 @@ std::vector<Transform> collect(bool generic) {
 
 std::string Transform::name() const { return function->name + std::strlen("kfmg"); }
 
-std::size_t Transform::sourceReals() const {
-    if (!family->name.ends_with("_CToC"))
-        throw std::logic_error("sizes of " + std::string(family->name) + " are not known");
-    return 2 * static_cast<std::size_t>(length);
+bool Transform::reads(std::size_t i) const {
+    const std::vector<Slot> spectrum = slots(source(), length);
+    return spectrum.empty() || !spectrum[i].alwaysZero(length);
 }
 
-std::size_t Transform::destinationReals() const { return sourceReals(); }
+std::size_t Transform::readBytes() const {
+    std::size_t count = sourceReals();
+    while (!reads(count - 1)) --count;
+    return count * realBytes();
+}
 
 std::ostream& operator<<(std::ostream& out, const Transform& transform) {
     return out << transform.name();
@@ -51,18 +54,31 @@ const std::vector<Transform>& genericTransforms() {
 const Transform* findTransform(std::string_view family, int length, std::string_view element) {
     const auto& all = fixedTransforms();
     const auto found = std::ranges::find_if(all, [&](const Transform& transform) {
-        return transform.family->name == family && transform.length == length &&
+        return transform.family->name == family && transform.function->length == length &&
                transform.element->suffix == element;
     });
     return found == all.end() ? nullptr : &*found;
 }
 
+namespace {
+
 // Pointers to any element type are passed alike, so one signature serves all element types.
+template <class... Numbers>
+KfmStatus callAddress(const Transform& transform, const void* source, void* destination,
+                      Numbers... numbers) {
+    void (*const address)() = transform.function->address;
+    if (!transform.family->byOrder)
+        return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers...)>(address)(
+            source, destination, numbers...);
+    return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers..., Kfm8u*)>(address)(
+        source, destination, numbers..., nullptr);
+}
+
+}   // namespace
+
 KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag) {
-    using Signature = KfmStatus (*)(const void*, void*, int);
-    const auto function = reinterpret_cast<Signature>(fixed.function->address);
     KfmStatus status = crashed;
-    EXPECT_TRUE(survives([&] { status = function(source, destination, flag); }))
+    EXPECT_TRUE(survives([&] { status = callAddress(fixed, source, destination, flag); }))
         << fixed << " crashed: flag " << flag << ", source " << source << ", destination "
         << destination;
     return status;
@@ -70,10 +86,8 @@ KfmStatus call(const Transform& fixed, const void* source, void* destination, in
 
 KfmStatus call(const Transform& generic, const void* source, void* destination, int length,
                int flag) {
-    using Signature = KfmStatus (*)(const void*, void*, int, int);
-    const auto function = reinterpret_cast<Signature>(generic.function->address);
     KfmStatus status = crashed;
-    EXPECT_TRUE(survives([&] { status = function(source, destination, length, flag); }))
+    EXPECT_TRUE(survives([&] { status = callAddress(generic, source, destination, length, flag); }))
         << generic << " crashed: length " << length << ", flag " << flag;
     return status;
 }

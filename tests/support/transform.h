@@ -15,6 +15,7 @@
 #include "kfmgen.h"
 #include "registry/functions.h"
 #include "registry/registry.h"
+#include "support/packed_spectrum.h"
 
 namespace kfm::tests {
 
@@ -22,14 +23,27 @@ struct Transform {
     const registry::Function* function;
     const registry::Family* family;
     const registry::Element* element;
-    int length;   // of the fixed function; for a generic entry the longest one
+    int length;   // of the fixed function's signals; for a generic entry the longest one
 
     std::string name() const;   // "DFTFwd_CToC_16_32fc"
     std::size_t realBytes() const { return element->doublePrecision ? 8 : 4; }
-    std::size_t sourceReals() const;
-    std::size_t destinationReals() const;
+    bool inverse() const { return family->inverse(); }
+    bool hartley() const { return family->name == "Hartley"; }
+    bool walshHadamard() const { return family->name == "WHT"; }
+    bool selfInverse() const { return hartley() || walshHadamard(); }
+    Content source() const { return contentsOf(family->name).source; }
+    Content destination() const { return contentsOf(family->name).destination; }
+    std::size_t sourceReals() const { return reals(source(), length); }
+    std::size_t destinationReals() const { return reals(destination(), length); }
+    bool reads(std::size_t i) const;   // whether element i of the source matters
+    // Up to the last real that is read: the array may end there.
+    std::size_t readBytes() const;
     std::size_t sourceBytes() const { return sourceReals() * realBytes(); }
     std::size_t destinationBytes() const { return destinationReals() * realBytes(); }
+    // From one address that is served to the next.
+    std::size_t addressStep() const {
+        return element->complex || walshHadamard() ? 1 : realBytes();
+    }
 };
 
 std::ostream& operator<<(std::ostream& out, const Transform& transform);
@@ -37,13 +51,14 @@ std::ostream& operator<<(std::ostream& out, const Transform& transform);
 const std::vector<Transform>& fixedTransforms();
 const std::vector<Transform>& genericTransforms();
 
-// The fixed function of another family or length, or null when the registry has none.
+// The fixed function of another family or length (or order), or null when the registry has none.
 const Transform* findTransform(std::string_view family, int length, std::string_view element);
 
 inline constexpr std::array<int, 4> allFlags = {kfmScaleFwdByN, kfmScaleInvByN, kfmScaleBySqrtN,
                                                 kfmScaleNone};
 
-// A call that faults counts as a failure of the running test and returns `crashed`.
+// A call that faults counts as a failure of the running test and returns `crashed`. Where there may
+// be a work buffer, none is passed.
 inline constexpr KfmStatus crashed = 0x7fff;
 KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag);
 KfmStatus call(const Transform& generic, const void* source, void* destination, int length,

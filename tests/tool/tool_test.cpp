@@ -75,6 +75,58 @@ TEST_F(Transform, InverseReadsForwardOutputBack) {
     }
 }
 
+TEST_F(Transform, RealDftIsLabelledByBin) {
+    for (const char* options : {"--layout ccs", "--family DFTFwd --layout pack",
+                                "--family DFTFwd_RToPerm", "--layout perm --precision double"})
+        EXPECT_EQ(run(std::string("transform --length 4 ") + options, "1\n2\n3\n4\n5\n").out,
+                  "frame,bin,re,im\n"
+                  "0,0,10,0\n0,1,-2,2\n0,2,-2,0\n"
+                  "1,0,5,0\n1,1,5,0\n1,2,5,0\n")
+            << options;
+}
+
+TEST_F(Transform, LayoutsGiveTheSameBinsAndTakeThemBack) {
+    const std::string samples = "3\n1\n-4\n1\n5\n-9\n2\n6\n";
+    for (int length = 2; length <= 9; ++length) {
+        const std::string options = "transform --length " + std::to_string(length) + " --layout ";
+        const std::string spectrum = run(options + "ccs", samples).out;
+        const std::string signal = run(options + "ccs --family DFTInv", spectrum).out;
+        EXPECT_TRUE(signal.starts_with("frame,index,value\n0,0,")) << signal;
+        for (const std::string layout : {"pack", "perm"}) {
+            EXPECT_EQ(run(options + layout, samples).out, spectrum) << layout << length;
+            EXPECT_EQ(run(options + layout + " --family DFTInv", spectrum).out, signal)
+                << layout << length;
+        }
+    }
+    const std::string restored = "frame,index,value\n0,0,3\n0,1,1\n0,2,-4\n0,3,1\n"
+                                 "1,0,5\n1,1,-9\n1,2,2\n1,3,6\n";
+    const std::string spectrum = run("transform --length 4 --layout perm", samples).out;
+    EXPECT_EQ(run("transform --length 4 --layout pack --family DFTInv --flag inv-by-n", spectrum).out,
+              restored);
+}
+
+TEST_F(Transform, HartleyReadsItsOwnOutput) {
+    const std::string options = "transform --family Hartley --length 2 --flag ";
+    const std::string there = run(options + "none", "1\n2\n").out;
+    EXPECT_EQ(there, "frame,index,value\n0,0,3\n0,1,-1\n");
+    EXPECT_EQ(run(options + "fwd-by-n", there).out, "frame,index,value\n0,0,1\n0,1,2\n");
+}
+
+TEST_F(Transform, PlannedLengths) {
+    const std::string dct = "transform --family DCT4 ";
+    EXPECT_EQ(run(dct + "--length 2", "1\n0\n0\n-1\n").out,
+              "frame,index,value\n0,0,0.9238795\n0,1,0.38268343\n"
+              "1,0,-0.38268343\n1,1,0.9238795\n");
+    // Its own inverse, up to half the length.
+    const std::string twice = dct + "--precision double --length 64 ";
+    ASSERT_EQ(run(twice + "-o " + path("dct.csv"), "3\n-5\n").status, 0);
+    const Outcome back = run(twice + path("dct.csv"));
+    double first, second;
+    ASSERT_EQ(sscanf(back.out.c_str(), "frame,index,value 0,0,%lf 0,1,%lf", &first, &second), 2);
+    EXPECT_NEAR(first, 3 * 32, 1e-12);
+    EXPECT_NEAR(second, -5 * 32, 1e-12);
+}
+
 TEST_F(Transform, DigitsOfEachPrecisionReadBack) {
     const std::string third = "0.3333333333333333\n0\n";
     EXPECT_NE(run("transform --length 2", third).out.find("\n0,0,0.33333334,0\n"),
@@ -93,10 +145,24 @@ TEST_F(Transform, SoundMonoIsRealStereoIsComplex) {
               "frame,index,re,im\n0,0,0.75,-0.125\n0,1,0.25,-0.375\n");
 }
 
+// Four samples by heart; and a length that is computed in blocks, there and back.
+TEST_F(Transform, WalshHadamardTakesLengthsNotOrders) {
+    EXPECT_EQ(run("transform --family WHT --length 4", "1\n2\n4\n8\n").out,
+              "frame,index,value\n0,0,15\n0,1,-5\n0,2,-9\n0,3,3\n");
+    const std::string there = run("transform --family WHT --length 256", "3\n-7\n").out;
+    const std::string back = run("transform --family WHT --length 256 --flag fwd-by-n", there).out;
+    EXPECT_TRUE(back.starts_with("frame,index,value\n0,0,3\n0,1,-7\n0,2,0\n0,3,0\n")) << back;
+}
+
 TEST_F(Listing, NamesTheLibraryAndItsFamilies) {
     EXPECT_NE(run("info").out.find(kfmgenGetLibVersion()->libraryName), std::string::npos);
     EXPECT_NE(run("list").out.find("DFTInv_CToC     2..64     32fc, 64fc\n"), std::string::npos);
-    EXPECT_NE(run("list --names").out.find("\nkfmgDFTFwd_CToC_17_64fc\n"), std::string::npos);
+    EXPECT_NE(run("list").out.find(
+                  "WHT             2..8192   32f, 64f; powers of two, orders 1..13\n"),
+              std::string::npos);
+    EXPECT_NE(run("list").out.find("DCT4            2..134217729"), std::string::npos);
+    for (const char* name : {"kfmgDFTFwd_CToC_17_64fc", "kfmgDCT4Init_32f"})
+        EXPECT_NE(run("list --names").out.find(name + std::string("\n")), std::string::npos);
 }
 
 TEST_F(Refusal, Options) {
@@ -109,12 +175,21 @@ TEST_F(Refusal, Options) {
         {"transform", "--length is required"},
         {"transform --length 1", "DFTFwd_CToC has lengths 2 to 64"},
         {"transform --length 65", "DFTFwd_CToC has lengths 2 to 64"},
+        {"transform --length 12 --family WHT", "WHT has lengths 2 to 8192, powers of two"},
+        {"transform --length 16384 --family WHT", "WHT has lengths 2 to 8192, powers of two"},
         {"transform --length four", "four"},
         {"transform --length 99999999999", "99999999999"},
         {"transform --length 4 --family DFT", "no family 'DFT'"},
+        {"transform --length 100 --family DCT4", "nearest lengths of DCT4: 65 and 128"},
+        {"transform --length -3 --family DCT4", "nearest lengths of DCT4: 2"},
+        {"transform --length 2147483647 --family DCT4", "nearest lengths of DCT4: 134217729"},
+        {"transform --length 4 --family DCT4 --flag by-sqrt-n", "DCT4 is not scaled"},
         {"transform --length 4 --flag 8", "'8' is none of"},
         {"transform --length 4 --precision half", "'half' is none of"},
         {"transform --length 4 --tail wag", "'wag' is none of"},
+        {"transform --length 4 --layout heap", "'heap' is none of ccs|pack|perm"},
+        {"transform --length 4 --layout ccs --family Hartley", "not with Hartley"},
+        {"transform --length 4 --layout ccs --family DFTFwd_CToC", "not with DFTFwd_CToC"},
         {"transform --length 4 --hop 0", "--hop"},
         {"transform --length 4 --hop -3", "--hop"},
         {"transform --length 4 --colour", "--colour"},
@@ -161,6 +236,11 @@ TEST_F(Refusal, Files) {
     expectRefusal(run(transform + soundFile("empty.wav", 8000, 1, {})), "no samples");
     expectRefusal(run(transform + "-o " + path("absent/out.csv"), "1\n"), "cannot write");
     expectRefusal(run("spectrum " + textFile("text", "1\n")), "not a sound file");
+}
+
+TEST_F(Refusal, ComplexSamplesOfARealTransform) {
+    expectRefusal(run("transform --length 2 --layout ccs -o " + path("out.csv"), "1,0\n0,1\n"),
+                  "DFTFwd_RToCCS takes real samples");
 }
 
 TEST_F(Refusal, ValueBeyondSinglePrecision) {

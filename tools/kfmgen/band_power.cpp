@@ -55,20 +55,20 @@ Samples decimated(const Samples& samples, int factor) {
 // Adds the bands of half-overlapping frames under a Hann window; returns how many frames.
 class BandSum {
 public:
-    BandSum() : transform_("DFTFwd_CToC", bandTransformLength, true, kfmScaleNone) {
+    BandSum() : transform_("DFTFwd_RToCCS", bandTransformLength, true, kfmScaleNone) {
         for (int i = 0; i < bandTransformLength; ++i)
             window_.push_back((1 - std::cos(2 * pi * i / bandTransformLength)) / 2);
     }
 
     // The sum of the window is half its length, so an amplitude of 1 gives a quarter of the length
-    // in each of its two bins.
+    // in its bin.
     std::vector<double> mean(std::span<const Sample> signal) const {
         std::vector<double> bands(bandTransformLength / 2 + 1);
         const Framing framing{bandTransformLength, bandTransformLength / 2, Tail::pad};
         const std::size_t count = forEachFrame(signal, framing, [&](auto frame) {
             Samples windowed(frame.begin(), frame.end());
             std::ranges::transform(windowed, window_, windowed.begin(), std::multiplies<>());
-            const Samples spectrum = transform_(windowed);
+            const Samples spectrum = transform_(windowed);   // the bins of `bands`
             for (std::size_t k = 0; k < bands.size(); ++k)
                 bands[k] += std::norm(spectrum[k] * (4.0 / bandTransformLength));
         });

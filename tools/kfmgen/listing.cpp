@@ -3,6 +3,7 @@
 #include <iomanip>
 
 #include "kfmgen.h"
+#include "planned_transform.h"
 #include "registry/functions.h"
 
 namespace kfm::tool {
@@ -24,18 +25,23 @@ void printFamilies(std::ostream& out) {
         << "element types\n";
     for (const registry::Family& family : registry::families()) {
         out << std::setw(16) << family.name << std::setw(10)
-            << std::to_string(family.first) + ".." + std::to_string(family.last);
+            << std::to_string(family.samples(family.first)) + ".." +
+                   std::to_string(family.samples(family.last));
         const char* separator = "";
         for (const registry::Element* element : family.elements) {
             out << separator << element->suffix;
             separator = ", ";
         }
+        if (family.byOrder)
+            out << "; powers of two, orders " << family.first << ".." << family.last;
         out << '\n';
     }
+    out << std::setw(16) << plannedFamily << plannedLengths()
+        << "   32f, 64f; powers of two, from 33 on one more as well\n";
 }
 
 void printFunctionNames(std::ostream& out) {
-    for (const registry::Function& function : registry::functions()) out << function.name << '\n';
+    for (const std::string& name : registry::exportedNames()) out << name << '\n';
 }
 
 }   // namespace kfm::tool

@@ -17,11 +17,8 @@ namespace {
 struct TransformOptions {
     std::string input = "-";
     std::string output = "-";
-    std::string family = "DFTFwd_CToC";
-    int length = 0;
+    Choice choice{"", {}, 0, false, kfmScaleNone};
     int hop = 0;   // 0: the length
-    int flag = kfmScaleNone;
-    bool doublePrecision = false;
     Tail tail = Tail::pad;
 };
 
@@ -34,24 +31,23 @@ void finish(std::ostream& out, const std::string& name) {
 }
 
 void runTransform(const TransformOptions& options) {
-    const FixedTransform transform(options.family, options.length, options.doublePrecision,
-                                   options.flag);
+    const auto transform = makeTransform(options.choice);
     const Samples samples = readSamples(options.input);
-    const std::size_t length = options.length;
+    const std::size_t length = transform->frameLength();
     const Framing framing{length, options.hop > 0 ? options.hop : length, options.tail};
     if (options.output == "-") {
-        transformFrames(samples, transform, framing, std::cout);
+        transformFrames(samples, *transform, framing, std::cout);
         return;
     }
     std::ofstream file(options.output);
     if (!file) throw InputError("cannot write " + options.output);
-    transformFrames(samples, transform, framing, file);
+    transformFrames(samples, *transform, framing, file);
     finish(file, options.output);
 }
 
 // An option whose value is one of a few words.
-template <class Value>
-void addChoice(CLI::App& command, const std::string& name, Value& value,
+template <class Value, class Variable>
+void addChoice(CLI::App& command, const std::string& name, Variable& value,
                const std::map<std::string, Value>& words, const std::string& help) {
     std::string list;
     for (const auto& [word, meaning] : words) list += (list.empty() ? "" : "|") + word;
@@ -69,20 +65,29 @@ void addTransform(CLI::App& app, TransformOptions& options) {
         "transform", "Apply a transform to successive frames of a signal; CSV out");
     command.add_option("input", options.input,
                        "sound file (mono: real, stereo: real and imaginary), text file with a "
-                       "sample per line, or - for text on standard input");
+                       "sample per line, or - for text on standard input; the inverse real DFT "
+                       "takes bins 0 to length/2 of each frame");
     command.add_option("-o,--output", options.output, "CSV file; standard output if not given");
-    command.add_option("--family", options.family, "family, see `kfmgen list`")
-        ->capture_default_str();
-    command.add_option("--length", options.length, "samples per frame")->required();
-    command.add_option("--hop", options.hop, "samples from frame to frame; the length if not given")
+    command.add_option("--family", options.choice.family,
+                       "family, see `kfmgen list`; DFTFwd_CToC if not given. With --layout the "
+                       "direction of the real DFT: DFTFwd (default) or DFTInv");
+    addChoice<SpectrumLayout>(command, "--layout", options.choice.layout,
+                                        {{"ccs", SpectrumLayout::ccs},
+                                         {"pack", SpectrumLayout::pack},
+                                         {"perm", SpectrumLayout::perm}},
+                                        "real DFT by the functions for this packed layout");
+    command.add_option("--length", options.choice.length, "length of the transform")->required();
+    command.add_option("--hop", options.hop,
+                       "samples (bins, if bins come in) from frame to frame; the whole frame if "
+                       "not given")
         ->check(CLI::Range(1, std::numeric_limits<int>::max()));
-    addChoice<int>(command, "--flag", options.flag,
+    addChoice<int>(command, "--flag", options.choice.flag,
                    {{"none", kfmScaleNone},
                     {"fwd-by-n", kfmScaleFwdByN},
                     {"inv-by-n", kfmScaleInvByN},
                     {"by-sqrt-n", kfmScaleBySqrtN}},
                    "scaling; none if not given");
-    addChoice<bool>(command, "--precision", options.doublePrecision,
+    addChoice<bool>(command, "--precision", options.choice.doublePrecision,
                     {{"single", false}, {"double", true}}, "single if not given");
     addChoice<Tail>(command, "--tail", options.tail, {{"pad", Tail::pad}, {"drop", Tail::drop}},
                     "last samples that do not fill a frame: pad with zeros (default) or drop");

@@ -1,4 +1,5 @@
-// What the commands pass to one another: complex samples, and the error that ends a command.
+// What the commands pass to one another: samples, complex also where the imaginary part is zero,
+// and the error that ends a command.
 #pragma once
 
 #include <complex>

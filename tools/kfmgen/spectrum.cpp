@@ -20,7 +20,7 @@ void printSubject(const std::string& path, const Sound& sound, double duration,
     out << std::fixed << std::setprecision(2) << path << ": " << duration << " s, " << sound.rate
         << " Hz, " << (sound.channels == 1 ? "mono" : "stereo, mixed to mono") << "\n"
         << std::setprecision(0) << "analysed at " << power.rate << " Hz by the "
-        << bandTransformLength << "-point complex DFT: one band per " << power.bandWidth
+        << bandTransformLength << "-point real DFT: one band per " << power.bandWidth
         << " Hz\n\n";
 }
 

@@ -60,7 +60,8 @@ public:
 
 private:
     bool readHeader(const Fields& fields) {
-        const auto re = std::ranges::find(fields, "re");
+        auto re = std::ranges::find(fields, "re");
+        if (re == fields.end()) re = std::ranges::find(fields, "value");
         if (re == fields.end()) return false;
         const auto im = std::ranges::find(fields, "im");
         real_ = re - fields.begin();

@@ -39,20 +39,25 @@ Samples readSamples(const std::string& path) {
     return readTextFile(path);
 }
 
-void transformFrames(const Samples& samples, const FixedTransform& transform,
+void transformFrames(const Samples& samples, const FrameTransform& transform,
                      const Framing& framing, std::ostream& out) {
     if (samples.empty()) throw InputError("the input has no samples");
+    const Form form = transform.resultForm();
     if (framing.tail == Tail::drop && samples.size() < framing.length)
         throw InputError(std::to_string(samples.size()) + " samples do not fill one frame of " +
                          std::to_string(framing.length));
-    out << "frame,index,re,im\n";
+    out << (form == Form::halfSpectrum ? "frame,bin," : "frame,index,")
+        << (form == Form::realSignal ? "value\n" : "re,im\n");
     std::size_t frameNumber = 0;
     const auto writeFrame = [&](std::span<const Sample> frame) {
         std::size_t index = 0;
-        for (const Sample& value : transform(frame))
+        for (const Sample& value : transform(frame)) {
             out << frameNumber << ',' << index++ << ','
-                << digits(value.real(), transform.doublePrecision()) << ','
-                << digits(value.imag(), transform.doublePrecision()) << '\n';
+                << digits(value.real(), transform.doublePrecision());
+            if (form != Form::realSignal)
+                out << ',' << digits(value.imag(), transform.doublePrecision());
+            out << '\n';
+        }
         ++frameNumber;
     };
     forEachFrame(samples, framing, writeFrame);

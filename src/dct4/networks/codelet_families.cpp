@@ -136,7 +136,7 @@ KernelFamily family(const Kind& kind) {
                 return choice(kind.function, size, element, target);
             },
             [&kind](int size, const Element& element, const Target&,
-                    const ScheduleChoice& schedule) {
+                    const ScheduleChoice& schedule, std::span<const registry::Family* const>) {
                 return emit(kind, size, element, schedule);
             }};
 }

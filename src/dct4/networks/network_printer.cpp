@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 #include <sstream>
+#include <stdexcept>
 #include <vector>
 
 namespace kfm::dct4 {
@@ -95,8 +96,16 @@ private:
         case Op::flip:
             return "flip(" + name(node.a) + ", " + signs(node.pattern) + ")";
         case Op::select:
+            return selection(node);
+        case Op::subtract:
+        case Op::widen:
+        case Op::round:
             break;
         }
+        throw std::logic_error("a network is of one precision and keeps its signs");
+    }
+
+    static std::string selection(const Node& node) {
         if (node.a == node.b && std::ranges::is_sorted(node.pattern, std::greater()))
             return "reverse(" + name(node.a) + ")";
         std::string lanes;

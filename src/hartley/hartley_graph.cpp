@@ -1,0 +1,126 @@
+#include <algorithm>
+
+#include "hartley/factors.h"
+#include "hartley/hartley_kernels.h"
+#include "kernelgen/algorithms.h"
+#include "kernelgen/real_lanes.h"
+
+namespace kfm::hartley {
+
+using namespace kernelgen;
+
+namespace {
+
+// The sums of eight points in their fixed grouping.
+void eightPoints(Graph& g) {
+    std::vector<Ref> x;
+    for (int i = 0; i < 8; ++i) x.push_back(g.load(i));
+    const Constant c = Constant::cosTurn(1, 8);
+    const auto product = [&](Ref a) { return g.settle(g.mul(c, a), Border::rotation); };
+    const Ref e0 = g.add(x[0], x[4]), e1 = g.sub(x[0], x[4]);
+    const Ref f0 = g.add(x[2], x[6]), f1 = g.sub(x[2], x[6]);
+    const Ref a = g.add(x[1], x[5]), h = g.add(x[3], x[7]);
+    const Ref p = product(g.sub(x[1], x[5])), q = product(g.sub(x[3], x[7]));
+    const Ref even = g.add(e0, f0), odd = g.sub(e0, f0);
+    g.store(0, -1, g.add(g.add(even, a), h));
+    g.store(4, -1, g.sub(g.sub(even, a), h));
+    g.store(2, -1, g.sub(g.add(odd, a), h));
+    g.store(6, -1, g.add(g.sub(odd, a), h));
+    const Ref e1p = g.sub(g.add(e1, p), q), f1p = g.add(g.add(f1, p), q);
+    const Ref e1m = g.add(g.sub(e1, p), q), f1m = g.sub(g.sub(f1, p), q);
+    g.store(1, -1, g.add(e1p, f1p));
+    g.store(7, -1, g.sub(e1p, f1p));
+    g.store(5, -1, g.add(e1m, f1m));
+    g.store(3, -1, g.sub(e1m, f1m));
+}
+
+// The bins of the last step, two at a time where there are two lanes; bins whose parts stand side
+// by side already come together.
+class LastSums {
+public:
+    LastSums(Graph& g, int n, std::vector<ComplexLanes> bins) : g_(g), n_(n), bins_(std::move(bins)) {}
+
+    std::vector<LaneOutput> run() {
+        ends();
+        for (int k = 1; 2 * k < n_; ++k) waiting_.push_back(k);
+        pairNeighbours();
+        while (waiting_.size() > 1 && g_.lanes() == 2) pair(waiting_[0], waiting_[1]);
+        for (const int k : waiting_) single(k);
+        return std::move(outputs_);
+    }
+
+private:
+    void ends() {
+        for (const int k : {0, n_ / 2})
+            if (2 * k % n_ == 0)
+                outputs_.push_back({k, {g_.settle(bins_[k].re.vector, Border::result),
+                                        bins_[k].re.index}});
+    }
+
+    void pairNeighbours() {
+        const std::vector<int> all = waiting_;
+        for (const int k : all)
+            for (const int l : all)
+                if (waits(k) && waits(l) && neighbours(bins_[k].re, bins_[l].re) &&
+                    neighbours(bins_[k].im, bins_[l].im))
+                    pair(k, l);
+        for (const int k : all)
+            for (const int l : all)
+                if (k != l && waits(k) && waits(l) && sameVector(bins_[k].re, bins_[l].im) &&
+                    sameVector(bins_[k].im, bins_[l].re))
+                    pair(k, l);
+    }
+
+    bool waits(int k) const { return std::ranges::find(waiting_, k) != waiting_.end(); }
+    static bool sameVector(Lane a, Lane b) { return a.magnitude().vector == b.magnitude().vector; }
+    static bool neighbours(Lane a, Lane b) {
+        return sameVector(a, b) && a.index == 0 && b.index == 1;
+    }
+
+    void pair(int k, int l) {
+        const ComplexLanes a = bins_[k], b = bins_[l];
+        sums(pack(g_, a.re, b.re), pack(g_, a.im.magnitude(), b.im.magnitude()), {k, l});
+        std::erase(waiting_, k);
+        std::erase(waiting_, l);
+    }
+
+    void single(int k) {
+        sums(alone(g_, bins_[k].re), alone(g_, bins_[k].im.magnitude()), {k});
+    }
+
+    // re - im and re + im; `im` comes with either sign.
+    void sums(Ref re, Ref im, const std::vector<int>& bins) {
+        re = g_.settle(re, Border::result);
+        im = g_.settle(im, Border::result);
+        const Ref sum = g_.add(re, im), difference = g_.sub(re, im);
+        for (int lane = 0; lane < static_cast<int>(bins.size()); ++lane) {
+            const int k = bins[lane];
+            const bool negative = bins_[k].im.negative();
+            outputs_.push_back({k, {negative ? sum : difference, lane}});
+            outputs_.push_back({n_ - k, {negative ? difference : sum, lane}});
+        }
+    }
+
+    Graph& g_;
+    int n_;
+    std::vector<ComplexLanes> bins_;
+    std::vector<int> waiting_;
+    std::vector<LaneOutput> outputs_;
+};
+
+}   // namespace
+
+Graph hartleyGraph(int n, bool singlePrecision) {
+    const Row plan = row(n);
+    Graph g(plan.lanes, arithmetic(n, singlePrecision));
+    if (n == 8) {
+        eightPoints(g);
+        return g;
+    }
+    std::vector<Lane> x;
+    for (int i = 0; i < n; ++i) x.push_back({g.load(i), 0});
+    storeLanes(g, LastSums(g, n, realDftInLanes(g, plan.plan, x)).run());
+    return g;
+}
+
+}   // namespace kfm::hartley

@@ -1,0 +1,35 @@
+// The DFT of a real sequence with two scalars in the lanes of a vector.
+//
+// Real data leave no complex element to fill a vector, but nearly everything comes in twos: the sum
+// and the difference of mirrored samples, real and imaginary part of a bin, one position of a first
+// step and the next. Each mapping below puts such a pair into the lanes, so that one instruction
+// does both operations, each rounded as in scalar code.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "kernelgen/packing.h"
+#include "kernelgen/plan.h"
+
+namespace kfm::kernelgen {
+
+struct ComplexLanes {
+    Lane re, im;   // of one bin; im is zero where the bin is real
+};
+
+// X[0..n/2] of the forward transform in single lanes; with one lane per vector, scalar code.
+std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
+
+// Rader's step of it, for plans of that kind.
+std::vector<ComplexLanes> raderInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
+
+// What a kernel computes, gathered by vectors: element `first` from lane 0, `second` from lane 1,
+// -1 for none. Lanes that are negated are subtracted from zero.
+struct LaneOutput {
+    int element;
+    Lane value;
+};
+void storeLanes(Graph& g, std::span<const LaneOutput> outputs);
+
+}   // namespace kfm::kernelgen

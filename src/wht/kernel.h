@@ -1,0 +1,66 @@
+// The Walsh-Hadamard transform of one order: its scale factors, its work buffer, its passes. The
+// generated sources instantiate it.
+#pragma once
+
+#include <numbers>
+
+#include "core/run_kernel.h"
+#include "kfmcore.h"
+#include "wht/passes.h"
+
+namespace kfm::wht {
+
+// The caller's block, or one of its own for the time of a call.
+class WorkBuffer {
+public:
+    WorkBuffer(Kfm8u* callers, std::int64_t bytes)
+        : owned_(callers ? nullptr : kfmMalloc(static_cast<int>(bytes))),
+          block_(callers ? callers : owned_) {}
+    ~WorkBuffer() {
+        if (owned_) kfmFree(owned_);
+    }
+    WorkBuffer(const WorkBuffer&) = delete;
+    WorkBuffer& operator=(const WorkBuffer&) = delete;
+
+    template <class Real>
+    Real* as() const {
+        return static_cast<Real*>(block_);
+    }
+
+private:
+    void* owned_;
+    void* block_;
+};
+
+template <class Real, int order>
+struct Kernel {
+    static constexpr bool doublePrecision = sizeof(Real) == 8;
+    static constexpr Direction direction = Direction::both;
+
+    // Halves of whole powers of two are exact, so one rounding is in sqrt(2) alone.
+    static constexpr Real bySqrtN =
+        (order % 2 ? std::numbers::sqrt2_v<Real> : Real(1)) / (1 << (order + 1) / 2);
+    static constexpr ScaleFactors<Real> scales = {1, Real(1) / (1 << order), bySqrtN};
+
+    // Two single-precision elements fill half of a vector.
+    template <class Memory>
+    using Access =
+        std::conditional_t<(order < Lanes<Real>::order), simd::HalfSingle, Memory>;
+
+    template <class Memory>
+    KFM_INLINE static void transform(const Real* src, Real* dst, const Real* factor,
+                                     [[maybe_unused]] Kfm8u* buffer) {
+        constexpr const Blocking* blocking = findBlocking(doublePrecision, order);
+        const Scale finish = {simd::broadcast(factor)};
+        if constexpr (blocking == nullptr) {
+            transformBlock<order, Access<Memory>, Access<Memory>>(src, dst, finish);
+        } else {
+            constexpr std::int64_t bytes = bufferBytes(doublePrecision, order);
+            const WorkBuffer work(buffer, bytes);
+            Real* main = work.template as<Real>();
+            transformInPasses<*blocking, Memory>(src, dst, finish, main, main + (1 << order));
+        }
+    }
+};
+
+}   // namespace kfm::wht
