@@ -15,7 +15,7 @@ template <class Real>
 constexpr Bytes scratchBytes(int a, int len, bool root) {
     if (!root) return 0;
     const Bytes odd = len % 2 != 0 ? Bytes{sizeof(Real)} * len : 0;
-    return std::max(Bytes{16} * a, odd);
+    return std::max(Bytes{groupSize * sizeof(Real)} * a, odd);
 }
 
 }   // namespace
@@ -97,16 +97,12 @@ KfmStatus Env7<Real>::compute(const Real* src, Real* dst, int in0, int refl, int
     return status;
 }
 
-// The scratch holds as many sub-transforms at a time as a vector has lanes.
+// The scratch holds the rows of one group.
 template <class Real>
 KfmStatus Env7<Real>::computeRoot(const Real* src, Real* w, int in0, int refl) const {
-    for (int lane = 0; lane < 4; lane += lanes<Real>) {
-        const KfmStatus status = stageOf<Env9<Real>>(splitting)->compute(
-            src, scratch, in0 + lane, refl - 2 * lane, 0);
-        if (status != kfmOk) return status;
-        stageOf<Env8<Real>>(joining)->computeRoot(scratch, w + lane);
-    }
-    return kfmOk;
+    const KfmStatus status = stageOf<Env9<Real>>(splitting)->compute(src, scratch, in0, refl, 0);
+    if (status == kfmOk) stageOf<Env8<Real>>(joining)->computeRoot(scratch, w);
+    return status;
 }
 
 template <class Real>
@@ -138,7 +134,7 @@ void Env8<Real>::init(void* arena, const SplitShape& shape, int splitFactor,
     a = shape.a;
     m = a / divisor;
     blockRows = m / 2;
-    rowStride = lanes<Real>;
+    rowStride = groupSize;
     blockStride = m * rowStride;
     tableStride = 2 * divisor;
     stride = shape.d;
@@ -221,7 +217,7 @@ void Env9<Real>::init(void* arena, const SplitShape& shape, int divisor) {
     len = shape.len;
     mirror = 2 * len - 1;
     count = divisor;
-    rowStride = lanes<Real>;
+    rowStride = groupSize;
     blockStride = m * rowStride;
     d = shape.d;
 }
