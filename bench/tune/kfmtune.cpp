@@ -103,7 +103,7 @@ void tuneAll(const Options& options) {
 
 int main(int argc, char** argv) try {
     kfm::tune::Options options;
-    CLI::App app("Chooses each kernel's schedule by measurement and commits it to the table of schedules.");
+    CLI::App app("Chooses each kernel's schedule by measurement and writes it into its table.");
     options.selection.addFamily(app);
     options.selection.addElement(app);
     options.selection.addLengths(app);

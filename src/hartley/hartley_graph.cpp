@@ -38,7 +38,8 @@ void eightPoints(Graph& g) {
 // by side already come together.
 class LastSums {
 public:
-    LastSums(Graph& g, int n, std::vector<ComplexLanes> bins) : g_(g), n_(n), bins_(std::move(bins)) {}
+    LastSums(Graph& g, int n, std::vector<ComplexLanes> bins)
+        : g_(g), n_(n), bins_(std::move(bins)) {}
 
     std::vector<LaneOutput> run() {
         ends();

@@ -48,7 +48,8 @@ private:
         for (int i = 0; i < padding_; ++i) row += "0, ";
         const auto [found, inserted] = indices_.try_emplace(row, int(rows_.size()));
         if (inserted) rows_.push_back(row + " //" + comment);
-        return std::string(scalar_ ? "lane(" : "constant(") + pointer() + ", " + std::to_string(found->second) + ")";
+        return std::string(scalar_ ? "lane(" : "constant(") + pointer() + ", " +
+               std::to_string(found->second) + ")";
     }
 
     std::string name_;

@@ -10,8 +10,8 @@
 
 namespace kfm::kernelgen {
 
-// The lanes of every node. `source` holds the input as a flat array of lanes: element e of a load is
-// the `lanesPerElement` values from e * lanesPerElement.
+// The lanes of every node. `source` holds the input as a flat array of lanes: element e of a load
+// is the `lanesPerElement` values from e * lanesPerElement.
 // Nodes that are wide are computed in `Wide`, all others in `Real`.
 template <class Real, class Wide = Real>
 std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement,

@@ -72,7 +72,8 @@ Ref Graph::rounded(Ref a) {
 }
 
 bool Graph::sameFactor(Ref a, Ref b) const {
-    return arithmetic_.factoring && node(a).op == Op::mul && node(b).op == Op::mul && node(a).constant == node(b).constant;
+    return arithmetic_.factoring && node(a).op == Op::mul && node(b).op == Op::mul &&
+           node(a).constant == node(b).constant;
 }
 
 Ref Graph::load(int first, int second) {

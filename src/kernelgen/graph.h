@@ -84,7 +84,7 @@ struct Node {
     bool wide = false;    // follows from the operation and its operands
 };
 
-// What a kernel writes: the elements `first` and `second` (-1: that half is not stored) from a node,
+// What a kernel writes: the elements `first` and `second` (-1: half not stored) from a node,
 // with the sign changed in the lanes whose entry is 1; the scale factor takes the signs along.
 struct Output {
     int first, second;

@@ -202,7 +202,7 @@ struct Command {
 
 constexpr Command commands[] = {
     {"build", "--target <target> --output <folder>", "write all generated sources", build},
-    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [--family <name>] [-o <file>]",
+    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [--family <name>]\n         [-o <file>]",
      "write the source of one kernel", printKernel},
     {"explain", "<N> <element>", "factor tree, lane mapping and operation counts of a kernel",
      printExplanation},

@@ -275,7 +275,8 @@ private:
 
 // The first step of a factorised length: bin k of the transform at each position, two positions
 // at a time.
-std::vector<Spectrum> firstStep(Graph& g, const Plan& plan, const std::vector<Sequence>& positions) {
+std::vector<Spectrum> firstStep(Graph& g, const Plan& plan,
+                                const std::vector<Sequence>& positions) {
     const int count = static_cast<int>(positions.size());
     std::vector<Spectrum> bins(count);
     const auto both = [&](int a, int b) {
@@ -337,13 +338,14 @@ Spectrum twoSteps(Graph& g, const Plan& plan, std::span<const Lane> x) {
     Spectrum spectrum(plan.n / 2 + 1);
     const auto placer = [&](int k1) {
         return [&, k1](int k2, const ComplexLanes& value) {
-            setBin(spectrum, plan.n, twiddled ? k1 + a * k2 : chineseRemainder(k1, a, k2, b), value);
+            const int k = twiddled ? k1 + a * k2 : chineseRemainder(k1, a, k2, b);
+            setBin(spectrum, plan.n, k, value);
         };
     };
     Sequence real(b);
     for (int j = 0; j < b; ++j) real[j] = bins[j][0].re;
     if (a % 2 == 0) {
-        if (twiddled) throw std::invalid_argument("in lanes, an even first factor takes no twiddles");
+        if (twiddled) throw std::invalid_argument("in lanes an even first factor is not twiddled");
         Sequence middle(b);
         for (int j = 0; j < b; ++j) middle[j] = bins[j][a / 2].re;
         const TwoSpectra both = twoTransforms(g, plan.second(), real, middle);

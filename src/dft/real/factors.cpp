@@ -1,6 +1,7 @@
 // The factor trees of the real DFT, the same in both element types and directions. A number is the
-// direct module of that length: symmetric pairs, which all primes are computed by. pfa needs no twiddle factors, ct has them; rader occurs inside composite
-// lengths only.
+// direct module of that length: symmetric pairs, which all primes are computed by. pfa needs no
+// twiddle factors, ct has them, evenOdd is for powers of two; rader occurs inside composite lengths
+// only.
 #include "dft/real/factors.h"
 
 #include <map>
