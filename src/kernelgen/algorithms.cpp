@@ -189,9 +189,7 @@ HalfSpectrum raderStep(Graph& g, const Plan& plan, std::span<const Ref> x) {
     HalfSpectrum cosinePart(half + 1), sinePart(half + 1);
     for (int k = 0; k <= half; ++k) {
         const bool even = k % 2 == 0;
-        ComplexConstant c = constantBin(even ? order.cosines : order.sines, k);
-        const Constant weight = Constant::ratio(k == 0 || k == half ? 1 : 2, m);
-        c = {c.re * weight, c.im * weight};
+        ComplexConstant c = weightedBin(even ? order.cosines : order.sines, k);
         if (!even) c = {-c.re, -c.im};
         (even ? cosinePart : sinePart)[k] = scaleBy(g, spectrumOfZ[k], c);
     }
@@ -207,33 +205,12 @@ HalfSpectrum raderStep(Graph& g, const Plan& plan, std::span<const Ref> x) {
 
 }   // namespace
 
-RaderOrder::RaderOrder(const Plan& plan)
-    : prime(plan.n), input(plan.n - 1), output(plan.n - 1), cosines(plan.n - 1),
-      sines(plan.n - 1) {
-    const int p = prime;
-    for (int m = 0; m < p - 1; ++m) {
-        input[m] = powerModulo(plan.root, m, p);
-        output[(p - 1 - m) % (p - 1)] = input[m];
-    }
-    for (int t = 0; t < p - 1; ++t) {
-        cosines[t] = cosine(output[t], p);
-        sines[t] = sine(output[t], p);
-    }
-}
-
-ComplexConstant constantBin(std::span<const Constant> sequence, int k) {
-    Constant::Wide re = 0, im = 0;
-    const long n = static_cast<long>(sequence.size());
-    for (long t = 0; t < n; ++t) {
-        re += sequence[t].value() * cosine(k * t, n).value();
-        im -= sequence[t].value() * sine(k * t, n).value();
-    }
-    return {Constant::settled(re), Constant::settled(im)};
+Complex scaleLanes(Graph& g, Complex z, const LaneConstant& re, const LaneConstant& im) {
+    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
 }
 
 Complex scaleBy(Graph& g, Complex z, ComplexConstant c) {
-    return {g.sub(g.mul(c.re, z.re), g.mul(c.im, z.im)),
-            g.add(g.mul(c.im, z.re), g.mul(c.re, z.im))};
+    return scaleLanes(g, z, LaneConstant(g.lanes(), c.re), LaneConstant(g.lanes(), c.im));
 }
 
 Complex rotate(Graph& g, Complex z, long numerator, long denominator, Sign sign) {

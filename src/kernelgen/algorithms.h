@@ -10,6 +10,7 @@
 
 #include "kernelgen/graph.h"
 #include "kernelgen/plan.h"
+#include "kernelgen/rader.h"
 
 namespace kfm::kernelgen {
 
@@ -34,23 +35,9 @@ std::vector<Complex> complexDft(Graph& g, const Plan& plan, std::span<const Comp
 // y[j] = sum over k <= n/2 of Re(V[k] exp(+2 pi i jk/n)).
 std::vector<Ref> realSynthesis(Graph& g, const Plan& plan, std::span<const Complex> values);
 
-// Transform of the sequence c[t], t = 0..n-1, of constants: bin k.
-struct ComplexConstant {
-    Constant re, im;
-};
-ComplexConstant constantBin(std::span<const Constant> sequence, int k);
-
 // z * c for a complex constant.
 Complex scaleBy(Graph& g, Complex z, ComplexConstant c);
-
-// The order in which Rader's step takes inputs and outputs of the prime p, with the constants of
-// its convolution: c[t] = cos(2 pi g^-t / p), s[t] = sin(2 pi g^-t / p).
-struct RaderOrder {
-    explicit RaderOrder(const Plan& plan);
-    int prime;
-    std::vector<int> input;    // g^m
-    std::vector<int> output;   // g^-j
-    std::vector<Constant> cosines, sines;
-};
+// The same with a constant for each lane.
+Complex scaleLanes(Graph& g, Complex z, const LaneConstant& re, const LaneConstant& im);
 
 }   // namespace kfm::kernelgen

@@ -46,6 +46,8 @@ Ref withZero(Graph& g, Lane a) {
     return g.select(a.vector, {a.index, -1});
 }
 
+Ref swapped(Graph& g, Ref a) { return a.isZero() ? a : g.select(a, {1, 0}); }
+
 Ref balancedSum(Graph& g, const std::vector<Ref>& terms) { return sumOf(g, terms); }
 
 }   // namespace kfm::kernelgen

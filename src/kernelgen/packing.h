@@ -28,6 +28,9 @@ Ref alone(Graph& g, Lane a);
 // (a, 0).
 Ref withZero(Graph& g, Lane a);
 
+// (b, a) for a vector (a, b).
+Ref swapped(Graph& g, Ref a);
+
 // A balanced tree keeps the chains short.
 Ref balancedSum(Graph& g, const std::vector<Ref>& terms);
 

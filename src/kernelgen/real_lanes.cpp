@@ -14,16 +14,8 @@ namespace {
 using Spectrum = std::vector<ComplexLanes>;
 using Sequence = std::vector<Lane>;
 
-void setBin(Spectrum& spectrum, int n, int k, ComplexLanes value) {
-    if (2 * k <= n)
-        spectrum.at(k) = value;
-    else
-        spectrum.at(n - k) = {value.re, -value.im};
-}
-
 Lane low(Ref vector) { return {vector, 0}; }
 Lane high(Ref vector) { return {vector, 1}; }
-Ref swapped(Graph& g, Ref vector) { return g.select(vector, {1, 0}); }
 
 // A bin as one vector (re, im), or (re, -im) where that saves a change of sign.
 struct BinVector {
@@ -377,6 +369,13 @@ Spectrum scalarDft(Graph& g, const Plan& plan, std::span<const Lane> x) {
 }
 
 }   // namespace
+
+void setBin(std::vector<ComplexLanes>& spectrum, int n, int k, ComplexLanes value) {
+    if (2 * k <= n)
+        spectrum.at(k) = value;
+    else
+        spectrum.at(n - k) = {value.re, -value.im};
+}
 
 std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x) {
     if (g.lanes() == 1) return scalarDft(g, plan, x);

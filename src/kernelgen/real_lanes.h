@@ -21,6 +21,9 @@ struct ComplexLanes {
 // X[0..n/2] of the forward transform in single lanes; with one lane per vector, scalar code.
 std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
 
+// Files X[k] of n points under k or, conjugated, under n - k.
+void setBin(std::vector<ComplexLanes>& spectrum, int n, int k, ComplexLanes value);
+
 // Rader's step of it, for plans of that kind.
 std::vector<ComplexLanes> raderInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
 

@@ -16,27 +16,9 @@ using Spectrum = std::vector<ComplexLanes>;
 
 constexpr int lanes = 2;
 
-// Bin k of a sequence of constants, weighted for the synthesis of n samples.
-ComplexConstant weightedBin(std::span<const Constant> sequence, int k) {
-    const int n = static_cast<int>(sequence.size());
-    const ComplexConstant c = constantBin(sequence, k);
-    const Constant weight = Constant::ratio(k == 0 || 2 * k == n ? 1 : 2, n);
-    return {c.re * weight, c.im * weight};
-}
-
 // z * c with a complex constant for each lane.
 Complex scaledByLanes(Graph& g, Complex z, ComplexConstant low, ComplexConstant high) {
-    const LaneConstant re{low.re, high.re}, im{low.im, high.im};
-    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
-}
-
-Ref swapped(Graph& g, Ref a) { return a.isZero() ? a : g.select(a, {1, 0}); }
-
-void place(Spectrum& spectrum, int prime, int k, ComplexLanes bin) {
-    if (2 * k < prime)
-        spectrum[k] = bin;
-    else
-        spectrum[prime - k] = {bin.re, -bin.im};
+    return scaleLanes(g, z, {low.re, high.re}, {low.im, high.im});
 }
 
 // m = 2q, q odd: lanes (a, b'), b'[i] = (-1)^i b[i], which makes both convolutions cyclic of length
@@ -44,49 +26,41 @@ void place(Spectrum& spectrum, int prime, int k, ComplexLanes bin) {
 class SumsAndDifferences {
 public:
     SumsAndDifferences(Graph& g, const Plan& plan, std::span<const Lane> x)
-        : g_(g), order_(plan), plan_(plan.first().second()), x_(x), q_(plan_.n) {}
+        : g_(g), order_(plan), plan_(plan.first().second()), x_(x) {}
 
     Spectrum run() {
-        std::vector<Ref> v(q_);
-        for (int i = 0; i < q_; i += 2) loadTwo(i, std::min(i + 1, q_ - 1), v);
+        const int q = order_.q;
+        std::vector<Ref> v(q);
+        for (int i = 0; i < q; i += 2) loadTwo(i, std::min(i + 1, q - 1), v);
         HalfSpectrum bins = realDft(g_, plan_, v);
         Spectrum spectrum((order_.prime + 1) / 2);
         spectrum[0] = {{g_.add(alone(g_, x_[0]), bins[0].re), 0}, {}};
-        for (int k = 0; 2 * k < q_; ++k) bins[k] = product(bins[k], k);
+        for (int k = 0; 2 * k < q; ++k)
+            bins[k] = scaledByLanes(g_, bins[k], order_.cosineBin(k),
+                                    scaled(order_.sineBin(k), -1));
         bins[0].re = g_.add(withZero(g_, x_[0]), bins[0].re);
         const std::vector<Ref> y = realSynthesis(g_, plan_, bins);
-        for (int j = 0; j < q_; ++j)
-            place(spectrum, order_.prime, order_.output[j],
-                  {{y[j], 0}, {j % 2 == 0 ? y[j] : -y[j], 1}});
+        for (int j = 0; j < q; ++j)
+            setBin(spectrum, order_.prime, order_.output(j), {{y[j], 0}, {y[j], 1}});
         return spectrum;
     }
 
 private:
-    Lane left(int i) const { return x_[order_.input[i % 2 == 0 ? i : i + q_]]; }
-    Lane right(int i) const { return x_[order_.input[i % 2 == 0 ? i + q_ : i]]; }
+    Lane z(int m) const { return x_[order_.z(m)]; }
+    Lane mirror(int m) const { return x_[order_.mirror(m)]; }
 
     void loadTwo(int i, int j, std::vector<Ref>& v) {
-        const Ref l = i == j ? alone(g_, left(i)) : pack(g_, left(i), left(j));
-        const Ref r = i == j ? alone(g_, right(i)) : pack(g_, right(i), right(j));
+        const Ref l = i == j ? alone(g_, z(i)) : pack(g_, z(i), z(j));
+        const Ref r = i == j ? alone(g_, mirror(i)) : pack(g_, mirror(i), mirror(j));
         const Ref sum = g_.add(l, r), difference = g_.sub(l, r);
         v[i] = pack(g_, {sum, 0}, {difference, 0});
         if (i != j) v[j] = pack(g_, {sum, 1}, {difference, 1});
     }
 
-    Complex product(Complex bin, int k) {
-        std::vector<Constant> c, s;
-        for (int t = 0; t < q_; ++t) {
-            c.push_back(order_.cosines[t]);
-            s.push_back(t % 2 == 0 ? -order_.sines[t] : order_.sines[t]);
-        }
-        return scaledByLanes(g_, bin, weightedBin(c, k), weightedBin(s, k));
-    }
-
     Graph& g_;
-    RaderOrder order_;
+    OddRader order_;
     const Plan& plan_;
     std::span<const Lane> x_;
-    int q_;
 };
 
 // m = 4q, q odd: position i is (i mod 4, i mod q), the lanes hold i mod 4 = 0 and 1, and their
@@ -108,7 +82,7 @@ public:
         const std::vector<Ref> c = cosinePart(a, spectrum[0].re), s = sinePart(b);
         for (int r = 0; r < q_; ++r)
             for (int lane = 0; lane < lanes; ++lane)
-                place(spectrum, order_.prime, order_.output[chineseRemainder(lane, 4, r, q_)],
+                setBin(spectrum, order_.prime, order_.output[chineseRemainder(lane, 4, r, q_)],
                       {{c[r], lane}, {-s[r], lane}});
         return spectrum;
     }
@@ -199,7 +173,7 @@ public:
         weighted[0].re = {g_.add(x0, alone(g_, weighted[0].re)), 0};
         const std::vector<Lane> c = synthesis(weighted, 0), s = synthesis(weighted, 1);
         for (int j = 0; j < m_ / 2; ++j)
-            place(spectrum, order_.prime, order_.output[j], {c[j], s[j]});
+            setBin(spectrum, order_.prime, order_.output[j], {c[j], s[j]});
         return spectrum;
     }
 

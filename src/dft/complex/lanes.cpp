@@ -103,10 +103,6 @@ std::array<Complex, 4> transpose4(Graph& g, const std::vector<Complex>& rows) {
     return {{{r[0], i[0]}, {r[1], i[1]}, {r[2], i[2]}, {r[3], i[3]}}};
 }
 
-Complex scaleLanes(Graph& g, Complex z, const LaneConstant& re, const LaneConstant& im) {
-    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
-}
-
 Complex twiddle(Graph& g, Complex z, const std::array<long, 4>& exponents, long n, Sign sign) {
     LaneConstant c, s;
     for (const long exponent : exponents) {

@@ -51,9 +51,6 @@ inline const LanePattern neighbours = {1, 0, 3, 2};
 // Up to four vectors as the rows of a matrix; result r holds lane r of each.
 std::array<Complex, 4> transpose4(Graph& g, const std::vector<Complex>& rows);
 
-// z * (re + i*im) with a complex constant in each lane.
-Complex scaleLanes(Graph& g, Complex z, const LaneConstant& re, const LaneConstant& im);
-
 // Lane l times exp(sign 2 pi i exponents[l] / n).
 Complex twiddle(Graph& g, Complex z, const std::array<long, 4>& exponents, long n, Sign sign);
 

@@ -21,29 +21,6 @@ std::vector<Complex> sumsAndDifferences(Graph& g, std::span<const MirroredPair> 
     return result;
 }
 
-Constant binWeight(int k, int n) {
-    return Constant::ratio(k == 0 || 2 * k == n ? 1 : 2, n);
-}
-
-ComplexConstant scaled(ComplexConstant c, const Constant& weight) {
-    return {c.re * weight, c.im * weight};
-}
-
-OddRader::OddRader(const Plan& plan)
-    : prime(plan.n), q((plan.n - 1) / 2), order_(plan),
-      cosines_(order_.cosines.begin(), order_.cosines.begin() + q) {
-    for (int m = 0; m < q; ++m)
-        sines_.push_back(m % 2 == 0 ? order_.sines[m] : -order_.sines[m]);
-}
-
-ComplexConstant OddRader::cosineBin(int k) const {
-    return scaled(constantBin(cosines_, k), binWeight(k, q));
-}
-
-ComplexConstant OddRader::sineBin(int k) const {
-    return scaled(constantBin(sines_, k), binWeight(k, q));
-}
-
 namespace {
 
 LaneConstant laneConstants(const std::array<ComplexConstant, 4>& lanes,

@@ -36,31 +36,4 @@ std::vector<Complex> convolve(Graph& g, const Plan& plan, std::span<const Comple
                               const std::function<BinConstants(int)>& constants, Complex x0,
                               Complex& sums);
 
-// 2/n, or 1/n for the bins that have no mirror image.
-Constant binWeight(int k, int n);
-kernelgen::ComplexConstant scaled(kernelgen::ComplexConstant c, const Constant& weight);
-
-// The order of a prime p = 2q + 1, q odd: with b taken with the sign (-1)^m both parts of the
-// convolution are cyclic of length q.
-class OddRader {
-public:
-    explicit OddRader(const Plan& plan);
-
-    // z[m] and z[m+H], exchanged for odd m.
-    int z(int m) const { return order_.input[m % 2 == 0 ? m : m + q]; }
-    int mirror(int m) const { return order_.input[m % 2 == 0 ? m + q : m]; }
-    // Output number of C[j] + i*sign*S[j] with the sign of S put right.
-    int output(int j) const { return j % 2 == 0 ? order_.output[j] : prime - order_.output[j]; }
-
-    // Bin k of the roots, weighted for the synthesis.
-    kernelgen::ComplexConstant cosineBin(int k) const;
-    kernelgen::ComplexConstant sineBin(int k) const;
-
-    int prime, q;
-
-private:
-    kernelgen::RaderOrder order_;
-    std::vector<Constant> cosines_, sines_;
-};
-
 }   // namespace kfm::dft::complex

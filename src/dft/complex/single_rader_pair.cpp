@@ -33,7 +33,7 @@ Positions residuesModulo4(const Plan& plan, const RaderOrder& order) {
                                                    int k) {
         std::vector<Constant> sequence;
         for (int i = 0; i < q; ++i) sequence.push_back(roots[position(i, lane)]);
-        return scaled(constantBin(sequence, k), binWeight(k, q));
+        return weightedBin(sequence, k);
     };
     const auto constants = [&order, transformOf](int k) {
         const auto c0 = transformOf(order.cosines, 0, k), c1 = transformOf(order.cosines, 1, k);
@@ -60,7 +60,7 @@ Positions evenAndOddSamples(const Plan& plan, const RaderOrder& order) {
             sequence[((t + 2 * n) % (2 * n)) / 2] =
                 !sine ? order.cosines[root] : root % 2 == 0 ? s : -s;
         }
-        return scaled(constantBin(sequence, k), binWeight(k, n));
+        return weightedBin(sequence, k);
     };
     const auto constants = [transformOf, n](int k) {
         const ComplexConstant delay = {Constant::cosTurn(k, n), -Constant::sinTurn(k, n)};
