@@ -47,6 +47,12 @@ Real* takeArray(void* arena, Bytes bytes) {
     return static_cast<Real*>(kfmgArenaMalloc(arena, static_cast<int>(bytes)));
 }
 
+// The end of such an array; a null one took nothing.
+template <class Real>
+void returnArray(void* arena, Real* array, Bytes bytes) {
+    kfmgArenaFree(arena, array, array ? static_cast<int>(bytes) : 0);
+}
+
 template <class Kind>
 void initEnvironment(Kind& environment, void* arena) {
     environment.release = Operations<Kind>::release;

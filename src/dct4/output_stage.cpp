@@ -110,8 +110,7 @@ KfmStatus Env4<Real>::build() {
 
 template <class Real>
 void Env4<Real>::del() {
-    const Bytes bytes = table ? tableBytes<Real>(blocks, d) : 0;
-    kfmgArenaFree(arena, table, static_cast<int>(bytes));
+    returnArray<Real>(arena, table, tableBytes<Real>(blocks, d));
     deleteChildren(*this);
 }
 

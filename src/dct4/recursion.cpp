@@ -81,8 +81,7 @@ KfmStatus Env7<Real>::build() {
 
 template <class Real>
 void Env7<Real>::del() {
-    const Bytes bytes = scratch ? scratchBytes<Real>(a, len, true) : 0;
-    kfmgArenaFree(arena, scratch, static_cast<int>(bytes));
+    returnArray<Real>(arena, scratch, scratchBytes<Real>(a, len, true));
     deleteList(splitting);
     deleteList(joining);
     deleteChildren(*this);
@@ -164,8 +163,7 @@ void Env8<Real>::fillTable() {
 
 template <class Real>
 void Env8<Real>::del() {
-    const Bytes bytes = table ? Bytes{sizeof(Real)} * a : 0;
-    kfmgArenaFree(arena, table, static_cast<int>(bytes));
+    returnArray<Real>(arena, table, Bytes{sizeof(Real)} * a);
     deleteChildren(*this);
 }
 

@@ -96,8 +96,7 @@ KfmStatus Env1<Real>::buildStages() {
 
 template <class Real>
 void Env1<Real>::del() {
-    const Bytes bytes = work ? workBytes<Real>(len) : 0;
-    kfmgArenaFree(arena, work, static_cast<int>(bytes));
+    returnArray<Real>(arena, work, workBytes<Real>(len));
     deleteList(inputStage);
     deleteList(outputStage);
     deleteChildren(*this);

@@ -4,6 +4,7 @@
 // primitive root is named it is the one with the smallest rounding errors.
 #include "hartley/factors.h"
 
+#include <bit>
 #include <map>
 #include <stdexcept>
 
@@ -11,16 +12,7 @@ namespace kfm::hartley {
 
 using namespace kernelgen;
 
-namespace {
-
-// Shorter ones gain nothing from a second lane, and the sums of 8 points are fixed one by one.
-constexpr int shortestInLanes = 5;
-
-bool powerOfTwo(int n) { return (n & (n - 1)) == 0; }
-
-}   // namespace
-
-Row row(int n) {
+RealRow row(int n) {
     static const Plan five = factored5(), nine = ct(3, 3), fifteen = pfa(3, five);
     static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(16);
     static const Plan nineteen = rader(pfa(2, nine), 10), twentyThree = rader(pfa(2, 11));
@@ -81,14 +73,14 @@ Row row(int n) {
     const auto found = table.find(n);
     const Plan plan = found == table.end() ? Plan(n) : found->second;
     if (plan.n != n) throw std::invalid_argument("no factor tree of length " + std::to_string(n));
-    return {plan, n < shortestInLanes || n == 8 ? 1 : 2};
+    return RealRow(plan);
 }
 
 Arithmetic arithmetic(int n, bool singlePrecision) {
     Arithmetic result{.mixed = singlePrecision};
     if (!singlePrecision) return result;
     result.rounding = unsigned(Border::result);
-    if (powerOfTwo(n)) result.rounding = Border::rotation | Border::result;
+    if (std::has_single_bit(unsigned(n))) result.rounding = Border::rotation | Border::result;
     return result;
 }
 

@@ -112,7 +112,7 @@ private:
 }   // namespace
 
 Graph hartleyGraph(int n, bool singlePrecision) {
-    const Row plan = row(n);
+    const RealRow plan = row(n);
     Graph g(plan.lanes, arithmetic(n, singlePrecision));
     if (n == 8) {
         eightPoints(g);

@@ -39,4 +39,18 @@ std::string scaleFactors(int n, const Constant& bySqrtN, const registry::Element
            print(Constant::ratio(1, n)) + ", " + print(bySqrtN) + "};\n";
 }
 
+std::string printRealKernel(const RealKernelFile& file, const Graph& g, int n,
+                            const registry::Element& element, const ScheduleChoice& choice) {
+    std::ostringstream out;
+    out << fileHead(file.title, g, choice)
+        << "#include \"core/real_kernel.h\"\n\nnamespace {\n\nusing namespace kfm::simd;\n"
+        << "using kfm::launder;\n\n"
+        << emitTransform(g, "Transform", element, choice, file.packed)
+        << "\nstruct Kernel : Transform {\n"
+        << "    static constexpr kfm::Direction direction = kfm::Direction::" << file.direction
+        << ";\n    " << scaleFactors(n, file.bySqrtN, element, g.lanes())
+        << "};\n\n}   // namespace\n\nextern \"C\" {\n\n" << file.functions << "}\n";
+    return out.str();
+}
+
 }   // namespace kfm::kernelgen

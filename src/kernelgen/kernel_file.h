@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "kernelgen/emit.h"
 #include "kernelgen/graph.h"
 #include "kernelgen/schedule.h"
 #include "kernelgen/target.h"
@@ -31,5 +32,16 @@ std::string fileHead(std::string_view title, const Graph& g, const ScheduleChoic
 // double precision, single values in single precision.
 std::string scaleFactors(int n, const Constant& bySqrtN, const registry::Element& element,
                          int lanes);
+
+// The file of a kernel on real data: its graph as a transform, its scale factors, and `functions`,
+// which run the type `Kernel`.
+struct RealKernelFile {
+    std::string title, direction;   // direction: of the scale factors, "forward"
+    Packed packed;
+    Constant bySqrtN;
+    std::string functions;
+};
+std::string printRealKernel(const RealKernelFile& file, const Graph& g, int n,
+                            const registry::Element& element, const ScheduleChoice& choice);
 
 }   // namespace kfm::kernelgen

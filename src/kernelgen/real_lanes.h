@@ -18,6 +18,16 @@ struct ComplexLanes {
     Lane re, im;   // of one bin; im is zero where the bin is real
 };
 
+// A row of the factor tables of real data.
+struct RealRow {
+    Plan plan;
+    int lanes;   // scalars in a vector; 1: scalar code
+
+    // Lengths below 5 gain nothing from a second lane, and 8 is fixed operation by operation.
+    explicit RealRow(const Plan& plan) : plan(plan), lanes(plan.n < 5 || plan.n == 8 ? 1 : 2) {}
+    std::string text() const { return plan.text() + (lanes == 1 ? "; scalar" : "; two lanes"); }
+};
+
 // X[0..n/2] of the forward transform in single lanes; with one lane per vector, scalar code.
 std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
 

@@ -10,7 +10,6 @@ using kernelgen::LaneConstant;
 using kernelgen::LanePattern;
 using Rows = std::vector<Ref>;
 
-
 Ref reversed(Graph& g, Ref a) {
     LanePattern pattern(g.lanes());
     for (int lane = 0; lane < g.lanes(); ++lane) pattern[lane] = g.lanes() - 1 - lane;

@@ -4,6 +4,7 @@
 // only.
 #include "dft/real/factors.h"
 
+#include <bit>
 #include <map>
 #include <stdexcept>
 
@@ -11,16 +12,7 @@ namespace kfm::dft::real {
 
 using namespace kernelgen;
 
-namespace {
-
-// Shorter ones and 8 gain nothing from a second lane.
-constexpr int shortestInLanes = 5;
-
-bool powerOfTwo(int n) { return (n & (n - 1)) == 0; }
-
-}   // namespace
-
-Row row(int n) {
+RealRow row(int n) {
     static const Plan five = factored5(), fifteen = pfa(3, five);
     static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(16);
     static const Plan nineteen = rader(pfa(2, ct(3, 3)), 3);
@@ -74,15 +66,15 @@ Row row(int n) {
     const auto composite = composites.find(n);
     const Plan plan = composite == composites.end() ? Plan(n) : composite->second;
     if (plan.n != n) throw std::invalid_argument("no factor tree of length " + std::to_string(n));
-    return {plan, n < shortestInLanes || n == 8 ? 1 : 2};
+    return RealRow(plan);
 }
 
 // Powers of two take the products of a rotation one by one before they are added; so do 6 and 9.
 Arithmetic forwardArithmetic(int n, bool singlePrecision) {
-    const bool apart = powerOfTwo(n) || n == 6 || n == 9;
+    const bool apart = std::has_single_bit(unsigned(n)) || n == 6 || n == 9;
     Arithmetic arithmetic{.mixed = singlePrecision, .factoring = !apart};
     if (!singlePrecision) return arithmetic;
-    if (powerOfTwo(n)) arithmetic.rounding = unsigned(Border::rotation);
+    if (std::has_single_bit(unsigned(n))) arithmetic.rounding = unsigned(Border::rotation);
     if (n == 6 || n == 10) arithmetic.rounding = unsigned(Border::module);
     if (n == 9) arithmetic.rounding = Border::module | Border::rotation;
     return arithmetic;
@@ -91,7 +83,7 @@ Arithmetic forwardArithmetic(int n, bool singlePrecision) {
 Arithmetic inverseArithmetic(int n, bool singlePrecision) {
     Arithmetic arithmetic{.mixed = singlePrecision};
     if (!singlePrecision) return arithmetic;
-    if (powerOfTwo(n)) arithmetic.rounding = unsigned(Border::rotation);
+    if (std::has_single_bit(unsigned(n))) arithmetic.rounding = unsigned(Border::rotation);
     if (n == 3) arithmetic.rounding = unsigned(Border::module);
     return arithmetic;
 }

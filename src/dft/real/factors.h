@@ -2,17 +2,11 @@
 // and where kernels of single precision round.
 #pragma once
 
-#include "kernelgen/graph.h"
-#include "kernelgen/plan.h"
+#include "kernelgen/real_lanes.h"
 
 namespace kfm::dft::real {
 
-struct Row {
-    kernelgen::Plan plan;
-    int lanes;   // 1: scalar code
-};
-
-Row row(int n);
+kernelgen::RealRow row(int n);
 
 kernelgen::Arithmetic forwardArithmetic(int n, bool singlePrecision);
 kernelgen::Arithmetic inverseArithmetic(int n, bool singlePrecision);

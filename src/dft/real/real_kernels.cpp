@@ -4,7 +4,6 @@
 #include <sstream>
 
 #include "dft/real/factors.h"
-#include "kernelgen/emit.h"
 #include "kernelgen/kernel_file.h"
 
 namespace kfm::dft::real {
@@ -14,9 +13,6 @@ using registry::Element;
 using registry::Family;
 
 namespace {
-
-constexpr std::string_view forwardKernels = "DFTFwd_RToPacked";
-constexpr std::string_view inverseKernels = "DFTInv_PackedToR";
 
 ScheduleChoice forwardChoice(int n, const Element& element, const Target& target) {
     static constexpr ScheduleRow rows[] = {
@@ -32,10 +28,7 @@ ScheduleChoice inverseChoice(int n, const Element& element, const Target& target
     return findSchedule(rows, n, element, target);
 }
 
-std::string describe(int n, const Element&) {
-    const Row plan = row(n);
-    return plan.plan.text() + (plan.lanes == 1 ? "; scalar" : "; two lanes");
-}
+std::string describe(int n, const Element&) { return row(n).text(); }
 
 // 1/sqrt(n) as two operations give it, which is not always the nearest double.
 Constant twoStepInverseSqrt(int n) {
@@ -65,51 +58,37 @@ std::string function(const Family& family, int n, const Element& element) {
     return out.str();
 }
 
-std::string emit(bool inverse, const Graph& g, int n, const Element& element,
-                 const ScheduleChoice& choice, std::span<const Family* const> families) {
-    std::ostringstream out;
-    out << fileHead((inverse ? "Inverse real DFT, " : "Real DFT, ") + describe(n, element), g,
-                    choice)
-        << "#include \"core/real_kernel.h\"\n\nnamespace {\n\nusing namespace kfm::simd;\n"
-        << "using kfm::launder;\n\n"
-        << emitTransform(g, "Transform", element, choice,
-                         inverse ? Packed::source : Packed::destination)
-        << "\nstruct Kernel : Transform {\n"
-        << "    static constexpr kfm::Direction direction = kfm::Direction::"
-        << (inverse ? "inverse" : "forward") << ";\n    "
-        << scaleFactors(n, twoStepInverseSqrt(n), element, g.lanes())
-        << "};\n\n}   // namespace\n\nextern \"C\" {\n\n";
-    for (const Family* family : families) out << function(*family, n, element) << "\n";
-    out << "}\n";
-    return out.str();
+Graph graph(bool inverse, int n, const Element& element) {
+    const bool single = !element.doublePrecision;
+    return inverse ? inverseGraph(n, single) : forwardGraph(n, single);
+}
+
+std::string emit(bool inverse, int n, const Element& element, const ScheduleChoice& choice,
+                 std::span<const Family* const> families) {
+    std::string functions;
+    for (const Family* family : families) functions += function(*family, n, element) + "\n";
+    const std::string title = (inverse ? "Inverse real DFT, " : "Real DFT, ") + describe(n, element);
+    return printRealKernel({title, inverse ? "inverse" : "forward",
+                            inverse ? Packed::source : Packed::destination,
+                            twoStepInverseSqrt(n), functions},
+                           graph(inverse, n, element), n, element, choice);
+}
+
+KernelFamily family(bool inverse) {
+    return {inverse ? "DFTInv_PackedToR" : "DFTFwd_RToPacked",
+            [=](int n, const Element& element, const Target&, bool) {
+                return graph(inverse, n, element);
+            },
+            describe, inverse ? inverseChoice : forwardChoice,
+            [=](int n, const Element& element, const Target&, const ScheduleChoice& choice,
+                std::span<const Family* const> families) {
+                return emit(inverse, n, element, choice, families);
+            }};
 }
 
 }   // namespace
 
-KernelFamily forwardFamily() {
-    const auto graph = [](int n, const Element& element, const Target&, bool) {
-        return forwardGraph(n, !element.doublePrecision);
-    };
-    const auto write = [](int n, const Element& element, const Target&,
-                          const ScheduleChoice& choice,
-                          std::span<const Family* const> families) {
-        return emit(false, forwardGraph(n, !element.doublePrecision), n, element, choice,
-                    families);
-    };
-    return {forwardKernels, graph, describe, forwardChoice, write};
-}
-
-KernelFamily inverseFamily() {
-    const auto graph = [](int n, const Element& element, const Target&, bool) {
-        return inverseGraph(n, !element.doublePrecision);
-    };
-    const auto write = [](int n, const Element& element, const Target&,
-                          const ScheduleChoice& choice,
-                          std::span<const Family* const> families) {
-        return emit(true, inverseGraph(n, !element.doublePrecision), n, element, choice,
-                    families);
-    };
-    return {inverseKernels, graph, describe, inverseChoice, write};
-}
+KernelFamily forwardFamily() { return family(false); }
+KernelFamily inverseFamily() { return family(true); }
 
 }   // namespace kfm::dft::real
