@@ -9,13 +9,13 @@ namespace kfm::simd {
 
 using f32x2 = __m128;
 
-inline f64x2 widen(f32x2 a) { return _mm_cvtps_pd(a); }
-inline f32x2 narrow(f64x2 a) { return _mm_cvtpd_ps(a); }
-inline f32x2 subtractFromZero(f32x2 a) { return _mm_sub_ps(_mm_setzero_ps(), a); }
+KFM_OPERATION f64x2 widen(f32x2 a) { return _mm_cvtps_pd(a); }
+KFM_OPERATION f32x2 narrow(f64x2 a) { return _mm_cvtpd_ps(a); }
+KFM_OPERATION f32x2 subtractFromZero(f32x2 a) { return _mm_sub_ps(_mm_setzero_ps(), a); }
 
 // The lanes i0, i1 of a (0, 1) and b (2, 3); -1: zero.
 template <int i0, int i1>
-inline f32x2 select(f32x2 a, f32x2 b) {
+KFM_OPERATION f32x2 select(f32x2 a, f32x2 b) {
     const f32x2 first = i0 < 2 ? a : b, second = i1 < 2 ? a : b;
     if constexpr (i1 < 0) {
         static_assert(i0 == 0, "only the lower lane stays alone");
@@ -35,13 +35,13 @@ inline f32x2 select(f32x2 a, f32x2 b) {
     }
 }
 
-inline f32x2 loadLow(const float* p) { return _mm_load_ss(p); }
-inline f32x2 loadHalves(const float* low, const float* high) {
+KFM_OPERATION f32x2 loadLow(const float* p) { return _mm_load_ss(p); }
+KFM_OPERATION f32x2 loadHalves(const float* low, const float* high) {
     return _mm_unpacklo_ps(_mm_load_ss(low), _mm_load_ss(high));
 }
-inline void storeLow(float* p, f32x2 v) { _mm_store_ss(p, v); }
-inline void storeHigh(float* p, f32x2 v) { _mm_store_ss(p, _mm_shuffle_ps(v, v, 1)); }
-inline void storeHalves(float* low, float* high, f32x2 v) {
+KFM_OPERATION void storeLow(float* p, f32x2 v) { _mm_store_ss(p, v); }
+KFM_OPERATION void storeHigh(float* p, f32x2 v) { _mm_store_ss(p, _mm_shuffle_ps(v, v, 1)); }
+KFM_OPERATION void storeHalves(float* low, float* high, f32x2 v) {
     storeLow(low, v);
     storeHigh(high, v);
 }

@@ -4,23 +4,26 @@
 #include <emmintrin.h>
 
 #include "kfmgen.h"
+#include "simd/operation.h"
 
 namespace kfm::simd {
 
 using f32x4 = __m128;
 
-inline f32x4 add(f32x4 a, f32x4 b) { return _mm_add_ps(a, b); }
-inline f32x4 sub(f32x4 a, f32x4 b) { return _mm_sub_ps(a, b); }
-inline f32x4 mul(f32x4 a, f32x4 b) { return _mm_mul_ps(a, b); }
+KFM_OPERATION f32x4 add(f32x4 a, f32x4 b) { return _mm_add_ps(a, b); }
+KFM_OPERATION f32x4 sub(f32x4 a, f32x4 b) { return _mm_sub_ps(a, b); }
+KFM_OPERATION f32x4 mul(f32x4 a, f32x4 b) { return _mm_mul_ps(a, b); }
 // Changes the sign of the lanes in which the mask holds -0.0.
-inline f32x4 flip(f32x4 a, f32x4 mask) { return _mm_xor_ps(a, mask); }
-inline f32x4 broadcast(const float* value) { return _mm_load1_ps(value); }
-inline f32x4 constant(const float* table, int index) { return _mm_load_ps(table + 4 * index); }
-inline void pin(f32x4& a) { asm("" : "+x"(a)); }
+KFM_OPERATION f32x4 flip(f32x4 a, f32x4 mask) { return _mm_xor_ps(a, mask); }
+KFM_OPERATION f32x4 broadcast(const float* value) { return _mm_load1_ps(value); }
+KFM_OPERATION f32x4 constant(const float* table, int index) {
+    return _mm_load_ps(table + 4 * index);
+}
+KFM_OPERATION void pin(f32x4& a) { asm("" : "+x"(a)); }
 
 // The lanes i0..i3 of a (0..3) and b (4..7), where one instruction does it.
 template <int i0, int i1, int i2, int i3>
-inline f32x4 select(f32x4 a, f32x4 b) {
+KFM_OPERATION f32x4 select(f32x4 a, f32x4 b) {
     constexpr auto is = [](int j0, int j1, int j2, int j3) {
         return i0 == j0 && i1 == j1 && i2 == j2 && i3 == j3;
     };
@@ -47,38 +50,44 @@ inline f32x4 select(f32x4 a, f32x4 b) {
 
 // Two real elements in the low lanes, zeros in the others.
 struct HalfSingle {
-    static f32x4 load(const Kfm32f* p) {
+    KFM_OPERATION static f32x4 load(const Kfm32f* p) {
         return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
     }
-    static void store(Kfm32f* p, f32x4 v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+    KFM_OPERATION static void store(Kfm32f* p, f32x4 v) {
+        _mm_storel_pi(reinterpret_cast<__m64*>(p), v);
+    }
 };
 
 // Two neighbouring complex elements move as a whole vector, others by halves; four real ones as a
 // whole vector.
 struct AlignedSingle {
-    static f32x4 load(const Kfm32f* p) { return _mm_load_ps(p); }
-    static void store(Kfm32f* p, f32x4 v) { _mm_store_ps(p, v); }
-    static f32x4 loadPair(const Kfm32fc* p) {
+    KFM_OPERATION static f32x4 load(const Kfm32f* p) { return _mm_load_ps(p); }
+    KFM_OPERATION static void store(Kfm32f* p, f32x4 v) { _mm_store_ps(p, v); }
+    KFM_OPERATION static f32x4 loadPair(const Kfm32fc* p) {
         return _mm_load_ps(reinterpret_cast<const float*>(p));
     }
-    static void storePair(Kfm32fc* p, f32x4 v) { _mm_store_ps(reinterpret_cast<float*>(p), v); }
+    KFM_OPERATION static void storePair(Kfm32fc* p, f32x4 v) {
+        _mm_store_ps(reinterpret_cast<float*>(p), v);
+    }
 };
 
 struct UnalignedSingle {
-    static f32x4 load(const Kfm32f* p) { return _mm_loadu_ps(p); }
-    static void store(Kfm32f* p, f32x4 v) { _mm_storeu_ps(p, v); }
-    static f32x4 loadPair(const Kfm32fc* p) {
+    KFM_OPERATION static f32x4 load(const Kfm32f* p) { return _mm_loadu_ps(p); }
+    KFM_OPERATION static void store(Kfm32f* p, f32x4 v) { _mm_storeu_ps(p, v); }
+    KFM_OPERATION static f32x4 loadPair(const Kfm32fc* p) {
         return _mm_loadu_ps(reinterpret_cast<const float*>(p));
     }
-    static void storePair(Kfm32fc* p, f32x4 v) { _mm_storeu_ps(reinterpret_cast<float*>(p), v); }
+    KFM_OPERATION static void storePair(Kfm32fc* p, f32x4 v) {
+        _mm_storeu_ps(reinterpret_cast<float*>(p), v);
+    }
 };
 
-inline f32x4 loadLow(const Kfm32fc* p) { return HalfSingle::load(&p->re); }
-inline f32x4 loadHalves(const Kfm32fc* low, const Kfm32fc* high) {
+KFM_OPERATION f32x4 loadLow(const Kfm32fc* p) { return HalfSingle::load(&p->re); }
+KFM_OPERATION f32x4 loadHalves(const Kfm32fc* low, const Kfm32fc* high) {
     return _mm_loadh_pi(loadLow(low), reinterpret_cast<const __m64*>(high));
 }
-inline void storeLow(Kfm32fc* p, f32x4 v) { HalfSingle::store(&p->re, v); }
-inline void storeHalves(Kfm32fc* low, Kfm32fc* high, f32x4 v) {
+KFM_OPERATION void storeLow(Kfm32fc* p, f32x4 v) { HalfSingle::store(&p->re, v); }
+KFM_OPERATION void storeHalves(Kfm32fc* low, Kfm32fc* high, f32x4 v) {
     _mm_storel_pi(reinterpret_cast<__m64*>(low), v);
     _mm_storeh_pi(reinterpret_cast<__m64*>(high), v);
 }

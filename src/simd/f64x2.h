@@ -4,6 +4,7 @@
 #include <emmintrin.h>
 
 #include "kfmgen.h"
+#include "simd/operation.h"
 
 namespace kfm::simd {
 
@@ -13,21 +14,23 @@ struct alignas(16) DoublePair {
     double low, high;
 };
 
-inline f64x2 add(f64x2 a, f64x2 b) { return _mm_add_pd(a, b); }
-inline f64x2 sub(f64x2 a, f64x2 b) { return _mm_sub_pd(a, b); }
-inline f64x2 mul(f64x2 a, f64x2 b) { return _mm_mul_pd(a, b); }
+KFM_OPERATION f64x2 add(f64x2 a, f64x2 b) { return _mm_add_pd(a, b); }
+KFM_OPERATION f64x2 sub(f64x2 a, f64x2 b) { return _mm_sub_pd(a, b); }
+KFM_OPERATION f64x2 mul(f64x2 a, f64x2 b) { return _mm_mul_pd(a, b); }
 // Changes the sign of the lanes in which the mask holds -0.0.
-inline f64x2 flip(f64x2 a, f64x2 mask) { return _mm_xor_pd(a, mask); }
-inline f64x2 broadcast(const DoublePair* value) { return _mm_load_pd(&value->low); }
-inline f64x2 broadcast(const double* value) { return _mm_load1_pd(value); }
-inline f64x2 constant(const double* table, int index) { return _mm_load_pd(table + 2 * index); }
-inline void pin(f64x2& a) { asm("" : "+x"(a)); }
+KFM_OPERATION f64x2 flip(f64x2 a, f64x2 mask) { return _mm_xor_pd(a, mask); }
+KFM_OPERATION f64x2 broadcast(const DoublePair* value) { return _mm_load_pd(&value->low); }
+KFM_OPERATION f64x2 broadcast(const double* value) { return _mm_load1_pd(value); }
+KFM_OPERATION f64x2 constant(const double* table, int index) {
+    return _mm_load_pd(table + 2 * index);
+}
+KFM_OPERATION void pin(f64x2& a) { asm("" : "+x"(a)); }
 
-inline f64x2 subtractFromZero(f64x2 a) { return _mm_sub_pd(_mm_setzero_pd(), a); }
+KFM_OPERATION f64x2 subtractFromZero(f64x2 a) { return _mm_sub_pd(_mm_setzero_pd(), a); }
 
 // The lanes i0, i1 of a (0, 1) and b (2, 3); -1: zero.
 template <int i0, int i1>
-inline f64x2 select(f64x2 a, f64x2 b) {
+KFM_OPERATION f64x2 select(f64x2 a, f64x2 b) {
     const f64x2 first = i0 < 2 ? a : b, second = i1 < 2 ? a : b;
     if constexpr (i1 >= 0) return _mm_shuffle_pd(first, second, (i0 & 1) | (i1 & 1) << 1);
     else if constexpr (i0 % 2 == 1) return _mm_unpackhi_pd(first, _mm_setzero_pd());
@@ -35,30 +38,34 @@ inline f64x2 select(f64x2 a, f64x2 b) {
 }
 
 // Single elements.
-inline f64x2 loadLow(const double* p) { return _mm_load_sd(p); }
-inline f64x2 loadHalves(const double* low, const double* high) {
+KFM_OPERATION f64x2 loadLow(const double* p) { return _mm_load_sd(p); }
+KFM_OPERATION f64x2 loadHalves(const double* low, const double* high) {
     return _mm_loadh_pd(_mm_load_sd(low), high);
 }
-inline void storeLow(double* p, f64x2 v) { _mm_storel_pd(p, v); }
-inline void storeHigh(double* p, f64x2 v) { _mm_storeh_pd(p, v); }
-inline void storeHalves(double* low, double* high, f64x2 v) {
+KFM_OPERATION void storeLow(double* p, f64x2 v) { _mm_storel_pd(p, v); }
+KFM_OPERATION void storeHigh(double* p, f64x2 v) { _mm_storeh_pd(p, v); }
+KFM_OPERATION void storeHalves(double* low, double* high, f64x2 v) {
     storeLow(low, v);
     storeHigh(high, v);
 }
 
 // A complex element at an odd address moves by halves, two real ones as a whole.
 struct AlignedDouble {
-    static f64x2 load(const Kfm64f* p) { return _mm_load_pd(p); }
-    static void store(Kfm64f* p, f64x2 v) { _mm_store_pd(p, v); }
-    static f64x2 load(const Kfm64fc* p) { return _mm_load_pd(reinterpret_cast<const double*>(p)); }
-    static void store(Kfm64fc* p, f64x2 v) { _mm_store_pd(reinterpret_cast<double*>(p), v); }
+    KFM_OPERATION static f64x2 load(const Kfm64f* p) { return _mm_load_pd(p); }
+    KFM_OPERATION static void store(Kfm64f* p, f64x2 v) { _mm_store_pd(p, v); }
+    KFM_OPERATION static f64x2 load(const Kfm64fc* p) {
+        return _mm_load_pd(reinterpret_cast<const double*>(p));
+    }
+    KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) {
+        _mm_store_pd(reinterpret_cast<double*>(p), v);
+    }
 };
 
 struct UnalignedDouble {
-    static f64x2 load(const Kfm64f* p) { return _mm_loadu_pd(p); }
-    static void store(Kfm64f* p, f64x2 v) { _mm_storeu_pd(p, v); }
-    static f64x2 load(const Kfm64fc* p) { return loadHalves(&p->re, &p->im); }
-    static void store(Kfm64fc* p, f64x2 v) { storeHalves(&p->re, &p->im, v); }
+    KFM_OPERATION static f64x2 load(const Kfm64f* p) { return _mm_loadu_pd(p); }
+    KFM_OPERATION static void store(Kfm64f* p, f64x2 v) { _mm_storeu_pd(p, v); }
+    KFM_OPERATION static f64x2 load(const Kfm64fc* p) { return loadHalves(&p->re, &p->im); }
+    KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) { storeHalves(&p->re, &p->im, v); }
 };
 
 }   // namespace kfm::simd

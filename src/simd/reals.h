@@ -21,27 +21,27 @@ struct WholeVector<double> {
 template <class Real>
 using VectorOf = typename WholeVector<Real>::Type;
 
-inline f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
-inline f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
-inline f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
-inline f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
-inline f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
-inline f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
-inline void storeAligned(float* p, f32x4 v) { _mm_store_ps(p, v); }
-inline void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
-inline void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
-inline void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
+KFM_OPERATION f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
+KFM_OPERATION f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
+KFM_OPERATION f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
+KFM_OPERATION f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
+KFM_OPERATION f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
+KFM_OPERATION f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
+KFM_OPERATION void storeAligned(float* p, f32x4 v) { _mm_store_ps(p, v); }
+KFM_OPERATION void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
+KFM_OPERATION void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
+KFM_OPERATION void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
 
 // Aligned, to memory without a detour through the caches; cheap where whole cache lines are
 // written. Ends with finishStreaming(), which makes the stores visible in order.
-inline void storeStreaming(float* p, f32x4 v) { _mm_stream_ps(p, v); }
-inline void storeStreaming(double* p, f64x2 v) { _mm_stream_pd(p, v); }
-inline void finishStreaming() { _mm_sfence(); }
+KFM_OPERATION void storeStreaming(float* p, f32x4 v) { _mm_stream_ps(p, v); }
+KFM_OPERATION void storeStreaming(double* p, f64x2 v) { _mm_stream_pd(p, v); }
+KFM_OPERATION void finishStreaming() { _mm_sfence(); }
 
 // Not the integer shuffle that select would take: compilers fetch its operand from memory, by way
 // of the stack when it came from an address without alignment.
-inline f32x4 reverse(f32x4 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3)); }
-inline f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }
+KFM_OPERATION f32x4 reverse(f32x4 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3)); }
+KFM_OPERATION f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }
 
 // One lane in all lanes.
 template <int lane>
@@ -49,7 +49,7 @@ f32x4 everywhere(f32x4 v) { return select<lane, lane, lane, lane>(v, v); }
 template <int lane>
 f64x2 everywhere(f64x2 v) { return select<lane, lane>(v, v); }
 
-inline void transpose(f32x4 (&rows)[4]) {
+KFM_OPERATION void transpose(f32x4 (&rows)[4]) {
     const f32x4 low01 = select<0, 4, 1, 5>(rows[0], rows[1]);
     const f32x4 high01 = select<2, 6, 3, 7>(rows[0], rows[1]);
     const f32x4 low23 = select<0, 4, 1, 5>(rows[2], rows[3]);
@@ -60,7 +60,7 @@ inline void transpose(f32x4 (&rows)[4]) {
     rows[3] = select<2, 3, 6, 7>(high01, high23);
 }
 
-inline void transpose(f64x2 (&rows)[2]) {
+KFM_OPERATION void transpose(f64x2 (&rows)[2]) {
     const f64x2 first = rows[0];
     rows[0] = select<0, 2>(first, rows[1]);
     rows[1] = select<1, 3>(first, rows[1]);
