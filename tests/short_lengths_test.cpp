@@ -1,249 +1,28 @@
-// The real transforms of the shortest lengths, operation by operation: their outputs must have
-// these bits. Sums and differences are of the element type, products by constants in double
-// precision; a value is rounded to the element type before it is scaled, or scaled in double and
-// rounded once.
+// The real transforms of the shortest lengths have the bits of their written-out formulas, down to
+// the signs of zeros.
 #include <cmath>
+#include <cstring>
 
-#include "support/symmetric_pairs.h"
+#include "support/formulas.h"
+#include "support/oracle.h"
 
 namespace kfm::tests {
 namespace {
 
-constexpr double sqrtHalf = 0.7071067811865476;
-constexpr double sinThird = 0.8660254037844386;   // of a turn
+using Lengths = std::initializer_list<int>;
 
-struct Value {
-    double number;
-    bool scaledBeforeRounding = false;
-};
-
-template <class Real>
-double scaled(const Value& value, double scale) {
-    if (value.scaledBeforeRounding) return static_cast<Real>(value.number * scale);
-    return static_cast<Real>(static_cast<Real>(value.number) * static_cast<Real>(scale));
+std::vector<Transform> transformsOf(const char* family, Lengths lengths) {
+    std::vector<Transform> result;
+    for (int length : lengths)
+        for (const char* element : {"32f", "64f"})
+            result.push_back(*findTransform(family, length, element));
+    return result;
 }
 
-struct Bin {
-    Value re, im = {0};
-};
-
-template <class Real>
-using Reals = std::vector<Real>;
-using Values = std::vector<Value>;
-using Bins = std::vector<Bin>;
-
-// Sign changes are subtractions from zero, so that zero keeps its sign.
-template <class Real>
-Real negated(Real value) {
-    return 0 - value;
-}
-
-template <class Real>
-Bins primeBins(const Reals<Real>& x) {
-    const PairTransform<Real, double> pairs(x);
-    Bins bins = {{{pairs.total}}};
-    for (std::size_t k = 0; k < pairs.bins.cosines.size(); ++k)
-        bins.push_back({{pairs.bins.cosines[k], true}, {negated(pairs.bins.sines[k]), true}});
-    return bins;
-}
-
-template <class Real>
-Bins bins4(const Reals<Real>& x) {
-    const Real e = x[0] + x[2], o = x[1] + x[3];
-    return {{{e + o}}, {{x[0] - x[2]}, {negated(x[1] - x[3])}}, {{e - o}}};
-}
-
-template <class Real>
-Bins bins8(const Reals<Real>& x) {
-    const Real e0 = x[0] + x[4], e1 = x[2] + x[6], o0 = x[1] + x[5], o1 = x[3] + x[7];
-    const Real E = e0 + e1, O = o0 + o1;
-    const Real p = (x[1] - x[5]) * sqrtHalf, q = (x[3] - x[7]) * sqrtHalf;
-    const Real u = p + q, v = p - q, d = x[0] - x[4], f = x[2] - x[6];
-    return {{{E + O}},
-            {{d + v}, {negated<Real>(f + u)}},
-            {{e0 - e1}, {negated(o0 - o1)}},
-            {{d - v}, {negated<Real>(u - f)}},
-            {{E - O}}};
-}
-
-// Twice a prime: one transform over the even samples, one centred on the middle sample. At 14 and 22
-// sums of products stay in double precision up to the output.
-template <class Real>
-Bins twicePrimeBins(const Reals<Real>& x) {
-    const std::size_t n = x.size(), p = n / 2;
-    Reals<Real> even, odd;
-    for (std::size_t i = 0; i < p; ++i) {
-        even.push_back(x[2 * i]);
-        odd.push_back(x[(p + 2 * i) % n]);
-    }
-    const PairTransform<Real, double> E(even), O(odd);
-    Bins bins(p + 1);
-    bins[0].re = {E.total + O.total};
-    bins[p].re = {E.total - O.total};
-    for (std::size_t k = 1; 2 * k < p; ++k) {
-        const auto pair = [&]<class Wide>(Wide) {
-            const bool once = p > 5;
-            const Wide e = E.bins.cosines[k - 1], o = O.bins.cosines[k - 1];
-            const Wide f = E.bins.sines[k - 1], g = O.bins.sines[k - 1];
-            // Odd bins subtract; the other bin of the pair is the mirrored one.
-            const Bin sum = {{e + o, once}, {k % 2 ? f + g : negated<Wide>(f + g), once}};
-            const Bin difference = {{e - o, once}, {k % 2 ? negated<Wide>(f - g) : f - g, once}};
-            bins[k] = k % 2 ? difference : sum;
-            bins[p - k] = k % 2 ? sum : difference;
-        };
-        p > 5 ? pair(double()) : pair(Real());
-    }
-    return bins;
-}
-
-// A three-point transform: the sum, and bin 1 as t - iu.
-template <class Real, class Wide>
-struct Three {
-    Real sum;
-    Wide t, u;
-
-    Three(Real x0, Real x1, Real x2)
-        : sum(x0 + (x1 + x2)), t(x0 - 0.5 * (x1 + x2)), u((x1 - x2) * sinThird) {}
-
-    // By the angle of which `c` and `s` are cosine and sine.
-    void rotate(double c, double s) {
-        const Wide rotated = t * c - u * s;
-        u = u * c + t * s;
-        t = rotated;
-    }
-};
-
-// Three residue classes, rounded before and after their rotation, and three points across them.
-template <class Real>
-Bins bins9(const Reals<Real>& x) {
-    const Three<Real, Real> first(x[0], x[3], x[6]);
-    Three<Real, Real> second(x[1], x[4], x[7]), third(x[2], x[5], x[8]);
-    second.rotate(0.766044443118978, 0.6427876096865394);
-    third.rotate(0.17364817766693036, 0.984807753012208);
-    const Three<Real, double> sums(first.sum, second.sum, third.sum);
-    const Three<Real, double> re(first.t, second.t, third.t), im(first.u, second.u, third.u);
-    return {{{sums.sum}},
-            {{re.sum}, {negated(im.sum)}},
-            {{re.t + im.u, true}, {im.t - re.u, true}},
-            {{sums.t, true}, {negated(sums.u), true}},
-            {{re.t - im.u, true}, {negated(im.t + re.u), true}}};
-}
-
-template <class Real>
-Bins forwardBins(const Reals<Real>& x) {
-    switch (x.size()) {
-        case 2: return {{{x[0] + x[1]}}, {{x[0] - x[1]}}};
-        case 4: return bins4(x);
-        case 8: return bins8(x);
-        case 9: return bins9(x);
-        case 6:
-        case 10:
-        case 14:
-        case 22: return twicePrimeBins(x);
-    }
-    return primeBins(x);
-}
-
-template <class Real>
-Values forward(const Reals<Real>& x) {
-    Values ccs;
-    for (const Bin& bin : forwardBins(x)) ccs.insert(ccs.end(), {bin.re, bin.im});
-    return ccs;
-}
-
-// From a CCS array.
-template <class Real>
-Values primeInverse(const Reals<Real>& spectrum) {
-    const std::size_t half = spectrum.size() / 2 - 1;
-    Reals<Real> a, b;
-    Real total = spectrum[0];
-    for (std::size_t k = 1; k <= half; ++k) {
-        a.push_back(2 * spectrum[2 * k]);
-        b.push_back(2 * spectrum[2 * k + 1]);
-        total += a.back();
-    }
-    const auto sums = trigonometricSums<double>(spectrum[0], a, b);
-    Values x(2 * half + 1);
-    x[0] = {total};
-    for (std::size_t j = 1; j <= half; ++j) {
-        const double c = sums.cosines[j - 1], d = sums.sines[j - 1];
-        if (half == 1) {
-            x[j] = {Real(c) - Real(d)};
-            x[x.size() - j] = {Real(c) + Real(d)};
-        } else {
-            x[j] = {c - d, true};
-            x[x.size() - j] = {c + d, true};
-        }
-    }
-    return x;
-}
-
-template <class Real>
-Values inverse8(const Reals<Real>& X) {
-    const Real r1 = 2 * X[2], i1 = 2 * X[3], r2 = 2 * X[4], i2 = 2 * X[5], r3 = 2 * X[6],
-               i3 = 2 * X[7];
-    const Real a = X[0] + X[8], b = X[0] - X[8];
-    const Real u0 = a + r2, u1 = b - i2, u2 = a - r2, u3 = b + i2;
-    const Real p = r1 - r3, q = i1 + i3, v0 = r1 + r3, v2 = i3 - i1;
-    const Real v1 = (p - q) * sqrtHalf, v3 = (p + q) * sqrtHalf;
-    return {{u0 + v0}, {u1 + v1}, {u2 + v2}, {u3 - v3},
-            {u0 - v0}, {u1 - v1}, {u2 - v2}, {u3 + v3}};
-}
-
-template <class Real>
-Values inverse(const Reals<Real>& X, int length) {
-    if (length == 2) return {{X[0] + X[2]}, {X[0] - X[2]}};
-    if (length == 8) return inverse8(X);
-    if (length != 4) return primeInverse(X);
-    const Real r = 2 * X[2], i = 2 * X[3], sum = X[0] + X[4], difference = X[0] - X[4];
-    return {{sum + r}, {difference - i}, {sum - r}, {difference + i}};
-}
-
-template <class Real>
-Values hartley8(const Reals<Real>& x) {
-    const Real p = sqrtHalf * (x[1] - x[5]), q = sqrtHalf * (x[3] - x[7]);
-    const Real e0 = x[0] + x[4], e1 = x[0] - x[4], f0 = x[2] + x[6], f1 = x[2] - x[6];
-    const Real g = x[1] + x[5], h = x[3] + x[7];
-    return {{e0 + f0 + g + h},
-            {(e1 + p - q) + (f1 + p + q)},
-            {e0 - f0 + g - h},
-            {(e1 - p + q) - (f1 - p - q)},
-            {e0 + f0 - g - h},
-            {(e1 - p + q) + (f1 - p - q)},
-            {e0 - f0 - g + h},
-            {(e1 + p - q) - (f1 + p + q)}};
-}
-
-template <class Real>
-Values hartley(const Reals<Real>& x) {
-    const std::size_t n = x.size();
-    if (n == 2) return {{x[0] + x[1]}, {x[0] - x[1]}};
-    if (n == 8) return hartley8(x);
-    if (n == 4) {
-        const Real a = x[0] + x[2], b = x[0] - x[2], c = x[1] + x[3], d = x[1] - x[3];
-        return {{a + c}, {b + d}, {a - c}, {b - d}};
-    }
-    const PairTransform<Real, double> pairs(x);
-    Values H(n);
-    H[0] = {pairs.total};
-    for (std::size_t k = 1; 2 * k < n; ++k) {
-        const Real c = pairs.bins.cosines[k - 1], s = pairs.bins.sines[k - 1];
-        H[k] = {c + s};
-        H[n - k] = {c - s};
-    }
-    return H;
-}
-
-template <class Real>
-Signal expectedOutput(const Transform& transform, const Signal& source, int flag) {
-    const Reals<Real> x(source.begin(), source.end());
-    const Values values = transform.hartley()   ? hartley(x)
-                          : transform.inverse() ? inverse(x, transform.length)
-                                                : forward(x);
-    Signal output;
-    for (const Value& value : values)
-        output.push_back(scaled<Real>(value, roundedScaleFactor(transform, flag)));
-    return output;
+std::vector<Transform> together(std::initializer_list<std::vector<Transform>> lists) {
+    std::vector<Transform> result;
+    for (const auto& list : lists) result.insert(result.end(), list.begin(), list.end());
+    return result;
 }
 
 // Longer kernels group their sums as they like. That shows in the last bit of double precision and
@@ -256,19 +35,13 @@ bool groupsAtWill(const Transform& transform) {
 
 // The other layouts have the values of CCS.
 std::vector<Transform> writtenOut() {
-    std::vector<Transform> result;
-    const auto add = [&](const char* family, std::initializer_list<int> lengths) {
-        for (int length : lengths)
-            for (const char* element : {"32f", "64f"}) {
-                const Transform& transform = *findTransform(family, length, element);
-                if (!transform.element->doublePrecision || !groupsAtWill(transform))
-                    result.push_back(transform);
-            }
-    };
-    add("DFTFwd_RToCCS", {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 14, 22});
-    add("DFTInv_CCSToR", {2, 3, 4, 5, 7, 8, 11});
-    add("Hartley", {2, 3, 4, 5, 7, 8, 11, 23, 47});
-    return result;
+    auto all = together({transformsOf("DFTFwd_RToCCS", {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 14, 22}),
+                         transformsOf("DFTInv_CCSToR", {2, 3, 4, 5, 7, 8, 11}),
+                         transformsOf("Hartley", {2, 3, 4, 5, 7, 8, 11, 23, 47})});
+    std::erase_if(all, [](const Transform& transform) {
+        return transform.element->doublePrecision && groupsAtWill(transform);
+    });
+    return all;
 }
 
 class ShortLengths : public testing::TestWithParam<Transform> {};
@@ -279,9 +52,7 @@ TEST_P(ShortLengths, HaveTheBitsOfTheirFormulas) {
     for (int round = 0; round < 200; ++round) {
         const Signal source = randomSignal(transform, random);
         for (int flag : allFlags) {
-            const Signal expected = transform.element->doublePrecision
-                                        ? expectedOutput<double>(transform, source, flag)
-                                        : expectedOutput<float>(transform, source, flag);
+            const Signal expected = formulaOutput(transform, source, flag);
             const Signal output = run(transform, source, flag);
             for (std::size_t i = groupsAtWill(transform); i < output.size(); ++i)
                 ASSERT_EQ(output[i], expected[i]) << "output " << i << ", flag " << flag;
@@ -290,6 +61,89 @@ TEST_P(ShortLengths, HaveTheBitsOfTheirFormulas) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, ShortLengths, testing::ValuesIn(writtenOut()), caseName);
+
+// All signals of zeros of both signs where there are few, else some of them, and the same with ones
+// among them, whose sums cancel.
+std::vector<Signal> signedZeros(const Transform& transform) {
+    const std::size_t reals = transform.sourceReals();
+    std::vector<Signal> signals;
+    for (unsigned bits = 0; bits < 1u << std::min<std::size_t>(reals, 10); ++bits) {
+        Signal& signal = signals.emplace_back(reals);
+        for (std::size_t i = 0; i < reals; ++i) signal[i] = bits >> i & 1 ? -0.0 : 0.0;
+    }
+    Random random(testSeed());
+    for (int round = 0; round < 400; ++round) {
+        Signal& signal = signals.emplace_back(reals);
+        for (double& value : signal) {
+            value = std::floor(random.uniform(53) * (round % 2 ? 3 : 1));
+            if (random.uniform(53) < 0) value = -value;
+            if (round % 2 == 0) value = std::copysign(0, value);
+        }
+    }
+    return signals;
+}
+
+class SignsOfZeros : public testing::TestWithParam<Transform> {};
+
+TEST_P(SignsOfZeros, AreThoseOfTheFormulas) {
+    const Transform& transform = GetParam();
+    for (const Signal& source : signedZeros(transform)) {
+        const Signal expected = formulaOutput(transform, source, kfmScaleNone);
+        const Signal output = run(transform, source, kfmScaleNone);
+        for (std::size_t i = 0; i < output.size(); ++i)
+            if (expected[i] == 0 && output[i] == 0) {
+                ASSERT_EQ(std::signbit(output[i]), std::signbit(expected[i]))
+                    << "output " << i << " of " << testing::PrintToString(source);
+            }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , SignsOfZeros,
+    testing::ValuesIn(together({transformsOf("DFTFwd_RToCCS", {2, 3, 4, 5, 6, 7, 8, 10}),
+                                transformsOf("DFTInv_CCSToR", {2, 3, 4, 5, 7, 8}),
+                                transformsOf("Hartley", {2, 3, 4, 5, 7, 8, 11, 23, 47})})),
+    caseName);
+
+// An imaginary part that has to change its sign is subtracted from zero.
+class ImaginaryParts : public testing::TestWithParam<Transform> {};
+
+TEST_P(ImaginaryParts, AreNeverNegativeZeros) {
+    const Transform& transform = GetParam();
+    for (const Signal& source : signedZeros(transform)) {
+        const Signal output = run(transform, source, kfmScaleBySqrtN);
+        for (std::size_t i = 3; i < output.size(); i += 2)
+            ASSERT_FALSE(output[i] == 0 && std::signbit(output[i]))
+                << "element " << i << " of " << testing::PrintToString(source);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , ImaginaryParts,
+    testing::ValuesIn(transformsOf("DFTFwd_RToCCS", {3, 4, 5, 7, 8, 11, 13, 17, 19, 23, 29, 31, 37,
+                                                     41, 43, 47, 53, 59, 61})),
+    caseName);
+
+// The even outputs of 16 points are the transform of the eight sums x[n] + x[n+8].
+class Hartley16 : public testing::TestWithParam<Transform> {};
+
+TEST_P(Hartley16, ContainsTheTransformOfEightPoints) {
+    const Transform& sixteen = GetParam();
+    const Transform& eight = *findTransform("Hartley", 8, sixteen.element->suffix);
+    Random random(testSeed());
+    for (int round = 0; round < 500; ++round) {
+        const Signal source = randomSignal(sixteen, random);
+        Signal sums(8);
+        for (int n = 0; n < 8; ++n) sums[n] = source[n] + source[n + 8];
+        const Bytes expected = run(eight, encode(sums, eight), kfmScaleNone);
+        const Signal whole = run(sixteen, source, kfmScaleNone);
+        Signal even(8);
+        for (int k = 0; k < 8; ++k) even[k] = whole[2 * k];
+        ASSERT_EQ(encode(even, eight), expected);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, Hartley16, testing::ValuesIn(transformsOf("Hartley", {16})), caseName);
 
 // By hand, and with each scale factor.
 TEST(ShortestLength, HasTheKnownOutputs) {

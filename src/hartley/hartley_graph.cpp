@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "hartley/factors.h"
+#include "hartley/fixed_sums.h"
 #include "hartley/hartley_kernels.h"
 #include "kernelgen/algorithms.h"
 #include "kernelgen/real_lanes.h"
@@ -10,29 +11,6 @@ namespace kfm::hartley {
 using namespace kernelgen;
 
 namespace {
-
-// The sums of eight points in their fixed grouping.
-void eightPoints(Graph& g) {
-    std::vector<Ref> x;
-    for (int i = 0; i < 8; ++i) x.push_back(g.load(i));
-    const Constant c = Constant::cosTurn(1, 8);
-    const auto product = [&](Ref a) { return g.settle(g.mul(c, a), Border::rotation); };
-    const Ref e0 = g.add(x[0], x[4]), e1 = g.sub(x[0], x[4]);
-    const Ref f0 = g.add(x[2], x[6]), f1 = g.sub(x[2], x[6]);
-    const Ref a = g.add(x[1], x[5]), h = g.add(x[3], x[7]);
-    const Ref p = product(g.sub(x[1], x[5])), q = product(g.sub(x[3], x[7]));
-    const Ref even = g.add(e0, f0), odd = g.sub(e0, f0);
-    g.store(0, -1, g.add(g.add(even, a), h));
-    g.store(4, -1, g.sub(g.sub(even, a), h));
-    g.store(2, -1, g.sub(g.add(odd, a), h));
-    g.store(6, -1, g.add(g.sub(odd, a), h));
-    const Ref e1p = g.sub(g.add(e1, p), q), f1p = g.add(g.add(f1, p), q);
-    const Ref e1m = g.add(g.sub(e1, p), q), f1m = g.sub(g.sub(f1, p), q);
-    g.store(1, -1, g.add(e1p, f1p));
-    g.store(7, -1, g.sub(e1p, f1p));
-    g.store(5, -1, g.add(e1m, f1m));
-    g.store(3, -1, g.sub(e1m, f1m));
-}
 
 // The bins of the last step, two at a time where there are two lanes; bins whose parts stand side
 // by side already come together.
@@ -109,18 +87,26 @@ private:
     std::vector<LaneOutput> outputs_;
 };
 
+std::vector<LaneOutput> outputs(Graph& g, const Plan& plan, std::span<const Lane> x) {
+    if (plan.n == 8) return eightPoints(g, x);
+    if (plan.n == 16) return sixteenPoints(g, x);
+    // C + S with S from +0.0, as formed from a transform with the positive exponent.
+    const bool direct = plan.kind == Plan::Kind::direct && plan.n > 4;
+    std::vector<ComplexLanes> bins =
+        direct ? symmetricPairs(g, x, Sign::plus) : realDftInLanes(g, plan, x);
+    if (direct)
+        for (ComplexLanes& bin : bins) bin.im = -bin.im;
+    return LastSums(g, plan.n, std::move(bins)).run();
+}
+
 }   // namespace
 
 Graph hartleyGraph(int n, bool singlePrecision) {
     const RealRow plan = row(n);
     Graph g(plan.lanes, arithmetic(n, singlePrecision));
-    if (n == 8) {
-        eightPoints(g);
-        return g;
-    }
     std::vector<Lane> x;
     for (int i = 0; i < n; ++i) x.push_back({g.load(i), 0});
-    storeLanes(g, LastSums(g, n, realDftInLanes(g, plan.plan, x)).run());
+    storeLanes(g, outputs(g, plan.plan, x));
     return g;
 }
 

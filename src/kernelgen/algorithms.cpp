@@ -53,13 +53,15 @@ HalfSpectrum symmetricPairs(Graph& g, int n, std::span<const Ref> x) {
         difference[j] = g.settle(g.sub(x[j], x[n - j]), Border::module);
     }
     HalfSpectrum spectrum(half + 1);
+    const bool summedThenNegated = g.arithmetic().exactZeros;   // tells for zeros only
     for (int k = 0; k <= half; ++k) {
         Ref re = x[0], im;
         for (int j = 1; j <= half; ++j) {
             re = g.add(re, g.mul(cosine(long(j) * k, n), sum[j]));
-            im = g.add(im, g.mul(-sine(long(j) * k, n), difference[j]));
+            const Ref term = g.mul(sine(long(j) * k, n), difference[j]);
+            im = g.add(im, summedThenNegated ? term : -term);
         }
-        spectrum[k] = {re, im};
+        spectrum[k] = {re, summedThenNegated ? -im : im};
     }
     return spectrum;
 }

@@ -199,7 +199,7 @@ private:
         const std::string first = address(Packed::source, node.first);
         const std::string second = address(Packed::source, node.second);
         if (complex_ && !single_) return "Memory::load(" + first + ")";
-        if (g_.lanes() == 1) return "*(" + first + ")";
+        if (g_.lanes() == 1) return "load(" + first + ")";
         if (node.second < 0) return "loadLow(" + first + ")";
         if (wholeVector(node.first, node.second)) return "Memory::loadPair(" + first + ")";
         return "loadHalves(" + first + ", " + second + ")";

@@ -3,8 +3,8 @@
 //   a - b = -(b - a) where b - a exists already
 //   c*x + c*y = c*(x + y), which saves a multiplication (the one rewrite that moves a rounding)
 //   0*a = 0;  1*a = a;  (-c)*a = -(c*a);  c*(-a) = -(c*a);  c*(d*a) = (c*d)*a
-//   0 - (a - b) = b - a
 //   select of two negations is the negation of the select; selecting a operand's own lanes is it
+//   0 - (a - b) = b - a, except where the signs of zeros are fixed: it makes -0.0 of +0.0 - -0.0
 #include "kernelgen/graph.h"
 
 #include <algorithm>
@@ -170,7 +170,7 @@ Ref Graph::subtract(Ref a, const LanePattern& lanes) {
     a = a.magnitude();
     const auto isSet = [](int lane) { return lane != 0; };
     if (std::ranges::none_of(mask, isSet)) return a;
-    if (std::ranges::all_of(mask, isSet) && node(a).op == Op::sub)
+    if (!arithmetic_.exactZeros && std::ranges::all_of(mask, isSet) && node(a).op == Op::sub)
         return intern({.op = Op::sub, .a = node(a).b, .b = node(a).a});
     return intern({.op = Op::subtract, .a = a, .pattern = mask});
 }

@@ -51,6 +51,7 @@ struct Arithmetic {
     bool mixed = false;      // products are wide; else all nodes are of the element type
     unsigned rounding = 0;   // the borders at which wide values are rounded
     bool factoring = true;   // c*x + c*y = c*(x + y), c*(d*x) = (c*d)*x
+    bool exactZeros = false; // 0 - (a - b) stays, which is never a negative zero
     bool marking = false;    // keep rounding points of narrow values too, for transposition
 
     bool rounds(Border border) const { return (rounding & unsigned(border)) != 0; }

@@ -5,7 +5,6 @@
 #include <map>
 #include <stdexcept>
 
-#include "kernelgen/algorithms.h"
 #include "kernelgen/evaluate.h"
 
 namespace kfm::kernelgen {
@@ -100,28 +99,6 @@ Ref sumInRuns(Graph& g, Ref start, std::span<const Ref> terms) {
         sum = g.add(sum, part);
     }
     return sum;
-}
-
-// Odd n by the sums and differences of mirrored inputs in the lanes, against (cos, -sin). The
-// imaginary part starts from zero and so never becomes a negative zero.
-Spectrum symmetricPairs(Graph& g, std::span<const Lane> x) {
-    const int n = static_cast<int>(x.size());
-    const MirroredPairs pairs = mirroredPairs(g, x);
-    Spectrum spectrum((n + 1) / 2);
-    spectrum[0] = {low(pairs.total), {}};
-    const Ref start = withZero(g, x[0]);
-    for (int k = 1; 2 * k < n; ++k) {
-        std::vector<Ref> terms;
-        for (std::size_t i = 0; i < pairs.sumAndDifference.size(); ++i) {
-            const long angle = long(i + 1) * k;
-            terms.push_back(g.mul(LaneConstant{Constant::cosTurn(angle, n),
-                                               -Constant::sinTurn(angle, n)},
-                                  pairs.sumAndDifference[i]));
-        }
-        const Ref sum = sumInRuns(g, start, terms);
-        spectrum[k] = {low(sum), high(sum)};
-    }
-    return spectrum;
 }
 
 Ref packRe(Graph& g, const ComplexLanes& a, const ComplexLanes& b) { return pack(g, a.re, b.re); }
@@ -369,6 +346,27 @@ Spectrum scalarDft(Graph& g, const Plan& plan, std::span<const Lane> x) {
 }
 
 }   // namespace
+
+// Sums and differences of mirrored inputs in the lanes, against (cos, sin) or (cos, -sin).
+std::vector<ComplexLanes> symmetricPairs(Graph& g, std::span<const Lane> x, Sign sign) {
+    const int n = static_cast<int>(x.size());
+    const MirroredPairs pairs = mirroredPairs(g, x);
+    Spectrum spectrum((n + 1) / 2);
+    spectrum[0] = {low(pairs.total), {}};
+    const Ref start = withZero(g, x[0]);
+    for (int k = 1; 2 * k < n; ++k) {
+        std::vector<Ref> terms;
+        for (std::size_t i = 0; i < pairs.sumAndDifference.size(); ++i) {
+            const long angle = long(i + 1) * k * static_cast<int>(sign);
+            terms.push_back(
+                g.mul(LaneConstant{Constant::cosTurn(angle, n), Constant::sinTurn(angle, n)},
+                      pairs.sumAndDifference[i]));
+        }
+        const Ref sum = sumInRuns(g, start, terms);
+        spectrum[k] = {low(sum), high(sum)};
+    }
+    return spectrum;
+}
 
 void setBin(std::vector<ComplexLanes>& spectrum, int n, int k, ComplexLanes value) {
     if (2 * k <= n)

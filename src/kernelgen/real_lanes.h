@@ -9,6 +9,7 @@
 #include <span>
 #include <vector>
 
+#include "kernelgen/algorithms.h"
 #include "kernelgen/packing.h"
 #include "kernelgen/plan.h"
 
@@ -23,13 +24,19 @@ struct RealRow {
     Plan plan;
     int lanes;   // scalars in a vector; 1: scalar code
 
-    // Lengths below 5 gain nothing from a second lane, and 8 is fixed operation by operation.
-    explicit RealRow(const Plan& plan) : plan(plan), lanes(plan.n < 5 || plan.n == 8 ? 1 : 2) {}
+    // Lengths below 5 gain nothing from a second lane.
+    explicit RealRow(const Plan& plan) : RealRow(plan, plan.n < 5 ? 1 : 2) {}
+    RealRow(const Plan& plan, int lanes) : plan(plan), lanes(lanes) {}
     std::string text() const { return plan.text() + (lanes == 1 ? "; scalar" : "; two lanes"); }
 };
 
 // X[0..n/2] of the forward transform in single lanes; with one lane per vector, scalar code.
 std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
+
+// An odd length by the sums and differences of mirrored inputs. Exponents have the given sign; the
+// imaginary part is summed from zero and so never becomes a negative zero.
+std::vector<ComplexLanes> symmetricPairs(Graph& g, std::span<const Lane> x,
+                                         Sign sign = Sign::minus);
 
 // Files X[k] of n points under k or, conjugated, under n - k.
 void setBin(std::vector<ComplexLanes>& spectrum, int n, int k, ComplexLanes value);

@@ -29,6 +29,11 @@ KFM_OPERATION double lane(const double* table, int index) { return table[index];
 KFM_OPERATION void pin(float& a) { asm("" : "+x"(a)); }
 KFM_OPERATION void pin(double& a) { asm("" : "+x"(a)); }
 
+// Of this element only: the compiler must not fetch its neighbours along with it.
+template <class Real>
+KFM_OPERATION Real load(const Real* p) {
+    return *static_cast<const volatile Real*>(p);
+}
 KFM_OPERATION void storeLow(float* p, float v) { *p = v; }
 KFM_OPERATION void storeLow(double* p, double v) { *p = v; }
 

@@ -21,7 +21,7 @@ TrigonometricSums<Wide> trigonometricSums(Real first, const std::vector<Real>& a
     const long half = static_cast<long>(a.size()), length = 2 * half + 1;
     TrigonometricSums<Wide> sums;
     for (long k = 1; k <= half; ++k) {
-        Wide cosines = first, sines = 0;
+        Wide cosines = first, sines = -0.0;   // which takes the sign of what is added
         for (long j = 1; j <= half; ++j) {
             const UnitRoot w = unitRoot(j * k, length);
             cosines += Wide(a[j - 1]) * static_cast<Wide>(w.re);

@@ -17,10 +17,30 @@ namespace {
 int realPart(int k) { return k == 0 ? 0 : 2 * k - 1; }
 int imaginaryPart(int k) { return 2 * k; }
 
-std::vector<LaneOutput> packedSpectrum(Graph& g, int n) {
+std::vector<Lane> samples(Graph& g, int n) {
     std::vector<Lane> x;
     for (int i = 0; i < n; ++i) x.push_back({g.load(i), 0});
-    const std::vector<ComplexLanes> spectrum = realDftInLanes(g, row(n).plan, x);
+    return x;
+}
+
+// Operation by operation: every imaginary part is subtracted from zero.
+std::vector<ComplexLanes> eightPoints(Graph& g, std::span<const Lane> x) {
+    const auto add = [&](int i, int j) { return g.add(x[i].vector, x[j].vector); };
+    const auto sub = [&](int i, int j) { return g.sub(x[i].vector, x[j].vector); };
+    const auto product = [&](Ref a) {
+        return g.settle(g.mul(Constant::cosTurn(1, 8), a), Border::rotation);
+    };
+    const Ref e0 = add(0, 4), e1 = add(2, 6), o0 = add(1, 5), o1 = add(3, 7);
+    const Ref even = g.add(e0, e1), odd = g.add(o0, o1);
+    const Ref p = product(sub(1, 5)), q = product(sub(3, 7));
+    const Ref u = g.add(p, q), v = g.sub(p, q), d = sub(0, 4), f = sub(2, 6);
+    const auto bin = [](Ref re, Ref im) { return ComplexLanes{{re, 0}, {im, 0}}; };
+    return {bin(g.add(even, odd), {}), bin(g.add(d, v), -g.add(f, u)),
+            bin(g.sub(e0, e1), -g.sub(o0, o1)), bin(g.sub(d, v), -g.sub(u, f)),
+            bin(g.sub(even, odd), {})};
+}
+
+std::vector<LaneOutput> packed(std::span<const ComplexLanes> spectrum, int n) {
     std::vector<LaneOutput> outputs;
     for (int k = 0; 2 * k <= n; ++k) {
         outputs.push_back({realPart(k), spectrum[k].re});
@@ -65,25 +85,35 @@ private:
 }   // namespace
 
 Graph forwardGraph(int n, bool singlePrecision) {
-    Graph g(row(n).lanes, forwardArithmetic(n, singlePrecision));
-    storeLanes(g, packedSpectrum(g, n));
+    const RealRow plan = row(n);
+    Graph g(plan.lanes, forwardArithmetic(n, singlePrecision));
+    const std::vector<Lane> x = samples(g, n);
+    storeLanes(g, packed(n == 8 ? eightPoints(g, x) : realDftInLanes(g, plan.plan, x), n));
     return g;
 }
 
 Graph inverseGraph(int n, bool singlePrecision) {
     const Arithmetic arithmetic = inverseArithmetic(n, singlePrecision);
-    Graph network(row(n).lanes, {.rounding = arithmetic.rounding, .marking = true});
+    const RealRow plan = row(n);
+    Graph network(plan.lanes, {.rounding = arithmetic.rounding, .marking = true});
+    const std::vector<Lane> inputs = samples(network, n);
+    // Pairs of a prime are synthesised as c - d and c + d with plain sums of sines in d: the
+    // transpose of the conjugated transform, whose samples come in reversed order.
+    const bool reversed = plan.plan.kind == Plan::Kind::direct && plan.lanes == 2;
+    const std::vector<ComplexLanes> spectrum =
+        reversed ? symmetricPairs(network, inputs, Sign::plus)
+                 : realDftInLanes(network, plan.plan, inputs);
     std::map<Ref, SpectrumVector> vectors;
-    for (const LaneOutput& output : packedSpectrum(network, n))
+    for (const LaneOutput& output : packed(spectrum, n))
         vectors[output.value.vector.magnitude()].add(output);
 
-    Graph g(row(n).lanes, arithmetic);
+    Graph g(plan.lanes, arithmetic);
     std::vector<WeightedOutput> outputs;
     for (const auto& [vector, values] : vectors) outputs.push_back(values.weighted(g, vector, n));
-    std::vector<LaneOutput> samples;
+    std::vector<LaneOutput> results;
     const std::vector<Lane> x = transposedLanes(network, n, outputs, g);
-    for (int i = 0; i < n; ++i) samples.push_back({i, x[i]});
-    storeLanes(g, samples);
+    for (int i = 0; i < n; ++i) results.push_back({reversed ? (n - i) % n : i, x[i]});
+    storeLanes(g, results);
     return g;
 }
 
