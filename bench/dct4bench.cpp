@@ -66,7 +66,7 @@ void measure(const Calls<Spec>& calls, int length, std::string_view suffix, int 
     Subject mine(plan.transforming(element)), making(plan.making());
     std::vector<Subject*> subjects = {&mine};
     std::optional<Subject> peer;
-    if (auto repeat = fftwDct4Plan(length, element)) subjects.push_back(&peer.emplace(repeat));
+    if (auto repeat = fftwDct4Plan(length, element).repeat) subjects.push_back(&peer.emplace(repeat));
     runInterleaved(subjects, batches);
     making.runBatch();
     const double ns = mine.minimum();

@@ -74,7 +74,7 @@ Result measure(const registry::Function& function, const Options& options) {
     std::vector<Subject*> subjects = {&mine, &cycle};
     std::optional<Subject> peer;
     const bool byOrder = registry::findFamily(function.family)->byOrder;
-    if (auto repeat = byOrder ? plainLoop(function) : fftwPlan(function))
+    if (auto repeat = byOrder ? plainLoop(function) : fftwPlan(function).repeat)
         subjects.push_back(&peer.emplace(std::move(repeat)));
     runInterleaved(subjects, options.batches);
     Result result{&function, mine.minimum(), mine.median(), {}, {}, cycle.minimum()};

@@ -30,8 +30,9 @@ void find(void* library, const std::string& name, Address& address) {
 }
 
 // The fastest of several plans, timed as everything here is.
-std::function<void(long)> fastest(const std::vector<std::function<void(long)>>& plans) {
-    std::vector<Subject> subjects(plans.begin(), plans.end());
+PeerPlan fastest(const std::vector<PeerPlan>& plans) {
+    std::vector<Subject> subjects;
+    for (const PeerPlan& plan : plans) subjects.emplace_back(plan.repeat);
     std::vector<Subject*> inTurns;
     for (Subject& subject : subjects) inTurns.push_back(&subject);
     runInterleaved(inTurns, 20);
@@ -63,7 +64,7 @@ public:
                    executeInverse && planReal && executeReal;
     }
 
-    std::function<void(long)> like(const registry::Family& family, int length,
+    PeerPlan like(const registry::Family& family, int length,
                                    const registry::Element& element) const {
         if (!complete) return {};
         const auto complexPlan = [&](Complex* from, Complex* to, unsigned flags) {
@@ -87,7 +88,7 @@ public:
                                 : best(length, element, executeForward, forwardPlan, anyRule);
     }
 
-    std::function<void(long)> dct4(int length, const registry::Element& element) const {
+    PeerPlan dct4(int length, const registry::Element& element) const {
         if (!complete) return {};
         const auto plan = [&](Real* from, Real* to, unsigned flags) {
             return planReal(length, from, to, FFTW_REDFT11, flags);
@@ -99,27 +100,30 @@ public:
 
 private:
     template <class Source, class Destination, class MakePlan>
-    static std::function<void(long)> best(int length, const registry::Element& element,
-                                          void (*execute)(Plan, Source*, Destination*),
-                                          MakePlan makePlan, const SourceRules& rules,
-                                          unsigned effort = FFTW_PATIENT) {
+    static PeerPlan best(int length, const registry::Element& element,
+                         void (*execute)(Plan, Source*, Destination*), MakePlan makePlan,
+                         const SourceRules& rules, unsigned effort = FFTW_PATIENT) {
         // Planning overwrites its arrays; the timed calls work on fresh ones.
         const Signals scratch(length, element);
-        std::vector<std::function<void(long)>> plans;
+        std::vector<PeerPlan> plans;
         for (const unsigned rule : rules) {
             const Plan plan =
                 makePlan(static_cast<Source*>(scratch.source()),
                          static_cast<Destination*>(scratch.destination()), effort | rule);
             if (plan == nullptr) continue;
             const auto signals = std::make_shared<Signals>(length, element);
-            plans.push_back([=, batch = 0](long calls) mutable {
+            const auto repeat = [=, batch = 0](long calls) mutable {
                 const int placement = batch++ % Signals::placements;
                 const auto source = static_cast<Source*>(signals->source(placement));
                 const auto destination = static_cast<Destination*>(signals->destination(placement));
                 for (long i = 0; i < calls; ++i) execute(plan, source, destination);
-            });
+            };
+            plans.push_back({repeat, [=](void* source, void* destination) {
+                                 execute(plan, static_cast<Source*>(source),
+                                         static_cast<Destination*>(destination));
+                             }});
         }
-        return plans.empty() ? std::function<void(long)>() : fastest(plans);
+        return plans.empty() ? PeerPlan() : fastest(plans);
     }
 
     Plan (*planDft)(int, Complex*, Complex*, int, unsigned) = nullptr;
@@ -151,14 +155,14 @@ const Api<fftwf_plan, fftwf_complex, float>& singleApi() {
 
 }   // namespace
 
-std::function<void(long)> fftwPlan(const registry::Function& function) {
+PeerPlan fftwPlan(const registry::Function& function) {
     const registry::Element& element = *registry::findElement(function.element);
     const registry::Family& family = *registry::findFamily(function.family);
     return element.doublePrecision ? doubleApi().like(family, function.length, element)
                                    : singleApi().like(family, function.length, element);
 }
 
-std::function<void(long)> fftwDct4Plan(int length, const registry::Element& element) {
+PeerPlan fftwDct4Plan(int length, const registry::Element& element) {
     return element.doublePrecision ? doubleApi().dct4(length, element)
                                    : singleApi().dct4(length, element);
 }
