@@ -4,8 +4,8 @@
 #include <quadmath.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <random>
@@ -84,12 +84,9 @@ struct Comparison {
         const auto source = static_cast<Real*>(arrays.source());
         const auto destination = static_cast<Real*>(arrays.destination());
         const int reals = element.complex ? 2 * n : n + 2;
-        // Multiples of an ulp in [-1, 1): no sum is exact by chance.
-        constexpr int bits = sizeof(Real) == 4 ? 24 : 53;
-        for (int i = 0; i < reals; ++i)
-            source[i] = static_cast<Real>(
-                std::ldexp(static_cast<double>(static_cast<std::int64_t>(random()) >> (64 - bits)),
-                           1 - bits));
+        // Values with all bits of their own exponents: no sum is exact by chance.
+        std::normal_distribution<Real> normal;
+        std::generate_n(source, reals, [&] { return normal(random); });
         if (family.inverse() && !element.complex) {
             source[1] = 0;
             if (n % 2 == 0) source[n + 1] = 0;

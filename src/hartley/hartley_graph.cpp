@@ -101,13 +101,15 @@ std::vector<LaneOutput> outputs(Graph& g, const Plan& plan, std::span<const Lane
 
 }   // namespace
 
-Graph hartleyGraph(int n, bool singlePrecision) {
-    const RealRow plan = row(n);
-    Graph g(plan.lanes, arithmetic(n, singlePrecision));
+Graph hartleyGraph(const RealRow& row, bool singlePrecision) {
+    const int n = row.plan.n;
+    Graph g(row.lanes, arithmetic(n, singlePrecision));
     std::vector<Lane> x;
     for (int i = 0; i < n; ++i) x.push_back({g.load(i), 0});
-    storeLanes(g, outputs(g, plan.plan, x));
+    storeLanes(g, outputs(g, row.plan, x));
     return g;
 }
+
+Graph hartleyGraph(int n, bool singlePrecision) { return hartleyGraph(row(n), singlePrecision); }
 
 }   // namespace kfm::hartley

@@ -16,6 +16,12 @@ Graph graph(int n, const Element& element, const Target&, bool) {
     return hartleyGraph(n, !element.doublePrecision);
 }
 
+Plan plan(int n, const Element&) { return row(n).plan; }
+
+Graph graphOf(const Plan& plan, const Element& element) {
+    return hartleyGraph(RealRow(plan), !element.doublePrecision);
+}
+
 std::string describe(int n, const Element&) { return row(n).text(); }
 
 ScheduleChoice choice(int n, const Element& element, const Target& target) {
@@ -39,6 +45,6 @@ std::string emit(int n, const Element& element, const Target&, const ScheduleCho
 
 }   // namespace
 
-KernelFamily kernelFamily() { return {kernels, graph, describe, choice, emit}; }
+KernelFamily kernelFamily() { return {kernels, graph, plan, graphOf, describe, choice, emit}; }
 
 }   // namespace kfm::hartley

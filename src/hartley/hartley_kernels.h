@@ -3,9 +3,11 @@
 #pragma once
 
 #include "kernelgen/generator.h"
+#include "kernelgen/real_lanes.h"
 
 namespace kfm::hartley {
 
+kernelgen::Graph hartleyGraph(const kernelgen::RealRow& row, bool singlePrecision);
 kernelgen::Graph hartleyGraph(int n, bool singlePrecision);
 
 kernelgen::KernelFamily kernelFamily();

@@ -43,10 +43,17 @@ HalfSpectrum direct4(Graph& g, std::span<const Ref> x) {
             {g.sub(even, odd), {}}};
 }
 
+Ref total(Graph& g, const std::vector<Ref>& terms, bool inPairs) {
+    Ref sum;
+    for (std::size_t i = 0; i < terms.size(); i += inPairs ? 2 : 1)
+        sum = g.add(sum, inPairs && i + 1 < terms.size() ? g.add(terms[i], terms[i + 1]) : terms[i]);
+    return sum;
+}
+
 // Odd n by the sums and differences of mirrored inputs: only cosines meet the sums, only sines
 // the differences.
-HalfSpectrum symmetricPairs(Graph& g, int n, std::span<const Ref> x) {
-    const int half = (n - 1) / 2;
+HalfSpectrum symmetricPairs(Graph& g, const Plan& plan, std::span<const Ref> x) {
+    const int n = plan.n, half = (n - 1) / 2;
     std::vector<Ref> sum(half + 1), difference(half + 1);
     for (int j = 1; j <= half; ++j) {
         sum[j] = g.settle(g.add(x[j], x[n - j]), Border::module);
@@ -55,13 +62,14 @@ HalfSpectrum symmetricPairs(Graph& g, int n, std::span<const Ref> x) {
     HalfSpectrum spectrum(half + 1);
     const bool summedThenNegated = g.arithmetic().exactZeros;   // tells for zeros only
     for (int k = 0; k <= half; ++k) {
-        Ref re = x[0], im;
+        std::vector<Ref> cosines = {x[0]}, sines;
         for (int j = 1; j <= half; ++j) {
-            re = g.add(re, g.mul(cosine(long(j) * k, n), sum[j]));
+            cosines.push_back(g.mul(cosine(long(j) * k, n), sum[j]));
             const Ref term = g.mul(sine(long(j) * k, n), difference[j]);
-            im = g.add(im, summedThenNegated ? term : -term);
+            if (!term.isZero()) sines.push_back(summedThenNegated ? term : -term);
         }
-        spectrum[k] = {re, summedThenNegated ? -im : im};
+        const Ref im = total(g, sines, plan.paired);
+        spectrum[k] = {total(g, cosines, plan.paired), summedThenNegated ? -im : im};
     }
     return spectrum;
 }
@@ -229,7 +237,7 @@ HalfSpectrum realDft(Graph& g, const Plan& plan, std::span<const Ref> x) {
         if (plan.n == 1) return {{x[0], {}}};
         if (plan.n == 2) return direct2(g, x);
         if (plan.n == 4) return direct4(g, x);
-        return symmetricPairs(g, plan.n, x);
+        return symmetricPairs(g, plan, x);
     case Plan::Kind::factored5:
         return factoredFive(g, x);
     case Plan::Kind::powerOfTwo:

@@ -15,20 +15,17 @@ using Wide = Constant::Wide;
 // Linear congruential generator (Knuth's MMIX constants): the same signals everywhere.
 class RandomSignal {
 public:
-    // Uniform in [-1, 1), a multiple of 2^(1-bits).
-    double value(int bits) {
-        state_ = state_ * 6364136223846793005u + 1442695040888963407u;
-        const auto top = static_cast<std::int64_t>(state_) >> (64 - bits);
-        return std::ldexp(static_cast<double>(top), 1 - bits);
-    }
+    // A product of two uniform numbers: with all bits of its own exponent, so that no sum is exact by
+    // chance.
+    double value() { return uniform() * uniform(); }
 
 private:
-    std::uint64_t state_ = 1;
-};
+    double uniform() {
+        state_ = state_ * 6364136223846793005u + 1442695040888963407u;
+        return std::ldexp(static_cast<double>(static_cast<std::int64_t>(state_)), -63);
+    }
 
-struct Difference {
-    double errors = 0, outputs = 0;              // sums of squares
-    double largestError = 0, largestOutput = 0;
+    std::uint64_t state_ = 1;
 };
 
 template <class Real, class Product>
@@ -36,63 +33,74 @@ class Meter {
 public:
     Meter(const Graph& g, int lanesPerElement) : g_(g), lanesPerElement_(lanesPerElement) {}
 
-    Difference of(const std::vector<Real>& source) const {
+    void add(const std::vector<Real>& source) {
         const std::vector<Real> actual = evaluate<Real, Product>(g_, lanesPerElement_, source);
         const std::vector<Wide> exact =
             evaluate<Wide>(g_, lanesPerElement_, std::vector<Wide>(source.begin(), source.end()));
-        Difference result;
+        double largestError = 0, largestOutput = 0;
         for (std::size_t i = 0; i < exact.size(); ++i) {
             const double error = std::abs(static_cast<double>(actual[i] - exact[i]));
             const double output = std::abs(static_cast<double>(exact[i]));
-            result.errors += error * error;
-            result.outputs += output * output;
-            result.largestError = std::max(result.largestError, error);
-            result.largestOutput = std::max(result.largestOutput, output);
+            errors_ += error * error;
+            outputs_ += output * output;
+            largestError = std::max(largestError, error);
+            largestOutput = std::max(largestOutput, output);
         }
-        return result;
+        worst_ = std::max(worst_, largestError / largestOutput);
     }
 
-    ErrorFigures figures(int elements, int signals) const {
-        constexpr int bits = sizeof(Real) == 4 ? 24 : 53;
-        const double unit = std::ldexp(1, -bits);
-        const auto relative = [&](const Difference& d) {
-            return d.largestError / d.largestOutput / unit;
-        };
-        std::vector<Real> source(elements * lanesPerElement_);
-        ErrorFigures result;
-        Difference all;
-        RandomSignal random;
-        for (int i = 0; i < signals; ++i) {
-            for (Real& value : source) value = static_cast<Real>(random.value(bits));
-            const Difference d = of(source);
-            all.errors += d.errors;
-            all.outputs += d.outputs;
-            result.worst = std::max(result.worst, relative(d));
-        }
-        result.mean = std::sqrt(all.errors / all.outputs) / unit;
-        for (std::size_t i = 0; i < source.size(); ++i) {
-            std::ranges::fill(source, Real(0));
-            source[i] = 1;
-            result.worstOfImpulses = std::max(result.worstOfImpulses, relative(of(source)));
-        }
-        return result;
+    ErrorFigures figures() const {
+        return {std::sqrt(errors_ / outputs_) / unit, worst_ / unit};
     }
 
 private:
+    static constexpr double unit = 1.0 / (1ll << (sizeof(Real) == 4 ? 24 : 53));
     const Graph& g_;
     int lanesPerElement_;
+    double errors_ = 0, outputs_ = 0, worst_ = 0;
 };
+
+// `feed` adds its signals to a meter of the graph's arithmetic.
+template <class Feed>
+ErrorFigures measured(const Graph& g, const registry::Element& element, Feed feed) {
+    const int lanesPerElement = element.complex ? 2 : 1;
+    const auto run = [&]<class Real, class Product>(Real, Product) {
+        Meter<Real, Product> meter(g, lanesPerElement);
+        feed(meter, Real());
+        return meter.figures();
+    };
+    if (element.doublePrecision) return run(0.0, 0.0);
+    return g.arithmetic().mixed ? run(0.0f, 0.0) : run(0.0f, 0.0f);
+}
+
+int reals(const registry::Element& element, int elements) {
+    return element.complex ? 2 * elements : elements;
+}
 
 }   // namespace
 
-ErrorFigures measureErrors(const Graph& g, const registry::Element& element, int elements,
-                           int signals) {
-    const int lanesPerElement = element.complex ? 2 : 1;
-    if (element.doublePrecision)
-        return Meter<double, double>(g, lanesPerElement).figures(elements, signals);
-    if (g.arithmetic().mixed)
-        return Meter<float, double>(g, lanesPerElement).figures(elements, signals);
-    return Meter<float, float>(g, lanesPerElement).figures(elements, signals);
+ErrorFigures errorsOnSignals(const Graph& g, const registry::Element& element, int elements,
+                             int signals) {
+    return measured(g, element, [&]<class Real>(auto& meter, Real) {
+        RandomSignal random;
+        std::vector<Real> source(reals(element, elements));
+        for (int i = 0; i < signals; ++i) {
+            for (Real& value : source) value = static_cast<Real>(random.value());
+            meter.add(source);
+        }
+    });
+}
+
+ErrorFigures errorsOnImpulses(const Graph& g, const registry::Element& element, int elements,
+                              int step) {
+    return measured(g, element, [&]<class Real>(auto& meter, Real) {
+        std::vector<Real> source(reals(element, elements));
+        for (std::size_t i = 0; i < source.size(); i += step) {
+            source[i] = 1;
+            meter.add(source);
+            source[i] = 0;
+        }
+    });
 }
 
 }   // namespace kfm::kernelgen

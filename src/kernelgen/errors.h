@@ -1,5 +1,5 @@
 // How exact a graph computes: its values in the arithmetic of the element type against those in
-// binary128, on random signals and on single impulses. The scale factor is left out.
+// binary128. The scale factor is left out. In units of 2^-53, in single precision 2^-24.
 #pragma once
 
 #include "kernelgen/graph.h"
@@ -7,14 +7,16 @@
 
 namespace kfm::kernelgen {
 
-// In units of 2^-53, in single precision 2^-24.
 struct ErrorFigures {
-    double mean = 0;             // root of the mean square error over that of the outputs
-    double worst = 0;            // the largest error over the largest output, of all signals
-    double worstOfImpulses = 0;  // the same of all single impulses
+    double mean = 0;    // root of the mean square error over that of the outputs
+    double worst = 0;   // the largest error over the largest output of a signal, of all signals
 };
 
-ErrorFigures measureErrors(const Graph& g, const registry::Element& element, int elements,
-                           int signals);
+// On so many random signals of so many elements.
+ErrorFigures errorsOnSignals(const Graph& g, const registry::Element& element, int elements,
+                             int signals);
+// On single impulses at every position, or at every so many of them.
+ErrorFigures errorsOnImpulses(const Graph& g, const registry::Element& element, int elements,
+                              int step = 1);
 
 }   // namespace kfm::kernelgen

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "kernelgen/graph.h"
+#include "kernelgen/plan.h"
 #include "kernelgen/schedule.h"
 #include "kernelgen/target.h"
 #include "registry/registry.h"
@@ -19,16 +20,19 @@ struct KernelFamily {
     // The graph of one transform, scale factor and memory operations left open. Throws for a
     // target whose vectors the family has no lane mapping for. Empty, as `choice` is, where kernels
     // are templates and not written from graphs.
-    std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph;
+    std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph = {};
+    // The factor tree of a length, and the graph that another tree of it would give.
+    std::function<Plan(int length, const registry::Element&)> plan = {};
+    std::function<Graph(const Plan&, const registry::Element&)> graphOf = {};
     // The factor tree and the lane mapping in words.
-    std::function<std::string(int length, const registry::Element&)> describe;
+    std::function<std::string(int length, const registry::Element&)> describe = {};
     // The schedule on record.
-    std::function<ScheduleChoice(int length, const registry::Element&, const Target&)> choice;
+    std::function<ScheduleChoice(int length, const registry::Element&, const Target&)> choice = {};
     // The C++ source of the functions of one length and element type: those of all families with
     // this source, or of one of them.
     std::function<std::string(int length, const registry::Element&, const Target&,
                               const ScheduleChoice&, std::span<const registry::Family* const>)>
-        emit;
+        emit = {};
 };
 
 }   // namespace kfm::kernelgen

@@ -13,6 +13,7 @@
 #include "dct4/networks/codelet_families.h"
 #include "kernelgen/frame.h"
 #include "kernelgen/kernel_commands.h"
+#include "kernelgen/search.h"
 #include "registry/registry.h"
 
 namespace fs = std::filesystem;
@@ -185,6 +186,17 @@ void printStage(const Arguments& arguments) {
                                 *kernel.element, target(arguments)));
 }
 
+void printErrors(const Arguments& arguments) {
+    const KernelName kernel(arguments);
+    const std::string goal = arguments.option("--by", "mean");
+    if (goal != "mean" && goal != "impulses")
+        throw std::invalid_argument("errors are compared by mean or by impulses");
+    writeResult(arguments, errorTable(kernelFamily(kernel.source), kernel.length, *kernel.element,
+                                      goal == "mean" ? Goal::mean : Goal::impulses,
+                                      std::stoi(arguments.option("--signals", "300")),
+                                      std::stoi(arguments.option("--starts", "3"))));
+}
+
 void printCounts(const Arguments& arguments) { writeResult(arguments, operationCountTable()); }
 
 void printCandidates(const Arguments& arguments) {
@@ -208,6 +220,8 @@ constexpr Command commands[] = {
      printExplanation},
     {"dump", "<N> <element> --stage graph|schedule|dot [--target <target>]",
      "show a kernel between two stages", printStage},
+    {"errors", "<N> <element> [--signals <count>] [--by mean|impulses] [--starts <count>]",
+     "search for a factor tree with smaller errors", printErrors},
     {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
     {"candidates", "", "the schedules from which the tuner chooses", printCandidates},
     {"declarations", "[--into <header>]", "print the C declarations, or renew them in a header",

@@ -1,5 +1,6 @@
 #include "kernelgen/plan.h"
 
+#include <algorithm>
 #include <numeric>
 #include <stdexcept>
 
@@ -40,6 +41,13 @@ Plan::Plan(int length, Kind planKind, std::vector<Plan> planParts)
 
 Plan factored5() { return Plan(5, Plan::Kind::factored5, {}); }
 
+Plan paired(int n) {
+    Plan plan(n);
+    if (plan.kind != Plan::Kind::direct || n < 5) refuse(n, "no sums to pair");
+    plan.paired = true;
+    return plan;
+}
+
 Plan evenOdd(int n) {
     if (n < 8 || !isPowerOfTwo(n)) refuse(n, "even and odd samples need a power of two");
     return Plan(n, Plan::Kind::evenOdd, {});
@@ -57,7 +65,7 @@ Plan ct(const Plan& first, const Plan& second) {
     return Plan(n, Plan::Kind::ct, {first, second});
 }
 
-Plan rader(const Plan& convolution, int root) {
+Plan rader(const Plan& convolution, int root, int shift) {
     const int prime = convolution.n + 1;
     if (!isPrime(prime)) refuse(prime, "Rader's step needs a prime");
     if (root == 0) root = smallestPrimitiveRoot(prime);
@@ -65,6 +73,7 @@ Plan rader(const Plan& convolution, int root) {
         refuse(prime, std::to_string(root) + " is no primitive root");
     Plan plan(prime, Plan::Kind::rader, {convolution});
     plan.root = root;
+    plan.shift = shift;
     return plan;
 }
 
@@ -80,7 +89,7 @@ std::string Plan::text() const {
     const std::string length = std::to_string(n);
     switch (kind) {
     case Kind::direct:
-        return length;
+        return paired ? length + " in pairs" : length;
     case Kind::powerOfTwo:
         return length + " by split radix";
     case Kind::evenOdd:
@@ -92,12 +101,35 @@ std::string Plan::text() const {
     case Kind::ct:
         return length + " = CT(" + first().text() + ", " + second().text() + ")";
     case Kind::rader:
-        return length + " = Rader(" + first().text() + ")";
+        return length + " = Rader(" + first().text() + "; root " + std::to_string(root) +
+               (shift == 0 ? "" : ", shift " + std::to_string(shift)) + ")";
     case Kind::paddedRader:
         return length + " = Rader padded to " + std::to_string(4 * first().n) + " = 4 x (" +
                first().text() + ")";
     }
     refuse(n, "unknown kind");
+}
+
+std::vector<Plan> neighbours(const Plan& plan) {
+    std::vector<Plan> result;
+    if (plan.kind == Plan::Kind::direct && plan.n > 4)
+        result.push_back(plan.paired ? Plan(plan.n) : paired(plan.n));
+    if (plan.kind == Plan::Kind::pfa) result.push_back(pfa(plan.second(), plan.first()));
+    if (plan.kind == Plan::Kind::rader)
+        for (int root = 2; root < plan.n; ++root)
+            for (int shift = 0; isPrimitiveRoot(root, plan.n) && shift < (plan.n - 1) / 2; ++shift)
+                result.push_back(rader(plan.first(), root, shift));
+    for (std::size_t i = 0; i < plan.parts.size(); ++i)
+        for (const Plan& part : neighbours(plan.parts[i])) {
+            result.push_back(plan);
+            result.back().parts[i] = part;
+        }
+    return result;
+}
+
+bool sameSteps(const Plan& a, const Plan& b) {
+    return a.n == b.n && a.kind == b.kind &&
+           std::ranges::equal(a.parts, b.parts, sameSteps);
 }
 
 int powerModulo(int base, int exponent, int modulus) {

@@ -25,10 +25,13 @@ struct Plan {
     Kind kind = Kind::direct;
     std::vector<Plan> parts;   // pfa, ct: first, second; rader: the plan of the convolution;
                                // paddedRader: of a fourth of it
-    int root = 0;              // rader: the primitive root
+    int root = 0;              // rader: the primitive root,
+    int shift = 0;             //        and the power of it that comes first among the inputs
 
     const Plan& first() const { return parts[0]; }
     const Plan& second() const { return parts[1]; }
+    bool paired = false;       // direct: the terms of a sum are added in pairs, not one by one
+
     std::string text() const;
 
 private:
@@ -37,21 +40,29 @@ private:
     friend Plan evenOdd(int);
     friend Plan pfa(const Plan&, const Plan&);
     friend Plan ct(const Plan&, const Plan&);
-    friend Plan rader(const Plan&, int);
+    friend Plan rader(const Plan&, int, int);
     friend Plan paddedRader(int, const Plan&);
 };
 
 Plan factored5();
+// The direct module of an odd length, its sums in pairs.
+Plan paired(int n);
 // A power of two from 8 up.
 Plan evenOdd(int n);
 // The transforms of length `first` are taken first, those of length `second` across them.
 Plan pfa(const Plan& first, const Plan& second);
 Plan ct(const Plan& first, const Plan& second);
-// The prime p = convolution.n + 1. Every primitive root gives the same transform with other
-// roundings; 0 takes the smallest.
-Plan rader(const Plan& convolution, int root = 0);
+// The prime p = convolution.n + 1. Every primitive root and every shift of the inputs, and so of the
+// constants, gives the same transform with other roundings; root 0 takes the smallest.
+Plan rader(const Plan& convolution, int root = 0, int shift = 0);
 // The prime by a convolution padded to 4 * quarter.n points, a fourth of which is one transform.
 Plan paddedRader(int prime, const Plan& quarter);
+
+// The trees that do the same with other roundings and differ in one place: in the root and the shift
+// of a Rader step, in the order of two prime factors, in the pairing of a direct module.
+std::vector<Plan> neighbours(const Plan& plan);
+// Whether two trees have the same steps in the same order.
+bool sameSteps(const Plan& a, const Plan& b);
 
 bool isPrimitiveRoot(int g, int prime);
 int powerModulo(int base, int exponent, int modulus);

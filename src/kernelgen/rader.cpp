@@ -29,12 +29,13 @@ RaderOrder::RaderOrder(const Plan& plan)
       sines(plan.n - 1) {
     const int p = prime;
     for (int m = 0; m < p - 1; ++m) {
-        input[m] = powerModulo(plan.root, m, p);
-        output[(p - 1 - m) % (p - 1)] = input[m];
+        input[m] = powerModulo(plan.root, m + plan.shift, p);
+        output[(p - 1 - m) % (p - 1)] = powerModulo(plan.root, m, p);
     }
     for (int t = 0; t < p - 1; ++t) {
-        cosines[t] = Constant::cosTurn(output[t], p);
-        sines[t] = Constant::sinTurn(output[t], p);
+        const long root = long(output[t]) * input[0] % p;
+        cosines[t] = Constant::cosTurn(root, p);
+        sines[t] = Constant::sinTurn(root, p);
     }
 }
 

@@ -25,11 +25,11 @@ Constant binWeight(int k, int n);
 ComplexConstant weightedBin(std::span<const Constant> sequence, int k);
 
 // The order in which Rader's step takes inputs and outputs of the prime p, with the constants of
-// its convolution: c[t] = cos(2 pi g^-t / p), s[t] = sin(2 pi g^-t / p).
+// its convolution: c[t] = cos(2 pi g^(s-t) / p), s[t] = sin(2 pi g^(s-t) / p) with the shift s.
 struct RaderOrder {
     explicit RaderOrder(const Plan& plan);
     int prime;
-    std::vector<int> input;    // g^m
+    std::vector<int> input;    // g^(m+s)
     std::vector<int> output;   // g^-j
     std::vector<Constant> cosines, sines;
 };

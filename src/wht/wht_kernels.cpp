@@ -35,6 +35,6 @@ std::string emit(int order, const Element& element, const kernelgen::Target&,
 
 }   // namespace
 
-kernelgen::KernelFamily kernelFamily() { return {kernels, {}, describe, {}, emit}; }
+kernelgen::KernelFamily kernelFamily() { return {.source = kernels, .describe = describe, .emit = emit}; }
 
 }   // namespace kfm::wht

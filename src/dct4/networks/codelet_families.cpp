@@ -124,21 +124,21 @@ std::string emit(const Kind& kind, int size, const Element& element,
 }
 
 KernelFamily family(const Kind& kind) {
-    return {kind.function,
-            [&kind](int size, const Element& element, const Target& target, bool) {
-                if (target.vectorBytes != 16)
-                    throw std::invalid_argument("DCT-IV: no lane mapping for " +
-                                                std::string(target.name));
-                return kind.graph(size, element.doublePrecision);
-            },
-            [](int size, const Element&) { return std::to_string(size) + " points"; },
-            [&kind](int size, const Element& element, const Target& target) {
-                return choice(kind.function, size, element, target);
-            },
-            [&kind](int size, const Element& element, const Target&,
-                    const ScheduleChoice& schedule, std::span<const registry::Family* const>) {
-                return emit(kind, size, element, schedule);
-            }};
+    KernelFamily family{.source = kind.function};
+    family.graph = [&kind](int size, const Element& element, const Target& target, bool) {
+        if (target.vectorBytes != 16)
+            throw std::invalid_argument("DCT-IV: no lane mapping for " + std::string(target.name));
+        return kind.graph(size, element.doublePrecision);
+    };
+    family.describe = [](int size, const Element&) { return std::to_string(size) + " points"; };
+    family.choice = [&kind](int size, const Element& element, const Target& target) {
+        return choice(kind.function, size, element, target);
+    };
+    family.emit = [&kind](int size, const Element& element, const Target&,
+                          const ScheduleChoice& schedule, std::span<const registry::Family* const>) {
+        return emit(kind, size, element, schedule);
+    };
+    return family;
 }
 
 }   // namespace

@@ -24,6 +24,18 @@ Graph graph(int n, const Element& element, const Target& target, bool inverse) {
                                    : singleGraph(singlePrecisionRow(n), inverse);
 }
 
+Plan plan(int n, const Element& element) {
+    return element.doublePrecision ? doublePrecisionPlan(n) : singlePrecisionRow(n).plan;
+}
+
+Graph graphOf(const Plan& plan, const Element& element) {
+    if (element.doublePrecision) return doubleGraph(plan, false);
+    const SinglePrecisionRow row = singlePrecisionRow(plan.n);
+    if (!sameSteps(plan, row.plan))
+        throw std::invalid_argument("the lane mapping is made for the order of steps on record");
+    return singleGraph({plan, row.lanes}, false);
+}
+
 std::string describe(int n, const Element& element) {
     if (element.doublePrecision) return doublePrecisionPlan(n).text();
     const SinglePrecisionRow row = singlePrecisionRow(n);
@@ -61,6 +73,6 @@ std::string emit(int n, const Element& element, const Target& target, const Sche
 
 }   // namespace
 
-KernelFamily kernelFamily() { return {kernels, graph, describe, choice, emit}; }
+KernelFamily kernelFamily() { return {kernels, graph, plan, graphOf, describe, choice, emit}; }
 
 }   // namespace kfm::dft::complex

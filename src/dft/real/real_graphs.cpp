@@ -84,30 +84,30 @@ private:
 
 }   // namespace
 
-Graph forwardGraph(int n, bool singlePrecision) {
-    const RealRow plan = row(n);
-    Graph g(plan.lanes, forwardArithmetic(n, singlePrecision));
+Graph forwardGraph(const RealRow& row, bool singlePrecision) {
+    const int n = row.plan.n;
+    Graph g(row.lanes, forwardArithmetic(n, singlePrecision));
     const std::vector<Lane> x = samples(g, n);
-    storeLanes(g, packed(n == 8 ? eightPoints(g, x) : realDftInLanes(g, plan.plan, x), n));
+    storeLanes(g, packed(n == 8 ? eightPoints(g, x) : realDftInLanes(g, row.plan, x), n));
     return g;
 }
 
-Graph inverseGraph(int n, bool singlePrecision) {
+Graph inverseGraph(const RealRow& row, bool singlePrecision) {
+    const int n = row.plan.n;
     const Arithmetic arithmetic = inverseArithmetic(n, singlePrecision);
-    const RealRow plan = row(n);
-    Graph network(plan.lanes, {.rounding = arithmetic.rounding, .marking = true});
+    Graph network(row.lanes, {.rounding = arithmetic.rounding, .marking = true});
     const std::vector<Lane> inputs = samples(network, n);
     // Pairs of a prime are synthesised as c - d and c + d with plain sums of sines in d: the
     // transpose of the conjugated transform, whose samples come in reversed order.
-    const bool reversed = plan.plan.kind == Plan::Kind::direct && plan.lanes == 2;
+    const bool reversed = row.plan.kind == Plan::Kind::direct && row.lanes == 2;
     const std::vector<ComplexLanes> spectrum =
         reversed ? symmetricPairs(network, inputs, Sign::plus)
-                 : realDftInLanes(network, plan.plan, inputs);
+                 : realDftInLanes(network, row.plan, inputs);
     std::map<Ref, SpectrumVector> vectors;
     for (const LaneOutput& output : packed(spectrum, n))
         vectors[output.value.vector.magnitude()].add(output);
 
-    Graph g(plan.lanes, arithmetic);
+    Graph g(row.lanes, arithmetic);
     std::vector<WeightedOutput> outputs;
     for (const auto& [vector, values] : vectors) outputs.push_back(values.weighted(g, vector, n));
     std::vector<LaneOutput> results;
@@ -116,5 +116,8 @@ Graph inverseGraph(int n, bool singlePrecision) {
     storeLanes(g, results);
     return g;
 }
+
+Graph forwardGraph(int n, bool singlePrecision) { return forwardGraph(row(n), singlePrecision); }
+Graph inverseGraph(int n, bool singlePrecision) { return inverseGraph(row(n), singlePrecision); }
 
 }   // namespace kfm::dft::real

@@ -79,6 +79,12 @@ KernelFamily family(bool inverse) {
             [=](int n, const Element& element, const Target&, bool) {
                 return graph(inverse, n, element);
             },
+            [](int n, const Element&) { return row(n).plan; },
+            [=](const Plan& plan, const Element& element) {
+                const bool single = !element.doublePrecision;
+                return inverse ? inverseGraph(RealRow(plan), single)
+                               : forwardGraph(RealRow(plan), single);
+            },
             describe, inverse ? inverseChoice : forwardChoice,
             [=](int n, const Element& element, const Target&, const ScheduleChoice& choice,
                 std::span<const Family* const> families) {

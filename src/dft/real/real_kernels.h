@@ -3,11 +3,14 @@
 #pragma once
 
 #include "kernelgen/generator.h"
+#include "kernelgen/real_lanes.h"
 
 namespace kfm::dft::real {
 
 // The values of a packed spectrum have the numbers of core/packed_layouts.h in these graphs.
+kernelgen::Graph forwardGraph(const kernelgen::RealRow& row, bool singlePrecision);
 kernelgen::Graph forwardGraph(int n, bool singlePrecision);
+kernelgen::Graph inverseGraph(const kernelgen::RealRow& row, bool singlePrecision);
 kernelgen::Graph inverseGraph(int n, bool singlePrecision);
 
 kernelgen::KernelFamily forwardFamily();
