@@ -1,12 +1,14 @@
 // What a call reads and writes, and what it does with numbers at the edge of the element type.
 #include <quadmath.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
 
 #include "support/buffer.h"
 #include "support/fault.h"
+#include "support/first_write.h"
 #include "support/oracle.h"
 
 namespace kfm::tests {
@@ -50,6 +52,52 @@ TEST_P(Memory, OnlyTheTwoArraysAreTouched) {
         EXPECT_EQ(std::memcmp(to.data(), expected.data(), expected.size()), 0);
         EXPECT_EQ(std::memcmp(from.data(), source_.data(), from.size()), 0);
         EXPECT_TRUE(from.canariesIntact());
+        EXPECT_TRUE(to.canariesIntact());
+    }
+}
+
+// So the arrays may overlap in any way: once the first output is written, nothing that the source
+// holds matters any more.
+TEST_P(Memory, TheWholeSourceIsReadBeforeTheFirstWrite) {
+    const Transform& transform = GetParam();
+    const Bytes expected = run(transform, source_, kfmScaleNone);
+    for (std::size_t offset : {std::size_t{0}, transform.realBytes()}) {
+        GuardedBuffer from(source_.size(), Flush::start, offset);
+        GuardedBuffer to(expected.size(), Flush::start, offset);
+        std::memcpy(from.data(), source_.data(), from.size());
+        const bool written = atFirstWrite(
+            to, [&] { std::memset(from.data(), 0xff, from.size()); },
+            [&] { call(transform, from.data(), to.data(), kfmScaleNone); });
+        EXPECT_TRUE(written);
+        EXPECT_EQ(std::memcmp(to.data(), expected.data(), expected.size()), 0)
+            << "offset " << offset;
+    }
+}
+
+// Every element is written: none is left as it is because it looks right already.
+TEST_P(Memory, WhatTheDestinationHeldDoesNotMatter) {
+    const Transform& transform = GetParam();
+    Random random(testSeed());
+    Signal signal = randomSignal(transform, random);
+    signal[1] = -0.0;   // in place, where a zero of a spectrum may have to be written
+    const Bytes source = encode(signal, transform);
+    for (std::size_t offset : {std::size_t{0}, transform.realBytes()}) {
+        GuardedBuffer from(source.size());
+        GuardedBuffer to(std::max(source.size(), transform.destinationBytes()), Flush::start,
+                         offset);
+        for (int flag : allFlags) {
+            const Bytes expected = run(transform, source, flag);
+            for (double value : {0.0, -0.0, std::numeric_limits<double>::quiet_NaN()})
+                for (std::byte* start : {from.data(), to.data()}) {
+                    const Signal held(to.size() / transform.realBytes(), value);
+                    std::memcpy(to.data(), encode(held, transform).data(), to.size());
+                    std::memcpy(start, source.data(), source.size());
+                    call(transform, start, to.data(), flag);
+                    ASSERT_EQ(std::memcmp(to.data(), expected.data(), expected.size()), 0)
+                        << (start == to.data() ? "in place" : "apart") << " over " << value
+                        << ", flag " << flag << ", offset " << offset;
+                }
+        }
         EXPECT_TRUE(to.canariesIntact());
     }
 }

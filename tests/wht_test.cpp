@@ -1,38 +1,15 @@
 // What only the Walsh-Hadamard transform has: a work buffer, borrowed or allocated, and results
-// that are known to the last bit. The allocator of the companion library is replaced by one that
-// keeps a record.
-#include <atomic>
+// that are known to the last bit.
 #include <climits>
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
 #include <limits>
 
+#include "support/allocator.h"
+#include "support/arguments.h"
 #include "support/buffer.h"
 #include "support/fault.h"
 #include "support/oracle.h"
-
-namespace {
-
-std::atomic<int> allocations, releases, lastSize;
-
-}   // namespace
-
-// A block that is no more aligned than promised and holds no numbers.
-extern "C" void* kfmMalloc(int size) {
-    ++allocations;
-    lastSize = size;
-    const std::size_t bytes = (static_cast<std::size_t>(size) + 79) / 32 * 32;
-    auto* block = static_cast<std::byte*>(std::aligned_alloc(32, bytes)) + 16;
-    std::memset(block, 0xff, static_cast<std::size_t>(size));
-    return block;
-}
-
-extern "C" void kfmFree(void* block) {
-    if (block == nullptr) return;
-    ++releases;
-    std::free(static_cast<std::byte*>(block) - 16);
-}
 
 namespace kfm::tests {
 namespace {
@@ -70,7 +47,13 @@ protected:
         Random random(testSeed());
         source_ = encode(randomSignal(GetParam(), random), GetParam());
         order_ = GetParam().function->length;
-        allocations = releases = 0;
+        resetAllocatorRecord();
+    }
+
+    // What it records of calls that work in blocks of their own.
+    AllocatorRecord blocks(int calls) const {
+        if (order_ < firstWithBuffer) return {};
+        return {calls, calls, bufferBytes(GetParam()), 0};
     }
 
     Bytes source_;
@@ -126,18 +109,34 @@ TEST_P(Wht, IntegersStayExactByTheSignRule) {
     EXPECT_EQ(run(GetParam(), run(GetParam(), signal, kfmScaleNone), kfmScaleFwdByN), signal);
 }
 
-TEST_P(Wht, AllocatesOnceWithoutABufferAndOnlyFromOrderEight) {
-    const int expected = order_ < firstWithBuffer ? 0 : 1;
-    GuardedBuffer from(source_.size() + 16), to(source_.size() + 16);
-    for (int offset : {0, 4}) {
-        allocations = releases = 0;
-        ASSERT_EQ(call(GetParam(), from.data() + offset, to.data(), kfmScaleNone), kfmOk);
-        EXPECT_EQ(allocations, expected);
-        EXPECT_EQ(releases, expected);
-        if (expected) {
-            EXPECT_EQ(lastSize, bufferBytes(GetParam()));
-        }
+// The block is gone after the last store and not before, by whichever path.
+TEST_P(Wht, WorksInABlockOfItsOwnUntilTheLastStore) {
+    const auto bytes = source_.size();
+    GuardedBuffer from(bytes + 16), to(bytes + 16);
+    const struct {
+        std::byte *source, *destination;
+    } places[] = {{from.data(), to.data()},         {from.data() + 4, to.data()},
+                  {from.data(), to.data() + 4},     {from.data() + 4, to.data() + 4},
+                  {to.data(), to.data()},           {to.data() + 4, to.data() + 4}};
+    for (int flag : allFlags) {
+        const Bytes expected = run(GetParam(), source_, flag);
+        for (const auto& [source, destination] : places)
+            for (bool generic : {false, true}) {
+                const auto finished = [&, output = destination] {
+                    return std::memcmp(output, expected.data(), bytes) == 0;
+                };
+                std::memset(destination, 0xff, bytes);
+                std::memcpy(source, source_.data(), bytes);
+                bool early = false;
+                resetAllocatorRecord([&] { early |= !finished(); });
+                ASSERT_EQ(callWithBuffer(GetParam(), source, destination, flag, nullptr, generic),
+                          kfmOk);
+                EXPECT_TRUE(finished());
+                EXPECT_FALSE(early) << "released before the last store";
+                EXPECT_EQ(allocatorRecord(), blocks(1));
+            }
     }
+    resetAllocatorRecord();
 }
 
 TEST_P(Wht, AllocatesNothingForARefusedCall) {
@@ -148,14 +147,14 @@ TEST_P(Wht, AllocatesNothingForARefusedCall) {
         EXPECT_EQ(call(GetParam(), nullptr, at, kfmScaleNone), kfmErrNullPtr);
         EXPECT_EQ(call(GetParam(), at, nullptr, kfmScaleNone), kfmErrNullPtr);
     }
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocatorRecord(), AllocatorRecord());
 }
 
 // The buffer touches a guard page at either end, and what it holds before the call does not matter.
 TEST_P(Wht, WorksInTheCallersBufferAndNowhereElse) {
     const auto bytes = static_cast<std::size_t>(bufferBytes(GetParam()));
     const Bytes expected = run(GetParam(), source_, kfmScaleBySqrtN);
-    allocations = releases = 0;
+    resetAllocatorRecord();
     for (const bool generic : {false, true})
         for (const Flush flush : {Flush::start, Flush::end})
             for (const std::size_t offset : {0, 4}) {
@@ -171,7 +170,7 @@ TEST_P(Wht, WorksInTheCallersBufferAndNowhereElse) {
                 EXPECT_TRUE(from.canariesIntact() && to.canariesIntact());
                 EXPECT_TRUE(buffer.canariesIntact());
             }
-    EXPECT_EQ(allocations + releases, 0);
+    EXPECT_EQ(allocatorRecord(), AllocatorRecord());
 }
 
 std::vector<Transform> orders(int first, int last) {
@@ -214,14 +213,33 @@ TEST(WhtBufferSize, IsTheSignalAndFromThreePassesAChunk) {
 }
 
 TEST(WhtBufferSize, RefusesOtherOrdersAndWritesNothing) {
+    std::vector<int> orders = {0, -1, INT_MIN, INT_MAX};
+    for (int order = 1; order <= 13; ++order)
+        for (int other : oneBitFrom(order))
+            if (other < 1 || other > 13) orders.push_back(other);
     for (const auto query : {kfmgWHTGetBufferSize_32f, kfmgWHTGetBufferSize_64f})
-        for (int order : {0, -1, 14, INT_MIN, INT_MIN + 1, INT_MAX, 1 + (1 << 16)}) {
+        for (int order : orders) {
             int size = 4711;
-            EXPECT_EQ(query(order, &size), kfmErrSize) << order;
+            ASSERT_EQ(query(order, &size), kfmErrSize) << order;
             EXPECT_EQ(size, 4711);
             EXPECT_EQ(query(order, nullptr), kfmErrSize);
         }
 }
+
+#ifdef __x86_64__
+
+TEST(WhtBufferSize, TheOrderIsTheLowerHalfOfItsRegister) {
+    using Query = KfmStatus (*)(long, int*);
+    int size = -1;
+    for (void (*const address)() : {reinterpret_cast<void (*)()>(kfmgWHTGetBufferSize_32f),
+                                    reinterpret_cast<void (*)()>(kfmgWHTGetBufferSize_64f)})
+        for (unsigned long upper : upperHalves)
+            for (int order = 1; order <= 14; ++order)
+                EXPECT_EQ(reinterpret_cast<Query>(address)(withUpperHalf(upper, order), &size),
+                          order == 14 ? kfmErrSize : kfmOk);
+}
+
+#endif
 
 }   // namespace
 }   // namespace kfm::tests

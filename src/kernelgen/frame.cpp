@@ -77,20 +77,24 @@ std::string functionRow(const std::string& name, const Family& family, const Ele
 std::string kernelFunctions(const Family& family, int length, const Element& element,
                             const std::string& kernel) {
     const std::string head = "(" + parameters(family, element) + ") {\n";
-    const auto run = [&](const std::string& memory) {
-        return "return kfm::runKernel<" + kernel + ", kfm::simd::" + memory +
+    const auto status = [&](const std::string& memory) {
+        return "kfm::runKernel<" + kernel + ", kfm::simd::" + memory +
                (element.doublePrecision ? "Double" : "Single") + ">(" + arguments(family) + ");\n";
     };
     const std::string copy = registry::unalignedName(family, length, element);
     const bool hasCopy = registry::hasUnalignedCopy(family, length, element);
     std::string text;
-    if (hasCopy) text += "KfmStatus " + copy + head + "    " + run("Unaligned") + "}\n";
+    if (hasCopy) text += "KfmStatus " + copy + head + "    return " + status("Unaligned") + "}\n";
     text += "KfmStatus " + registry::functionName(family, length, element) + head;
     if (!registry::testsAlignment(family, length, element))
-        return text + "    " + run("Unaligned") + "}\n";
-    return text + "    if (kfm::misaligned(src) || kfm::misaligned(dst))\n        " +
-           (hasCopy ? "return " + copy + "(" + arguments(family) + ");\n" : run("Unaligned")) +
-           "    " + run("Aligned") + "}\n";
+        return text + "    return " + status("Unaligned") + "}\n";
+    text += "    if (kfm::misaligned(src) || kfm::misaligned(dst))";
+    // Without its end the compiler lets both paths share the moves that suit either.
+    text += hasCopy ? "\n        return " + copy + "(" + arguments(family) + ");\n"
+                    : " {\n        const KfmStatus status = " + status("Unaligned") +
+                          "        asm volatile(\"\" : : : \"memory\");\n"
+                          "        return status;\n    }\n";
+    return text + "    return " + status("Aligned") + "}\n";
 }
 
 std::string symbolMap() {

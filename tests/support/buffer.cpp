@@ -39,6 +39,15 @@ GuardedBuffer::GuardedBuffer(std::size_t bytes, Flush flush, std::size_t offset)
 
 GuardedBuffer::~GuardedBuffer() { munmap(pages_ - pageSize(), pageBytes_ + 2 * pageSize()); }
 
+bool GuardedBuffer::holds(const void* address) const {
+    return pages_ <= address && address < pages_ + pageBytes_;
+}
+
+void GuardedBuffer::makeWritable(bool writable) {
+    if (mprotect(pages_, pageBytes_, writable ? PROT_READ | PROT_WRITE : PROT_READ) != 0)
+        throw std::bad_alloc();
+}
+
 bool GuardedBuffer::untouched() const { return allCanary(data_, data_ + size_); }
 
 bool GuardedBuffer::canariesIntact() const {

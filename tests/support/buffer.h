@@ -19,6 +19,8 @@ public:
 
     std::byte* data() const { return data_; }
     std::size_t size() const { return size_; }
+    bool holds(const void* address) const;   // the block or the rest of its pages
+    void makeWritable(bool writable);
     bool untouched() const;         // every byte of the block is still the canary
     bool canariesIntact() const;    // every byte around the block is still the canary
 

@@ -73,7 +73,7 @@ namespace {
 // and the heap survives until they run.
 class Array {
 public:
-    explicit Array(std::size_t bytes) : units_(bytes / sizeof(Unit) + 2 * margin) {}
+    explicit Array(std::size_t bytes) : units_(bytes / sizeof(Unit) + 2 * margin, unwritten) {}
     std::byte* data() { return units_[margin].bytes; }
 
 private:
@@ -81,6 +81,12 @@ private:
     struct alignas(16) Unit {
         std::byte bytes[16];
     };
+    // No numbers, so that what is not written shows.
+    static constexpr Unit unwritten = [] {
+        Unit unit;
+        for (std::byte& value : unit.bytes) value = std::byte{0xff};
+        return unit;
+    }();
     std::vector<Unit> units_;
 };
 

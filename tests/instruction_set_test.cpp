@@ -1,0 +1,68 @@
+// Every function of both libraries runs on any processor with SSE2. Which instructions those have
+// is not listed here: the assembler is told the processor and given the machine code again.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+#include "support/command.h"
+#include "support/disassembly.h"
+
+namespace kfm::tests {
+namespace {
+
+// +ibt: where a compiler marks the targets of jumps, older processors see instructions without
+// effect.
+#ifdef __x86_64__
+constexpr char oldestProcessor[] = "--64 -march=generic64+ibt";
+#else
+constexpr char oldestProcessor[] = "--32 -march=pentium4+ibt";
+#endif
+
+// What the assembler has to say against the text.
+std::vector<std::string> complaints(const std::string& text) {
+    const std::string file = testing::TempDir() + "instruction_set_" + KFM_TARGET + ".s";
+    std::ofstream(file) << text;
+    // Padding has forms with an index register that does not exist.
+    const std::string command =
+        KFM_AS " " + std::string(oldestProcessor) + " -mindex-reg -o /dev/null '" + file + "'";
+    const std::vector<std::string> lines = linesOf(command + " 2>&1 || true");
+    std::remove(file.c_str());
+    return lines;
+}
+
+// What objdump prints, as source text: without the comment. To older processors tzcnt is bsf, with
+// a prefix that they ignore, and compilers write it where both do the same.
+std::string source(const Instruction& instruction) {
+    const std::string mnemonic = instruction.mnemonic == "tzcnt" ? "bsf" : instruction.mnemonic;
+    return mnemonic + " " + instruction.operands.substr(0, instruction.operands.find('#')) + "\n";
+}
+
+TEST(InstructionSet, IsThatOfTheOldestProcessorInEveryFunction) {
+    std::set<std::string> seen;
+    std::string text;
+    for (const char* library : {KFM_LIBRARY_FILE, KFM_CORE_FILE}) {
+        ASSERT_GT(disassembly(library).size(), 1u);
+        for (const auto& [name, code] : disassembly(library)) {
+            text += "# 1 \"" + name + "\"\n";   // complaints name the function
+            for (const Instruction& instruction : code)
+                if (!instruction.isJump() && !instruction.isCall())
+                    if (const std::string line = source(instruction); seen.insert(line).second)
+                        text += line;
+        }
+    }
+    for (const std::string& complaint : complaints(text)) ADD_FAILURE() << complaint;
+}
+
+// One instruction of each extension that compilers know to use.
+TEST(InstructionSet, IsEnforcedByTheAssembler) {
+    for (const char* line :
+         {"lddqu (%eax), %xmm0", "pshufb %xmm1, %xmm0", "roundsd $1, %xmm1, %xmm0",
+          "crc32l %eax, %eax", "popcntl %eax, %eax", "lzcntl %eax, %eax", "andnl %eax, %eax, %eax",
+          "movbel (%eax), %eax", "vaddpd %xmm1, %xmm0, %xmm0", "vfmadd132sd %xmm2, %xmm1, %xmm0"})
+        EXPECT_FALSE(complaints(line + std::string("\n")).empty()) << line;
+    EXPECT_TRUE(complaints("cmovel %eax, %ecx\ncvttpd2dq %xmm0, %xmm1\n").empty());
+}
+
+}   // namespace
+}   // namespace kfm::tests
