@@ -6,9 +6,6 @@ using namespace kernelgen;
 
 namespace {
 
-Lane low(Ref vector) { return {vector, 0}; }
-Lane high(Ref vector) { return {vector, 1}; }
-
 Ref lows(Graph& g, Ref a, Ref b) { return pack(g, low(a), low(b)); }
 Ref highs(Graph& g, Ref a, Ref b) { return pack(g, high(a), high(b)); }
 

@@ -19,6 +19,9 @@ struct Lane {
     friend bool operator==(const Lane&, const Lane&) = default;
 };
 
+inline Lane low(Ref vector) { return {vector, 0}; }
+inline Lane high(Ref vector) { return {vector, 1}; }
+
 // (a, b); loads of single elements become one load of two, different signs cost a change of sign.
 Ref pack(Graph& g, Lane a, Lane b);
 

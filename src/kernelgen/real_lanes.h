@@ -41,9 +41,6 @@ std::vector<ComplexLanes> symmetricPairs(Graph& g, std::span<const Lane> x,
 // Files X[k] of n points under k or, conjugated, under n - k.
 void setBin(std::vector<ComplexLanes>& spectrum, int n, int k, ComplexLanes value);
 
-// Rader's step of it, for plans of that kind.
-std::vector<ComplexLanes> raderInLanes(Graph& g, const Plan& plan, std::span<const Lane> x);
-
 // What a kernel computes, gathered by vectors: element `first` from lane 0, `second` from lane 1,
 // -1 for none. Lanes that are negated are subtracted from zero.
 struct LaneOutput {

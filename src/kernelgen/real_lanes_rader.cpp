@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "kernelgen/algorithms.h"
-#include "kernelgen/real_lanes.h"
+#include "kernelgen/lane_pairs.h"
 #include "kernelgen/transpose.h"
 
 namespace kfm::kernelgen {
