@@ -15,7 +15,7 @@ using namespace kernelgen;
 RealRow row(int n) {
     static const Plan five = factored5(), nine = ct(3, 3), fifteen = pfa(3, five);
     static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(16);
-    static const Plan nineteen = rader(pfa(2, nine), 10), twentyThree = rader(pfa(2, 11));
+    static const Plan nineteen = rader(pfa(2, nine), 14, 5), twentyThree = rader(pfa(2, 11));
     static const Plan twentyNine = rader(pfa(4, 7)), thirtyOne = rader(pfa(2, fifteen));
     static const std::map<int, Plan> table = {
         {6, pfa(3, 2)},

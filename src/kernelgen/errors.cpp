@@ -31,19 +31,24 @@ private:
 template <class Real, class Product>
 class Meter {
 public:
-    Meter(const Graph& g, int lanesPerElement) : g_(g), lanesPerElement_(lanesPerElement) {}
+    Meter(const Graph& g, int lanesPerElement, int elements)
+        : g_(g), lanesPerElement_(lanesPerElement),
+          exactScale_(Constant::inverseSqrt(elements).value()) {}
 
     void add(const std::vector<Real>& source) {
         const std::vector<Real> actual = evaluate<Real, Product>(g_, lanesPerElement_, source);
         const std::vector<Wide> exact =
             evaluate<Wide>(g_, lanesPerElement_, std::vector<Wide>(source.begin(), source.end()));
+        const Real scale = static_cast<Real>(exactScale_);
         double largestError = 0, largestOutput = 0;
         for (std::size_t i = 0; i < exact.size(); ++i) {
             const double error = std::abs(static_cast<double>(actual[i] - exact[i]));
             const double output = std::abs(static_cast<double>(exact[i]));
+            const Wide scaledError = Real(actual[i] * scale) - exact[i] * exactScale_;
             errors_ += error * error;
             outputs_ += output * output;
-            largestError = std::max(largestError, error);
+            largestError = std::max(
+                {largestError, error, std::abs(static_cast<double>(scaledError / exactScale_))});
             largestOutput = std::max(largestOutput, output);
         }
         worst_ = std::max(worst_, largestError / largestOutput);
@@ -57,15 +62,16 @@ private:
     static constexpr double unit = 1.0 / (1ll << (sizeof(Real) == 4 ? 24 : 53));
     const Graph& g_;
     int lanesPerElement_;
+    Wide exactScale_;
     double errors_ = 0, outputs_ = 0, worst_ = 0;
 };
 
 // `feed` adds its signals to a meter of the graph's arithmetic.
 template <class Feed>
-ErrorFigures measured(const Graph& g, const registry::Element& element, Feed feed) {
+ErrorFigures measured(const Graph& g, const registry::Element& element, int elements, Feed feed) {
     const int lanesPerElement = element.complex ? 2 : 1;
     const auto run = [&]<class Real, class Product>(Real, Product) {
-        Meter<Real, Product> meter(g, lanesPerElement);
+        Meter<Real, Product> meter(g, lanesPerElement, elements);
         feed(meter, Real());
         return meter.figures();
     };
@@ -81,7 +87,7 @@ int reals(const registry::Element& element, int elements) {
 
 ErrorFigures errorsOnSignals(const Graph& g, const registry::Element& element, int elements,
                              int signals) {
-    return measured(g, element, [&]<class Real>(auto& meter, Real) {
+    return measured(g, element, elements, [&]<class Real>(auto& meter, Real) {
         RandomSignal random;
         std::vector<Real> source(reals(element, elements));
         for (int i = 0; i < signals; ++i) {
@@ -93,7 +99,7 @@ ErrorFigures errorsOnSignals(const Graph& g, const registry::Element& element, i
 
 ErrorFigures errorsOnImpulses(const Graph& g, const registry::Element& element, int elements,
                               int step) {
-    return measured(g, element, [&]<class Real>(auto& meter, Real) {
+    return measured(g, element, elements, [&]<class Real>(auto& meter, Real) {
         std::vector<Real> source(reals(element, elements));
         for (std::size_t i = 0; i < source.size(); i += step) {
             source[i] = 1;

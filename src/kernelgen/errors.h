@@ -1,5 +1,5 @@
 // How exact a graph computes: its values in the arithmetic of the element type against those in
-// binary128. The scale factor is left out. In units of 2^-53, in single precision 2^-24.
+// binary128, in units of 2^-53, in single precision 2^-24.
 #pragma once
 
 #include "kernelgen/graph.h"
@@ -8,8 +8,9 @@
 namespace kfm::kernelgen {
 
 struct ErrorFigures {
-    double mean = 0;    // root of the mean square error over that of the outputs
-    double worst = 0;   // the largest error over the largest output of a signal, of all signals
+    double mean = 0;    // root of the mean square error over that of the outputs, unscaled
+    double worst = 0;   // the largest error over the largest output of a signal, of all signals,
+                        // unscaled and scaled by 1/sqrt(n)
 };
 
 // On so many random signals of so many elements.

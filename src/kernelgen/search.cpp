@@ -39,7 +39,7 @@ private:
         const Graph g = family_.graphOf(plan, element_);
         return goal_ == Goal::mean
                    ? errorsOnSignals(g, element_, plan.n, std::max(signals_ / part, 4)).mean
-                   : errorsOnImpulses(g, element_, plan.n, part).worst;
+                   : errorsOnImpulses(g, element_, plan.n, std::min(part, 2)).worst;
     }
 
     Plan descent(Plan plan) const {
