@@ -194,7 +194,7 @@ void printErrors(const Arguments& arguments) {
     writeResult(arguments, errorTable(kernelFamily(kernel.source), kernel.length, *kernel.element,
                                       goal == "mean" ? Goal::mean : Goal::impulses,
                                       std::stoi(arguments.option("--signals", "300")),
-                                      std::stoi(arguments.option("--starts", "3"))));
+                                      std::stoi(arguments.option("--tries", "200"))));
 }
 
 void printCounts(const Arguments& arguments) { writeResult(arguments, operationCountTable()); }
@@ -220,7 +220,7 @@ constexpr Command commands[] = {
      printExplanation},
     {"dump", "<N> <element> --stage graph|schedule|dot [--target <target>]",
      "show a kernel between two stages", printStage},
-    {"errors", "<N> <element> [--signals <count>] [--by mean|impulses] [--starts <count>]",
+    {"errors", "<N> <element> [--signals <count>] \n         [--by mean|impulses] [--tries <count>]",
      "search for a factor tree with smaller errors", printErrors},
     {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
     {"candidates", "", "the schedules from which the tuner chooses", printCandidates},

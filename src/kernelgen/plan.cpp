@@ -110,20 +110,16 @@ std::string Plan::text() const {
     refuse(n, "unknown kind");
 }
 
-std::vector<Plan> neighbours(const Plan& plan) {
-    std::vector<Plan> result;
-    if (plan.kind == Plan::Kind::direct && plan.n > 4)
-        result.push_back(plan.paired ? Plan(plan.n) : paired(plan.n));
-    if (plan.kind == Plan::Kind::pfa) result.push_back(pfa(plan.second(), plan.first()));
-    if (plan.kind == Plan::Kind::rader)
-        for (int root = 2; root < plan.n; ++root)
-            for (int shift = 0; isPrimitiveRoot(root, plan.n) && shift < (plan.n - 1) / 2; ++shift)
-                result.push_back(rader(plan.first(), root, shift));
-    for (std::size_t i = 0; i < plan.parts.size(); ++i)
-        for (const Plan& part : neighbours(plan.parts[i])) {
-            result.push_back(plan);
-            result.back().parts[i] = part;
-        }
+Plan roundedOtherwise(const Plan& plan, std::minstd_rand& random) {
+    Plan result = plan;
+    for (Plan& part : result.parts) part = roundedOtherwise(part, random);
+    if (plan.kind == Plan::Kind::direct && plan.n > 4) result.paired = random() % 2;
+    if (plan.kind == Plan::Kind::pfa && random() % 2) std::swap(result.parts[0], result.parts[1]);
+    if (plan.kind == Plan::Kind::rader) {
+        do result.root = 2 + static_cast<int>(random() % (plan.n - 2));
+        while (!isPrimitiveRoot(result.root, plan.n));
+        result.shift = static_cast<int>(random() % ((plan.n - 1) / 2));
+    }
     return result;
 }
 

@@ -2,6 +2,7 @@
 // builders below and read like the mathematics; each builder refuses what its algorithm cannot do.
 #pragma once
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -58,9 +59,9 @@ Plan rader(const Plan& convolution, int root = 0, int shift = 0);
 // The prime by a convolution padded to 4 * quarter.n points, a fourth of which is one transform.
 Plan paddedRader(int prime, const Plan& quarter);
 
-// The trees that do the same with other roundings and differ in one place: in the root and the shift
-// of a Rader step, in the order of two prime factors, in the pairing of a direct module.
-std::vector<Plan> neighbours(const Plan& plan);
+// A tree that does the same with other roundings: with random roots and shifts of its Rader steps,
+// orders of prime factors and pairs in direct modules.
+Plan roundedOtherwise(const Plan& plan, std::minstd_rand& random);
 // Whether two trees have the same steps in the same order.
 bool sameSteps(const Plan& a, const Plan& b);
 

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <random>
 #include <stdexcept>
-#include <vector>
 
 #include "kernelgen/errors.h"
 #include "kernelgen/report.h"
@@ -17,68 +15,34 @@ public:
     Search(const KernelFamily& family, const registry::Element& element, Goal goal, int signals)
         : family_(family), element_(element), goal_(goal), signals_(signals) {}
 
-    // From the tree on record and from so many others.
-    std::string run(const Plan& recorded, int starts) {
-        std::string table = heading + line(recorded);
-        for (int i = 0; i <= starts; ++i) table += line(descent(i == 0 ? recorded : any(recorded)));
+    std::string run(const Plan& recorded, int tries) {
+        std::string table = "   mean   worst impulse    ops  tree\n" + line(recorded);
+        double best = error(recorded);
+        for (int i = 0; i < tries; ++i) {
+            const Plan plan = roundedOtherwise(recorded, random_);
+            if (!promising(plan, best)) continue;
+            const double found = error(plan);
+            if (found >= best) continue;
+            best = found;
+            table += line(plan);
+        }
         return table;
     }
 
 private:
-    struct Candidate {
-        double error;
-        Plan plan;
-    };
-    static constexpr const char* heading = "   mean   worst impulse    ops  tree\n";
-    static constexpr double worthwhile = 0.005;
-    // A part of the signals tells who is worth all of them.
-    static constexpr int screening = 8;
-    static constexpr std::size_t finalists = 12;
-
-    double error(const Plan& plan, int part = 1) const {
+    double error(const Plan& plan) const {
         const Graph g = family_.graphOf(plan, element_);
-        return goal_ == Goal::mean
-                   ? errorsOnSignals(g, element_, plan.n, std::max(signals_ / part, 4)).mean
-                   : errorsOnImpulses(g, element_, plan.n, std::min(part, 2)).worst;
+        return goal_ == Goal::mean ? errorsOnSignals(g, element_, plan.n, signals_).mean
+                                   : errorsOnImpulses(g, element_, plan.n).worst;
     }
 
-    Plan descent(Plan plan) const {
-        for (double best = error(plan);;) {
-            const Candidate winner = bestNeighbour(plan);
-            if (winner.error > (1 - worthwhile) * best) return plan;
-            plan = winner.plan;
-            best = winner.error;
-        }
-    }
-
-    // The tree with one random change after the other.
-    Plan any(Plan plan) {
-        for (int i = 0; i < 4; ++i) {
-            const std::vector<Plan> all = neighbours(plan);
-            const Plan& chosen = all[random_() % all.size()];
-            try {
-                error(chosen, screening);
-                plan = chosen;
-            } catch (const std::logic_error&) {
-                // As below.
-            }
-        }
-        return plan;
-    }
-
-    Candidate bestNeighbour(const Plan& plan) const {
-        std::vector<Candidate> candidates;
-        for (const Plan& neighbour : neighbours(plan)) try {
-            candidates.push_back({error(neighbour, screening), neighbour});
-        } catch (const std::logic_error&) {
-            // A tree that the lane mapping of the length cannot take.
-        }
-        std::ranges::sort(candidates, {}, &Candidate::error);
-        candidates.resize(std::min(candidates.size(), finalists), {0, plan});
-        for (Candidate& candidate : candidates)
-            candidate.error = error(candidate.plan);
-        const auto best = std::ranges::min_element(candidates, {}, &Candidate::error);
-        return best == candidates.end() ? Candidate{error(plan), plan} : *best;
+    // A part of the signals tells who is worth all of them.
+    bool promising(const Plan& plan, double best) const try {
+        const Graph g = family_.graphOf(plan, element_);
+        if (goal_ == Goal::impulses) return errorsOnImpulses(g, element_, plan.n, 7).worst < best;
+        return errorsOnSignals(g, element_, plan.n, std::max(signals_ / 8, 1)).mean < 1.02 * best;
+    } catch (const std::logic_error&) {
+        return false;   // the lane mapping of the length cannot take this tree
     }
 
     std::string line(const Plan& plan) const {
@@ -103,9 +67,9 @@ private:
 }   // namespace
 
 std::string errorTable(const KernelFamily& family, int length, const registry::Element& element,
-                       Goal goal, int signals, int starts) {
+                       Goal goal, int signals, int tries) {
     if (!family.graphOf) throw std::invalid_argument("these kernels have no factor trees");
-    return Search(family, element, goal, signals).run(family.plan(length, element), starts);
+    return Search(family, element, goal, signals).run(family.plan(length, element), tries);
 }
 
 }   // namespace kfm::kernelgen

@@ -13,11 +13,10 @@ enum class Goal {
     impulses,   // the worst error on single impulses
 };
 
-// Descents from the tree on record and from so many others that do the same work: one change at a
-// time, the best of all neighbours, until none is better. A table of the tree on record and of where
-// the descents end: mean and worst error over so many random signals, worst error on impulses,
-// vector operations. Errors are those of the forward transform; the inverse has the same.
+// Tries so many random trees that do the work of the one on record. A table of that one and of each
+// that is better than all before: mean and worst error over so many random signals, worst error on
+// impulses, vector operations. Errors are those of the forward transform; the inverse has the same.
 std::string errorTable(const KernelFamily& family, int length, const registry::Element& element,
-                       Goal goal, int signals, int starts);
+                       Goal goal, int signals, int tries);
 
 }   // namespace kfm::kernelgen

@@ -64,7 +64,7 @@ Plan doublePrecisionPlan(int n) {
         {44, pfa(4, 11)},
         {45, pfa(nine, 5)},
         {46, pfa(2, twentyThree)},
-        {47, rader(pfa(2, rader(pfa(2, 11), 15)), 11)},
+        {47, rader(pfa(2, rader(pfa(2, 11), 19, 1)), 10, 19)},   // 2.46, impulses 4.33
         {48, pfa(16, 3)},
         {49, ct(7, 7)},
         {50, pfa(2, ct(factored5(), factored5()))},
