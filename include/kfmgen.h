@@ -104,6 +104,7 @@ KFM_API const KfmLibraryVersion *kfmgenGetLibVersion(void);
  * Aliasing: the whole source is read before the first output is written, so the destination may
  * be the source itself (in place) or overlap it in any way.
  * Threads: reentrant, no shared state.
+ * Stack: less than 4 KiB.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: length outside 2..64
@@ -408,6 +409,7 @@ KFM_API KfmStatus kfmgDFTInv_CToC_64fc(const Kfm64fc *src, Kfm64fc *dst, int len
  * be the source itself (in place) or overlap it in any way. In place, the array must have room
  * for the longer of the two: CCS needs its N + 2 or N + 1 reals.
  * Threads: reentrant, no shared state.
+ * Stack: less than 8 KiB.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: length outside 2..64
@@ -1219,8 +1221,8 @@ KFM_API KfmStatus kfmgDFTInv_PermToR_64f(const Kfm64f *src, Kfm64f *dst, int len
  * Two calls return the input when one has kfmScaleNone and the other divides by N, or when both
  * have kfmScaleBySqrtN.
  *
- * Precision, alignment, aliasing, threads and status are those of the real DFT; in place, source
- * and destination have the same N elements.
+ * Precision, alignment, aliasing, threads, stack and status are those of the real DFT; in place,
+ * source and destination have the same N elements.
  * ------------------------------------------------------------------------------------------ */
 
 /* declarations: Hartley */
@@ -1383,6 +1385,7 @@ KFM_API KfmStatus kfmgHartley_64f(const Kfm64f *src, Kfm64f *dst, int length, in
  * Aliasing: the whole source is read before the first output is written, so the destination may be
  * the source itself (in place) or overlap it in any way. The buffer overlaps neither.
  * Threads: reentrant, no shared state.
+ * Stack: less than 4 KiB, that of kfmMalloc included.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: order outside 1..13
@@ -1464,6 +1467,9 @@ KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int fla
  * Threads: a specification of a length up to 32 is only read and may be shared by threads. Any
  * other holds the work buffer of the transform: one call at a time. Distinct specifications are
  * independent. No transform allocates memory.
+ * Stack: less than 12 KiB for a transform, less than 4 KiB for every other call, so that a thread
+ * with the smallest stack (16 KiB on Linux) has enough. Only 64f of length 2049 takes more, up to
+ * 20 KiB.
  * Bits: both targets give the same, except 64f beyond length 32, whose tables are made with the
  * system's cos and sin.
  * ------------------------------------------------------------------------------------------ */
