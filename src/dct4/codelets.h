@@ -17,8 +17,8 @@ template <class Real, int n>
 void fixedTransform(const Real* src, Real* dst);
 
 // The input stage of a transform of len = m*d elements, for m = 2, 4, 8, 16, 32, 64: all of `src`
-// is read, all of `w` is written (len elements; not the caller's arrays). `d` is a multiple of four;
-// from m = 8 up it is m or m/2, for m = 64 it is 32. Sub-transform r has the inputs
+// is read, all of `w` is written (len elements; not the caller's arrays). `d` is a multiple of
+// four; from m = 8 up it is m or m/2, for m = 64 it is 32. Sub-transform r has the inputs
 // a_k = src[2dk + r] and b_k = src[len-1-2dk-r], k < m/2, and with
 //     G(p) = sum of (a_k - i b_k) exp(i pi k (4p+1) / m),    p < m/2,
 // column r of w, whose row length is d, receives

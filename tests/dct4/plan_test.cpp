@@ -85,7 +85,8 @@ TYPED_TEST(Plan, RootIsTheHandle) {
 }
 
 // The numbers of an object from a byte on, by their places and not by the names of today.
-void expectNumbers(const void* object, std::ptrdiff_t from, const std::vector<std::int32_t>& expected) {
+void expectNumbers(const void* object, std::ptrdiff_t from,
+                   const std::vector<std::int32_t>& expected) {
     std::vector<std::int32_t> numbers(expected.size());
     std::memcpy(numbers.data(), static_cast<const Kfm8u*>(object) + from, 4 * numbers.size());
     EXPECT_EQ(numbers, expected);
