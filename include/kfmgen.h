@@ -7,6 +7,9 @@
  * text of a family says so. The DCT-IV, at the end of this file, takes its length at run time and
  * works differently.
  *
+ * Where results are said to be the same bit for bit, or to hold the same bits, a NaN may still
+ * differ in its sign and payload.
+ *
  * A name is built as kfmg<transform>_<length>_<element>; without the length it is the generic
  * entry, which takes the length as an argument.
  */
@@ -100,10 +103,11 @@ KFM_API const KfmLibraryVersion *kfmgenGetLibVersion(void);
  *   kfmScaleNone       1            1
  *
  * Alignment: any address will do. When source and destination are both multiples of 16 the call
- * takes a faster path; the results are bit for bit the same.
+ * takes a faster path; the results are bit for bit the same, but for the sign and payload of NaNs.
  * Aliasing: the whole source is read before the first output is written, so the destination may
  * be the source itself (in place) or overlap it in any way.
  * Threads: reentrant, no shared state.
+ * Stack: less than 4 KiB.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: length outside 2..64
@@ -408,6 +412,7 @@ KFM_API KfmStatus kfmgDFTInv_CToC_64fc(const Kfm64fc *src, Kfm64fc *dst, int len
  * be the source itself (in place) or overlap it in any way. In place, the array must have room
  * for the longer of the two: CCS needs its N + 2 or N + 1 reals.
  * Threads: reentrant, no shared state.
+ * Stack: less than 8 KiB.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: length outside 2..64
@@ -1219,8 +1224,8 @@ KFM_API KfmStatus kfmgDFTInv_PermToR_64f(const Kfm64f *src, Kfm64f *dst, int len
  * Two calls return the input when one has kfmScaleNone and the other divides by N, or when both
  * have kfmScaleBySqrtN.
  *
- * Precision, alignment, aliasing, threads and status are those of the real DFT; in place, source
- * and destination have the same N elements.
+ * Precision, alignment, aliasing, threads, stack and status are those of the real DFT; in place,
+ * source and destination have the same N elements.
  * ------------------------------------------------------------------------------------------ */
 
 /* declarations: Hartley */
@@ -1379,10 +1384,11 @@ KFM_API KfmStatus kfmgHartley_64f(const Kfm64f *src, Kfm64f *dst, int length, in
  * block from kfmMalloc and returns it with kfmFree; that memory is exhausted is not noticed. Orders
  * 1 to 7 ignore the buffer.
  * Alignment: any address will do for source and destination. When both are multiples of 16 the call
- * takes another path; the results are bit for bit the same.
+ * takes another path; the results are bit for bit the same, but for the sign and payload of NaNs.
  * Aliasing: the whole source is read before the first output is written, so the destination may be
  * the source itself (in place) or overlap it in any way. The buffer overlaps neither.
  * Threads: reentrant, no shared state.
+ * Stack: less than 4 KiB, that of kfmMalloc included.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: order outside 1..13
@@ -1456,7 +1462,7 @@ KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int fla
  * Alignment: let blocks start at a multiple of 32, as those of kfmMalloc do. A block that does not
  * is aligned within: the size has room for rounding its address down, which is what happens, except
  * that an address with bit 31 set is rounded up. The plan of a length up to 32 may then reach
- * beyond `size`, by up to 32 bytes. src and dst need the alignment of an element only.
+ * beyond `size`, by up to 11 bytes. src and dst need the alignment of an element only.
  * Moving: on x86-64 a block holds no addresses. Its bytes may be copied to another block whose
  * address leaves the same remainder modulo 32, and the handle, moved with it, works there. On i386
  * a plan stays where it was made.
@@ -1464,6 +1470,9 @@ KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int fla
  * Threads: a specification of a length up to 32 is only read and may be shared by threads. Any
  * other holds the work buffer of the transform: one call at a time. Distinct specifications are
  * independent. No transform allocates memory.
+ * Stack: less than 12 KiB for a transform, less than 4 KiB for every other call, so that a thread
+ * with the smallest stack (16 KiB on Linux) has enough. Only 64f of length 2049 takes more, up to
+ * 20 KiB.
  * Bits: both targets give the same, except 64f beyond length 32, whose tables are made with the
  * system's cos and sin.
  * ------------------------------------------------------------------------------------------ */
@@ -1480,7 +1489,7 @@ KFM_API KfmStatus kfmgDCT4GetSize_64f(int len, int *size);
 /* Plans `len` into the caller's block, of at least the size that GetSize tells for it.
  *   kfmErrNullPtr    spec or block is null
  *   kfmErrSize       a length that cannot be planned; *spec is left alone, of the block no more
- *                    than 224 bytes are used */
+ *                    than 204 bytes are used, 235 if its address is rounded up */
 KFM_API KfmStatus kfmgDCT4Init_32f(KfmDCT4Spec_32f **spec, int len, Kfm8u *block);
 KFM_API KfmStatus kfmgDCT4Init_64f(KfmDCT4Spec_64f **spec, int len, Kfm8u *block);
 

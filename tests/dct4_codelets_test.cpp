@@ -20,10 +20,16 @@ TYPED_TEST(Dct4Codelets, FixedTransformsAreTheDefinition) {
         });
 }
 
-// Every combination of the two stages, also those that no length asks for.
+// The row lengths of the work buffer that go with m.
+std::vector<int> rowLengths(int m) {
+    if (m < 8) return {4, 12, 32};
+    if (m == 64) return {32};
+    return {m / 2, m};
+}
+
 TYPED_TEST(Dct4Codelets, BothStagesAreTheDefinition) {
-    for (int d = 4; d <= 32; d *= 2)
-        for (int m = 8; m <= 64; m *= 2) {
+    for (int m = 8; m <= 64; m *= 2)
+        for (const int d : rowLengths(m)) {
             SCOPED_TRACE("d " + std::to_string(d) + ", m " + std::to_string(m));
             Dct4Walk<TypeParam> walk(d * m, d, {});
             expectDefinition<TypeParam>(d * m, 5, [&](auto* src, auto* dst) { walk.run(src, dst); });
@@ -72,12 +78,12 @@ Wide rowOfWork(const std::vector<WideComplex>& G, int row) {
 
 TYPED_TEST(Dct4Codelets, InputStageFillsTheRowsOfWork) {
     for (int m = 2; m <= 64; m *= 2)
-        for (const int d : {4, 12, 32}) {
+        for (const int d : rowLengths(m)) {
             const int len = m * d;
             const std::vector<TypeParam> x = randomSignal<TypeParam>(len);
             AlignedArray<TypeParam> w(len);
             withSize<2, 64>(m, [&]<int size>() {
-                dct4::inputStage<TypeParam, size>(x.data(), w.data(), len, d);
+                dct4::inputStage<TypeParam, size>(x.data(), w.data(), d);
             });
             for (int r = 0; r < d; ++r) {
                 std::vector<WideComplex> u;

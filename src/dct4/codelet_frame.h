@@ -47,7 +47,7 @@ private:
     std::ptrdiff_t odd_[4];
 };
 
-// Numbered slots as vectors a fixed distance apart.
+// Numbered slots as vectors a fixed distance apart; one behind the other where they are read.
 template <class Real>
 struct RowReader {
     const Real* first;
@@ -68,6 +68,15 @@ template <class Real, int count>
 void copyElements(const Real* from, Real* to) {
 #pragma GCC unroll 16
     for (int i = 0; i < count; i += lanes<Real>) storeUnaligned(to + i, loadUnaligned(from + i));
+}
+
+// The last of them first; the destination is aligned.
+template <class Real, int count>
+void copyReversed(const Real* from, Real* to) {
+    constexpr int L = lanes<Real>;
+#pragma GCC unroll 16
+    for (int i = 0; i < count; i += L)
+        storeAligned(to + i, reverse(loadUnaligned(from + (count - L - i))));
 }
 
 }   // namespace kfm::dct4

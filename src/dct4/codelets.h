@@ -16,16 +16,16 @@ inline constexpr int rowLength = 32;
 template <class Real, int n>
 void fixedTransform(const Real* src, Real* dst);
 
-// The input stage of a transform of `len` = m*d elements, for m = 2, 4, 8, 16, 32, 64: all of
-// `src` is read, all of `w` is written (len elements; not the caller's arrays). `d` is a multiple
-// of four. Sub-transform r has the inputs a_k = src[2dk + r] and b_k = src[len-1-2dk-r],
-// k < m/2, and with
+// The input stage of a transform of len = m*d elements, for m = 2, 4, 8, 16, 32, 64: all of `src`
+// is read, all of `w` is written (len elements; not the caller's arrays). `d` is a multiple of
+// four; from m = 8 up it is m or m/2, for m = 64 it is 32. Sub-transform r has the inputs
+// a_k = src[2dk + r] and b_k = src[len-1-2dk-r], k < m/2, and with
 //     G(p) = sum of (a_k - i b_k) exp(i pi k (4p+1) / m),    p < m/2,
 // column r of w, whose row length is d, receives
 //     Re G(p), Im G(p)     in rows 4p, 4p+1           for p < m/4,
 //     Re G(p), -Im G(p)    in rows 2m-4p-2, 2m-4p-1   for the others.
 template <class Real, int m>
-void inputStage(const Real* src, Real* w, int len, int d);
+void inputStage(const Real* src, Real* w, int d);
 
 // The same sums G inside a recursion, m = 2, ..., 64, for all columns of w: column j < 32 has
 // a_k = front[k*step + j] and b_k = back[-k*step - j]; `rows` receives m rows in natural order,
@@ -54,7 +54,7 @@ template <class Real, int d>
 void outputStage(const Real* w, const Real* table, Real* dst, int len);
 
 // The transform of an odd length, 1 modulo 32. `table` holds cos(pi (8j-len) / 4len) for
-// j < len; `scratch` takes len elements, aligned to 16 bytes. src == dst works.
+// j < len; `scratch` takes len - 1 elements, aligned to 16 bytes. src == dst works.
 template <class Real>
 void oddTransform(const Real* src, Real* dst, int len, const Real* table, Real* scratch);
 

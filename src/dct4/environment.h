@@ -7,6 +7,9 @@
 //                   counts a few list nodes more than are taken
 //     del           gives back what init and build took, in reverse order (`__del__`)
 // and the kinds that compute have `compute`.
+//
+// The layout of a plan stands: fields that nothing reads keep their places, the parameters of env2
+// to env5 and of the maps with their values, which tell what an object is for, others as spare.
 #pragma once
 
 #include <cstdint>

@@ -7,18 +7,17 @@ namespace kfm::dct4 {
 namespace {
 
 template <class Map>
-void initIndexMap(Map& map, void* arena) {
+void initIndexMap(Map& map) {
     map.release = Operations<Map>::release;
     map.size = sizeof(Map);
     map.at = Operations<Map>::at;
-    map.arena = arena;
 }
 
 }   // namespace
 
 template <class Real>
-void EnvLambda<Real>::init(void* arena, int length, int divisor) {
-    initIndexMap(*this, arena);
+void EnvLambda<Real>::init(int length, int divisor) {
+    initIndexMap(*this);
     a = length;
     b = divisor;
 }
@@ -29,8 +28,8 @@ Real EnvLambda<Real>::value(int i) const {
 }
 
 template <class Real>
-void EnvFCompose<Real>::init(void* arena, int len, int d) {
-    initIndexMap(*this, arena);
+void EnvFCompose<Real>::init(int len, int d) {
+    initIndexMap(*this);
     c0 = 2 * d;
     c1 = 8 * len;
     c2 = len / (2 * d);
@@ -47,8 +46,8 @@ Real EnvFCompose<Real>::value(int row, int column) const {
 }
 
 template <class Real>
-void EnvFSplit<Real>::init(void* arena, int len, int d, const EnvFCompose<Real>* compose) {
-    initIndexMap(*this, arena);
+void EnvFSplit<Real>::init(int len, int d, const EnvFCompose<Real>* compose) {
+    initIndexMap(*this);
     columns = 2 * d;
     blocks = len / (8 * d);
     inner = compose;

@@ -8,7 +8,7 @@ namespace kfm::dct4 {
 template <class At>
 struct IndexMap : Object {
     OperationRef<At> at;
-    Ref<void> arena;
+    std::int32_t spare = 0;
 };
 
 // (i + 1/2) / (a / b), the second division of integers.
@@ -16,7 +16,7 @@ template <class Real>
 struct EnvLambda : IndexMap<Real(const void*, int)> {
     std::int32_t a, b;
 
-    void init(void* arena, int length, int divisor);
+    void init(int length, int divisor);
     void del() {}
     Real value(int i) const;
 };
@@ -27,7 +27,7 @@ template <class Real>
 struct EnvFCompose : IndexMap<Real(const void*, int, int)> {
     std::int32_t c0, c1, c2, c3, c4;   // 2d, 8 len, len/2d, d, 2d
 
-    void init(void* arena, int len, int d);
+    void init(int len, int d);
     void del() {}
     Real value(int row, int column) const;
 };
@@ -38,7 +38,7 @@ struct EnvFSplit : IndexMap<Real(const void*, int, int, int)> {
     std::int32_t columns, blocks;   // 2d, len/8d
     Ref<const EnvFCompose<Real>> inner;
 
-    void init(void* arena, int len, int d, const EnvFCompose<Real>* compose);
+    void init(int len, int d, const EnvFCompose<Real>* compose);
     void del() {}
     Real value(int i, int j, int column) const;
 };

@@ -29,7 +29,7 @@ struct ConstantStride {
     Real* operator[](int i) const { return base + i * d; }
 };
 
-// All groups, where the compiler knows the length of w's rows.
+// All groups of columns, where the compiler knows the length of w's rows.
 template <class Real, int m, int d>
 void inputStageOfRows(const Real* src, Real* w) {
     constexpr int L = lanes<Real>;
@@ -40,37 +40,49 @@ void inputStageOfRows(const Real* src, Real* w) {
                                         RowWriter<Real>{w + r, d});
 }
 
+// And where it does not.
 template <class Real, int m>
-void inputStage(const Real* src, Real* w, int len, int d) {
-    // The row lengths that go with m where a length is planned.
-    if (d == m / 2) return inputStageOfRows<Real, m, m / 2>(src, w);
-    if constexpr (m <= 32)
-        if (d == m) return inputStageOfRows<Real, m, m>(src, w);
+void inputStageOfAnyRows(const Real* src, Real* w, int d) {
     constexpr int L = lanes<Real>;
     using Stride = Strided<const Real, m / 2>;
+    using Reader = MirroredReader<Real, m / 2, Stride, Stride>;
     for (int r = 0; r < d; r += L)
-        InputStageNetwork<Real, m>::run(
-            MirroredReader<Real, m / 2, Stride, Stride>{{src + r, 2 * d},
-                                                        {src + (len - r - L), -2 * d}},
-            RowWriter<Real>{w + r, d});
+        InputStageNetwork<Real, m>::run(Reader{{src + r, 2 * d}, {src + (m * d - r - L), -2 * d}},
+                                        RowWriter<Real>{w + r, d});
 }
 
+// Lengths are planned with m from 8 up, and d is m or half of it.
+template <class Real, int m>
+void inputStage(const Real* src, Real* w, int d) {
+    if constexpr (m < 8) return inputStageOfAnyRows<Real, m>(src, w, d);
+    else if (m == 64 || d == m / 2) return inputStageOfRows<Real, m, m / 2>(src, w);
+    else return inputStageOfRows<Real, m, m>(src, w);
+}
+
+// Slots k and m/2 + k: rows 2k and 2k+1.
+template <class Real, int half>
+struct PairedRowReader {
+    const Real* first;
+
+    VectorOf<Real> load(int slot) const {
+        return loadAligned(first + (slot < half ? 2 * slot : 2 * (slot - half) + 1) * rowLength);
+    }
+};
+
 // The inputs of a block are far apart, by a power of two, and fall into the same few sets of every
-// cache. They are fetched once, whole rows at a time, to where all columns find them side by side.
+// cache. They are fetched once, whole rows at a time, to where the results will stand. A result
+// depends on the input that it overwrites, a_k in row 2k or b_k in row 2k+1: real parts lack b_0
+// alone, imaginary parts a_0.
 template <class Real, int m>
 void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* rows) {
-    constexpr int L = lanes<Real>, half = m / 2;
-    alignas(64) Real fromFront[half * rowLength], fromBack[half * rowLength];
-    for (int k = 0; k < half; ++k) {
-        copyElements<Real, rowLength>(front + k * step, fromFront + k * rowLength);
-        copyElements<Real, rowLength>(back - k * step - (rowLength - 1), fromBack + k * rowLength);
+    Real* row = rows;
+    for (int k = 0; k < m / 2; ++k, front += step, back -= step, row += 2 * rowLength) {
+        copyElements<Real, rowLength>(front, row);
+        copyReversed<Real, rowLength>(back - (rowLength - 1), row + rowLength);
     }
-    using Stride = ConstantStride<const Real, rowLength>;
-    for (int column = 0; column < rowLength; column += L)
-        InputBlockNetwork<Real, m>::run(
-            MirroredReader<Real, half, Stride, Stride>{{fromFront + column},
-                                                       {fromBack + rowLength - column - L}},
-            RowWriter<Real>{rows + column, rowLength});
+    for (int column = 0; column < rowLength; column += lanes<Real>)
+        InputBlockNetwork<Real, m>::run(PairedRowReader<Real, m / 2>{rows + column},
+                                        RowWriter<Real>{rows + column, rowLength});
 }
 
 }   // namespace kfm::dct4

@@ -1,4 +1,4 @@
-// Computing is one call of the codelet for m, or one recursion for every four sub-sequences.
+// Computing is one call of the codelet for m, or one recursion for each row length of columns.
 #include "dct4/input_stage.h"
 
 #include "dct4/codelets.h"
@@ -9,7 +9,6 @@ namespace {
 // What both kinds are told about the input and the work buffer.
 template <class Kind>
 void initShape(Kind& environment, int len, int d) {
-    environment.spare = nullptr;
     environment.rule = 0;
     environment.m = len / d;
     environment.len = environment.workLen = len;
@@ -76,7 +75,7 @@ KfmStatus Env5<Real>::build() {
     rule = subLengthRule(m);
     if (rule != splitRule) return kfmOk;
     auto* env7 = take<Env7<Real>>(arena);
-    env7->init(arena, {m, step, len, stride, true});
+    env7->init(arena, {m, step, len, true});
     return addStage(*this, recursion, env7);
 }
 
@@ -89,12 +88,12 @@ void Env5<Real>::del() {
 template <class Real>
 KfmStatus Env5<Real>::compute(const Real* src, Real* w) const {
     switch (rule) {
-        case 1: inputStage<Real, 2>(src, w, len, stride); return kfmOk;
-        case 2: inputStage<Real, 4>(src, w, len, stride); return kfmOk;
-        case 3: inputStage<Real, 8>(src, w, len, stride); return kfmOk;
-        case 4: inputStage<Real, 16>(src, w, len, stride); return kfmOk;
-        case 5: inputStage<Real, 32>(src, w, len, stride); return kfmOk;
-        case 6: inputStage<Real, 64>(src, w, len, stride); return kfmOk;
+        case 1: inputStage<Real, 2>(src, w, stride); return kfmOk;
+        case 2: inputStage<Real, 4>(src, w, stride); return kfmOk;
+        case 3: inputStage<Real, 8>(src, w, stride); return kfmOk;
+        case 4: inputStage<Real, 16>(src, w, stride); return kfmOk;
+        case 5: inputStage<Real, 32>(src, w, stride); return kfmOk;
+        case 6: inputStage<Real, 64>(src, w, stride); return kfmOk;
         default: return computeGroups(src, w);
     }
 }
@@ -102,8 +101,7 @@ KfmStatus Env5<Real>::compute(const Real* src, Real* w) const {
 template <class Real>
 KfmStatus Env5<Real>::computeGroups(const Real* src, Real* w) const {
     const auto* env7 = stageOf<Env7<Real>>(recursion);
-    for (int group = 0; group < groups; ++group) {
-        const int first = 4 * group;
+    for (int first = 0; first < stride; first += rowLength) {
         const KfmStatus status = env7->compute(src, w, first, mirror - 2 * first, first);
         if (status != kfmOk) return status;
     }

@@ -1,6 +1,9 @@
 // The transform of odd lengths N, which the two stages cannot give: with inputs and outputs
 // permuted and their signs changed it is a Hartley transform of N points, summed here in two
 // levels: blocks of 32 inputs, whose angles repeat from block to block, then the blocks.
+#include <bit>
+#include <limits>
+
 #include "dct4/codelet_frame.h"
 
 namespace kfm::dct4 {
@@ -64,7 +67,10 @@ private:
     }
 
     static constexpr int runLength = 16;
-    VectorOf<Real> sums_[24] = {};
+    // Enough for every length that an int tells.
+    static constexpr int levels = std::numeric_limits<unsigned>::digits -
+                                  std::countr_zero(unsigned{blockLength * runLength});
+    VectorOf<Real> sums_[levels] = {};
     VectorOf<Real> run_ = {};
     unsigned runs_ = 0;
     int inRun_ = 0;

@@ -32,7 +32,6 @@ template <class Real>
 void Env2<Real>::init(void* arena, int inputLen, int divisor, const EnvFCompose<Real>* twiddles) {
     initEnvironment(*this, arena);
     stage = newList(arena);
-    spare = nullptr;
     rule = 0;
     d = divisor;
     len = outputLen = inputLen;
@@ -49,7 +48,7 @@ KfmStatus Env2<Real>::build() {
     if (rule == 0) return kfmErrSize;
     auto* env4 = take<Env4<Real>>(arena);
     auto* split = take<EnvFSplit<Real>>(arena);
-    split->init(arena, len, d, compose);
+    split->init(len, d, compose);
     EnvList_add(children, split);
     env4->init(arena, len, d, split);
     return addStage(*this, stage, env4);

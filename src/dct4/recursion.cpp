@@ -55,21 +55,18 @@ void Env7<Real>::init(void* arena, const SplitShape& shape) {
     divisor = 0;
     step = shape.step;
     len = shape.len;
-    d = shape.d;
     root = shape.root;
-    lambda = nullptr;
 }
 
 template <class Real>
 KfmStatus Env7<Real>::build() {
     rule = 1;
     if (divisorsIntNonTriv(&divisor, a / 2) != kfmOk) return kfmErrSize;
-    const SplitShape shape{a, step, len, d, root};
+    const SplitShape shape{a, step, len, root};
     auto* env8 = take<Env8<Real>>(arena);
     auto* map = take<EnvLambda<Real>>(arena);
-    map->init(arena, a, divisor);
+    map->init(a, divisor);
     EnvList_add(children, map);
-    lambda = map;
     env8->init(arena, shape, divisor, map);
     if (addStage(*this, joining, env8) != kfmOk) return kfmErrSize;
     auto* env9 = take<Env9<Real>>(arena);
@@ -87,12 +84,9 @@ void Env7<Real>::del() {
     deleteChildren(*this);
 }
 
-// Neighbouring groups share the cache lines of the input and the rows of the work buffer. So the
-// call for the first group of a row takes along all others, and these find nothing left to do.
 template <class Real>
 KfmStatus Env7<Real>::compute(const Real* src, Real* w, int in0, int refl, int out0) const {
     if (rule != 1) return kfmErrBadSpec;
-    if (out0 % rowLength != 0) return kfmOk;
     const KfmStatus status = stageOf<Env9<Real>>(splitting)->compute(src, w, in0, refl, out0);
     if (status == kfmOk) stageOf<Env8<Real>>(joining)->compute(w + out0);
     return status;
@@ -125,13 +119,7 @@ void Env8<Real>::init(void* arena, const SplitShape& shape, int splitFactor,
     lambda = map;
     divisor = splitFactor;
     a = shape.a;
-    m = a / divisor;
-    blockRows = m / 2;
-    rowStride = rowLength;
-    blockStride = m * rowStride;
-    tableStride = 2 * divisor;
-    stride = shape.d;
-    len = shape.len;
+    blockRows = a / divisor / 2;
     root = shape.root;
 }
 
@@ -196,11 +184,8 @@ void Env9<Real>::init(void* arena, const SplitShape& shape, int divisor) {
     shift = shape.step;
     shiftBack = 2 * shift;
     len = shape.len;
-    mirror = 2 * len - 1;
     count = divisor;
-    rowStride = rowLength;
-    blockStride = m * rowStride;
-    d = shape.d;
+    blockStride = m * rowLength;
 }
 
 template <class Real>
@@ -208,7 +193,7 @@ KfmStatus Env9<Real>::build() {
     rule = subLengthRule(m);
     if (rule != splitRule) return kfmOk;
     auto* env7 = take<Env7<Real>>(arena);
-    env7->init(arena, {m, step, len, d, false});
+    env7->init(arena, {m, step, len, false});
     return addStage(*this, recursion, env7);
 }
 

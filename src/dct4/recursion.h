@@ -16,12 +16,12 @@ namespace kfm::dct4 {
 inline constexpr int splitRule = 7;
 int subLengthRule(int m);
 
-// What an env7 stands for: four neighbouring sub-transforms of `a` values.
+// What an env7 stands for: a sub-transform of `a` values in every column of the work buffer.
 struct SplitShape {
     std::int32_t a;
-    std::int32_t step;     // between the inputs of one sub-transform
-    std::int32_t len, d;   // of the whole transform
-    std::int32_t root;     // whether an env5 made it
+    std::int32_t step;   // between the inputs of one sub-transform
+    std::int32_t len;    // of the whole transform
+    std::int32_t root;   // whether an env5 made it
 };
 
 template <class Real>
@@ -29,9 +29,8 @@ struct Env8 : Environment {
     Ref<Real> table;     // a/2d' groups of d' pairs, cosine and sine
     std::int32_t rule;   // 1..5 for d' = 2, 4, ..., 32
     Ref<const EnvLambda<Real>> lambda;
-    std::int32_t divisor, a, m, blockRows;                     // blockRows = m'/2, complex rows
-    std::int32_t rowStride, blockStride, tableStride, stride;  // in elements
-    std::int32_t len, root;
+    std::int32_t divisor, a, spare0 = 0, blockRows;   // blockRows = m'/2, complex rows
+    std::int32_t spare1[5] = {}, root;
 
     static int chooseRule(int divisor);
     static Bytes mem(int a, int divisor);
@@ -55,7 +54,7 @@ struct Env9 : Environment {
     Ref<EnvList> recursion;   // the env7 of rule 7
     std::int32_t rule;
     std::int32_t m, step, shift, shiftBack;   // step of the sub-sequences; from one to the next
-    std::int32_t len, mirror, count, blockStride, rowStride, d;
+    std::int32_t len, spare0 = 0, count, blockStride, spare1[2] = {};
 
     static Bytes mem(int m, int len);
     void init(void* arena, const SplitShape& shape, int divisor);
@@ -72,8 +71,7 @@ struct Env7 : Environment {
     Ref<EnvList> joining, splitting;   // the env8, the env9
     Ref<Real> scratch;                 // of the root, for odd lengths; null below
     std::int32_t rule;                 // 1
-    std::int32_t a, divisor, step, len, d, root;
-    Ref<const EnvLambda<Real>> lambda;
+    std::int32_t a, divisor, step, len, spare0 = 0, root, spare1 = 0;
 
     static Bytes mem(int a, int len, bool root);
     void init(void* arena, const SplitShape& shape);

@@ -82,7 +82,7 @@ KfmStatus Env1<Real>::buildStages() {
     if (divisorsIntNonTriv(&divisor, len / 2) != kfmOk) return kfmErrSize;
     auto* env2 = take<Env2<Real>>(arena);
     auto* compose = take<EnvFCompose<Real>>(arena);
-    compose->init(arena, len, divisor);
+    compose->init(len, divisor);
     EnvList_add(children, compose);
     env2->init(arena, len, divisor, compose);
     if (addStage(*this, outputStage, env2) != kfmOk) return kfmErrSize;
@@ -122,12 +122,13 @@ void Env1<Real>::computeOdd(const Real* src, Real* dst) const {
         computeShortOdd(src, dst);
 }
 
-// A function of its own, so that only these lengths pay for the stack.
+// Up to 2049, beyond which there is a recursion. A function of its own, with as much stack as the
+// length asks for, so that no other length pays for it.
 template <class Real>
 [[gnu::noinline]] void Env1<Real>::computeShortOdd(const Real* src, Real* dst) const {
-    constexpr int longest = 2049;   // the next one, 4097, has a recursion
-    alignas(16) Real scratch[longest];
-    oddTransform<Real>(src, dst, len, work, scratch);
+    const std::size_t bytes = static_cast<std::size_t>(len - 1) * sizeof(Real);
+    void* scratch = __builtin_alloca_with_align(bytes, 16 * 8);
+    oddTransform<Real>(src, dst, len, work, static_cast<Real*>(scratch));
 }
 
 }   // namespace kfm::dct4

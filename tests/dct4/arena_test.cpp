@@ -108,9 +108,9 @@ TYPED_TEST(IndexMaps, GiveTheKernelAngles) {
     using Real = TypeParam;
     constexpr int len = 128, d = 8;
     auto* compose = take<EnvFCompose<Real>>(this->block);
-    compose->init(this->block, len, d);
+    compose->init(len, d);
     auto* split = take<EnvFSplit<Real>>(this->block);
-    split->init(this->block, len, d, compose);
+    split->init(len, d, compose);
     for (int q = 0; q < len / (2 * d); ++q)
         for (int r = 0; r < d; ++r) {
             const double angle = M_PI * (2 * q + 1) * (2 * r + 1) / (4 * len);
@@ -121,7 +121,7 @@ TYPED_TEST(IndexMaps, GiveTheKernelAngles) {
                       compose->value(q, 2 * r));
         }
     auto* lambda = take<EnvLambda<Real>>(this->block);
-    lambda->init(this->block, 130, 8);   // 130 / 8 truncates to 16
+    lambda->init(130, 8);   // 130 / 8 truncates to 16
     EXPECT_EQ(lambda->at.get()(lambda, 5), Real(5.5 / 16));
 }
 

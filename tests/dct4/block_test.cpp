@@ -54,6 +54,16 @@ template <class Real>
 class Block : public testing::Test {};
 TYPED_TEST_SUITE(Block, Precisions);
 
+// Where the handle is, or would be, in a block.
+Kfm8u* handleIn(Kfm8u* block) {
+    const auto address = reinterpret_cast<std::uintptr_t>(block);
+    const std::uintptr_t up = address & 0x80000000u ? 31 : 0;
+    return block + (((address + up) & ~std::uintptr_t{31}) - address) + 64;
+}
+
+// The bytes of the root and its three lists that count, the last of them without its padding.
+constexpr std::ptrdiff_t rootBytes = 64 + 2 * 32 + 12;
+
 // The last offset leaves no byte between the block and the inaccessible page.
 TYPED_TEST(Block, AtEveryOffsetIsLargeEnough) {
     for (int length : {2, 32, 33, 64, 128, 4096, 4097})
@@ -72,29 +82,32 @@ TYPED_TEST(Block, AtEveryOffsetIsLargeEnough) {
                 })) << length << " at offset " << offset;
                 ASSERT_EQ(result, expected) << length << " at offset " << offset;
 
-                const auto address = reinterpret_cast<std::uintptr_t>(block);
-                const std::uintptr_t rounded = (address + (highBit ? 31 : 0)) & ~std::uintptr_t{31};
-                ASSERT_EQ(reinterpret_cast<std::uintptr_t>(spec), rounded + 64);
-                // Rounded up, a plan without tables has 44 + 64 + 12 bytes there that count.
-                const bool beyond = length <= 32 && rounded > address;
+                ASSERT_EQ(reinterpret_cast<Kfm8u*>(spec), handleIn(block));
+                // Only a plan that is all root is too tight to be rounded up in.
+                Kfm8u* const end = length <= 32 ? handleIn(block) + rootBytes : block + size;
+                ASSERT_TRUE(end <= block + size || (highBit && end <= block + size + 11));
                 ASSERT_TRUE(pages.untouched(pages.begin(), block)) << length;
-                ASSERT_TRUE(pages.untouched(block + size + (beyond ? 32 : 0), pages.end()))
+                ASSERT_TRUE(pages.untouched(end, pages.end()))
                     << length << " at offset " << offset;
             }
         }
 }
 
-// Only the arena's top and the root with its lists, which every length has room for.
+// Only the arena's top and the root with its lists: 204 bytes, 235 where the address is rounded up.
 TYPED_TEST(Block, StaysUnwrittenForARefusedLength) {
-    for (int length : {-4, 0, 3, 48, 192, 3 << 20, 1 << 30}) {
-        Pages pages(4 * page, false);
-        typename Dct4<TypeParam>::Spec* spec = nullptr;
-        ASSERT_TRUE(survives([&] {
-            EXPECT_EQ(Dct4<TypeParam>::init(&spec, length, pages.begin()), kfmErrSize);
-        })) << length;
-        EXPECT_EQ(spec, nullptr);
-        EXPECT_TRUE(pages.untouched(pages.begin() + 224, pages.end())) << length;
-    }
+    for (int length : {-4, 0, 3, 48, 192, 3 << 20, 1 << 30})
+        for (bool highBit : {false, true})
+            for (std::ptrdiff_t offset = 0; offset < 32; ++offset) {
+                Pages pages(page, highBit);
+                Kfm8u* block = pages.begin() + offset;
+                typename Dct4<TypeParam>::Spec* spec = nullptr;
+                ASSERT_TRUE(survives([&] {
+                    EXPECT_EQ(Dct4<TypeParam>::init(&spec, length, block), kfmErrSize);
+                })) << length;
+                EXPECT_EQ(spec, nullptr);
+                EXPECT_LE(handleIn(block) + rootBytes, block + (highBit ? 235 : 204));
+                EXPECT_TRUE(pages.untouched(handleIn(block) + rootBytes, pages.end())) << length;
+            }
 }
 
 // Short lengths may be shared between threads, because a transform writes nothing of the plan.

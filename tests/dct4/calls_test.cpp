@@ -2,7 +2,6 @@
 #include <cstring>
 
 #include "dct4/specification.h"
-#include "kfmcore.h"
 
 namespace kfm::tests {
 namespace {
@@ -15,47 +14,65 @@ protected:
 };
 TYPED_TEST_SUITE(Calls, Precisions);
 
-TYPED_TEST(Calls, RefuseNullPointers) {
+// Every combination of arguments: null pointers come first, then the length.
+TYPED_TEST(Calls, RefuseToPlan) {
     using Calls = Dct4<TypeParam>;
-    const Specification<TypeParam> specification(64);
-    alignas(32) Kfm8u block[224];
-    TypeParam signal[64] = {};
-    typename Calls::Spec* spec = this->unset;
-    EXPECT_EQ(Calls::init(nullptr, 8, block), kfmErrNullPtr);
-    EXPECT_EQ(Calls::init(nullptr, 7, nullptr), kfmErrNullPtr);
-    EXPECT_EQ(Calls::init(&spec, 7, nullptr), kfmErrNullPtr);
-    EXPECT_EQ(spec, this->unset);
-    EXPECT_EQ(Calls::initAlloc(nullptr, 7), kfmErrNullPtr);
-    EXPECT_EQ(Calls::free(nullptr), kfmErrNullPtr);
-    EXPECT_EQ(Calls::transform(signal, signal, nullptr), kfmErrNullPtr);
-    EXPECT_EQ(Calls::transform(nullptr, signal, specification.handle()), kfmErrNullPtr);
-    EXPECT_EQ(Calls::transform(signal, nullptr, specification.handle()), kfmErrNullPtr);
-}
-
-TYPED_TEST(Calls, RefuseLengths) {
-    using Calls = Dct4<TypeParam>;
-    alignas(32) Kfm8u block[224];
-    for (int length : {-64, -4, 0, 1, 3, 31, 48, 192, 1 << 30}) {
-        typename Calls::Spec* spec = this->unset;
-        EXPECT_EQ(Calls::init(&spec, length, block), kfmErrSize) << length;
-        EXPECT_EQ(Calls::initAlloc(&spec, length), kfmErrSize) << length;
-        EXPECT_EQ(spec, this->unset) << length;
+    for (const int length : {-64, -4, 0, 1, 3, 7, 31, 48, 192, 1 << 30, 2, 8, 32}) {
+        const bool planned = length == 2 || length == 8 || length == 32;
+        const KfmStatus ofLength = planned ? kfmOk : kfmErrSize;
+        for (const bool withSpec : {false, true}) {
+            for (const bool withBlock : {false, true}) {
+                alignas(32) Kfm8u block[224] = {};
+                const std::vector<Kfm8u> zeros(sizeof block);
+                typename Calls::Spec* spec = this->unset;
+                const bool complete = withSpec && withBlock;
+                EXPECT_EQ(Calls::init(withSpec ? &spec : nullptr, length,
+                                      withBlock ? block : nullptr),
+                          complete ? ofLength : kfmErrNullPtr)
+                    << length;
+                EXPECT_EQ(spec == this->unset, !complete || !planned) << length;
+                EXPECT_EQ(std::memcmp(block, zeros.data(), sizeof block) == 0, !complete) << length;
+            }
+            typename Calls::Spec* spec = this->unset;
+            EXPECT_EQ(Calls::initAlloc(withSpec ? &spec : nullptr, length),
+                      withSpec ? ofLength : kfmErrNullPtr)
+                << length;
+            EXPECT_EQ(spec == this->unset, !withSpec || !planned) << length;
+            if (spec != this->unset) {
+                EXPECT_EQ(Calls::free(spec), kfmOk);
+            }
+        }
+        if (!planned) {
+            EXPECT_EQ(Calls::getSize(length, nullptr), kfmErrSize) << "before it would be written";
+        }
     }
+    EXPECT_EQ(Calls::free(nullptr), kfmErrNullPtr);
 }
 
-TYPED_TEST(Calls, RefuseASpecificationWithoutARule) {
+// The same: null pointers come first, then the rule.
+TYPED_TEST(Calls, RefuseToTransform) {
     using Calls = Dct4<TypeParam>;
     constexpr std::size_t ruleOffset = 32;
-    for (int length : {2, 64, 65})
-        for (std::int32_t rule : {-1, 0, 7, 1 << 30}) {
-            const Specification<TypeParam> specification(length);
-            std::memcpy(reinterpret_cast<Kfm8u*>(specification.handle()) + ruleOffset, &rule, 4);
-            const std::vector<TypeParam> source(static_cast<std::size_t>(length), 1);
-            auto destination = source;
-            EXPECT_EQ(Calls::transform(source.data(), destination.data(), specification.handle()),
-                      kfmErrBadSpec);
-            EXPECT_EQ(source, destination) << rule;
-        }
+    for (const int length : {2, 64, 65})
+        for (const bool ruled : {true, false})
+            for (const std::int32_t rule : {-1, 0, 7, 1 << 30}) {
+                const Specification<TypeParam> specification(length);
+                if (!ruled)
+                    std::memcpy(reinterpret_cast<Kfm8u*>(specification.handle()) + ruleOffset,
+                                &rule, sizeof rule);
+                for (int present = 0; present < 8; ++present) {
+                    const std::vector<TypeParam> source(static_cast<std::size_t>(length), 1);
+                    auto destination = source;
+                    const KfmStatus expected =
+                        present < 7 ? kfmErrNullPtr : ruled ? kfmOk : kfmErrBadSpec;
+                    EXPECT_EQ(Calls::transform(present & 1 ? source.data() : nullptr,
+                                               present & 2 ? destination.data() : nullptr,
+                                               present & 4 ? specification.handle() : nullptr),
+                              expected)
+                        << length << ", rule " << rule << ", arguments " << present;
+                    EXPECT_EQ(source == destination, expected != kfmOk) << length;
+                }
+            }
 }
 
 // The allocation is aligned, so the handle stands where it does in any aligned block.

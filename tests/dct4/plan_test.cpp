@@ -84,6 +84,42 @@ TYPED_TEST(Plan, RootIsTheHandle) {
     }
 }
 
+// The numbers of an object from a byte on, by their places and not by the names of today.
+void expectNumbers(const void* object, std::ptrdiff_t from,
+                   const std::vector<std::int32_t>& expected) {
+    std::vector<std::int32_t> numbers(expected.size());
+    std::memcpy(numbers.data(), static_cast<const Kfm8u*>(object) + from, 4 * numbers.size());
+    EXPECT_EQ(numbers, expected);
+}
+
+TYPED_TEST(Plan, StagesHoldTheirParameters) {
+    using Real = TypeParam;
+    for (const int len : acceptedLengths(1 << 17)) {
+        if (len <= 32) continue;
+        SCOPED_TRACE(len);
+        const Specification<Real> specification(len);
+        const auto* env1 = reinterpret_cast<const Env1<Real>*>(specification.handle());
+        const auto* env2 = stageOf<Env2<Real>>(env1->outputStage);
+        const auto* env3 = stageOf<Env3<Real>>(env1->inputStage);
+        const auto* env4 = stageOf<Env4<Real>>(env2->stage);
+        const auto* env5 = stageOf<Env5<Real>>(env3->stage);
+        const void* compose = EnvList_get(env1->children, 0);
+        const void* split = EnvList_get(env2->children, 0);
+        const int d = env1->divisor, m = len / d, rows = len / (2 * d), blocks = len / (8 * d);
+        expectNumbers(env2, 24, {0, 1, d, len, 2 * d, rows, len, 2 * len - 1, m});
+        EXPECT_EQ(env2->compose.get(), compose);
+        expectNumbers(env3, 24, {0, 1, m, len, 2 * len - 1, 2 * d, d, len, d});
+        expectNumbers(env4, 24, {Env4<Real>::chooseRule(d), d, len, 2 * d, 8 * d, blocks, len,
+                                 2 * len - 1, m});
+        EXPECT_EQ(env4->split.get(), split);
+        expectNumbers(env5, 24, {0, subLengthRule(m), m, len, 2 * len - 1, 2 * d, d / 4, len, d});
+        expectNumbers(compose, 16, {2 * d, 8 * len, rows, d, 2 * d});
+        expectNumbers(split, 16, {2 * d, blocks});
+        if (const auto* env7 = stageOf<Env7<Real>>(env5->recursion))
+            expectNumbers(EnvList_get(env7->children, 0), 16, {m, env7->divisor});
+    }
+}
+
 // A plan made by the planner itself, in an arena with room to spare.
 class Arena {
 public:
@@ -147,11 +183,11 @@ TYPED_TEST(Plan, FailsAtEachStep) {
                 [&](auto& env) { env.init(block, length, d); });
     for (int a : {6, 12, 24, 96})
         refused(std::type_identity<Env7<Real>>{}, Env7<Real>::mem(a, 8 * a, true),
-                [&](auto& env) { env.init(block, {a, 16, 8 * a, 8, true}); });
+                [&](auto& env) { env.init(block, {a, 16, 8 * a, true}); });
     refused(std::type_identity<Env8<Real>>{}, Env8<Real>::mem(192, 64),
-            [&](auto& env) { env.init(block, {192, 16, 1536, 8, true}, 64, nullptr); });
+            [&](auto& env) { env.init(block, {192, 16, 1536, true}, 64, nullptr); });
     refused(std::type_identity<Env9<Real>>{}, Env9<Real>::mem(12, 192),
-            [&](auto& env) { env.init(block, {24, 16, 192, 8, true}, 2); });
+            [&](auto& env) { env.init(block, {24, 16, 192, true}, 2); });
 }
 
 }   // namespace

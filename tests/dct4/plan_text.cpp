@@ -66,8 +66,7 @@ void Printer::env7(const void* object) {
     numbers({env7.a, env7.divisor, env7.step, env7.root});
     if (env7.root) within(env7.scratch, 16 * Bytes{env7.a});
     text += "](";
-    const auto& lambda = open<EnvLambda<Real>>(EnvList_get(env7.children, 0), "envlambda");
-    EXPECT_EQ(env7.lambda.get(), &lambda);
+    open<EnvLambda<Real>>(EnvList_get(env7.children, 0), "envlambda");
     const auto& env8 = environment<Env8<Real>>(child(env7.children, 1, env7.joining), "env8");
     numbers({env8.blockRows, env8.divisor});
     within(env8.table, Bytes{sizeof(Real)} * env7.a);

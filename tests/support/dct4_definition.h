@@ -121,8 +121,8 @@ std::vector<std::vector<Real>> signals(std::size_t n, int rounds) {
     return result;
 }
 
-// Runs `transform` on every signal: in place, and between arrays that touch guard pages at either
-// end, whatever their alignment.
+// Runs `transform` on every signal: between arrays that touch guard pages at either end, and in
+// place an element away from one.
 template <class Real>
 void expectDefinition(std::size_t n, int rounds, auto&& transform) {
     const std::size_t bytes = n * sizeof(Real);
@@ -132,7 +132,7 @@ void expectDefinition(std::size_t n, int rounds, auto&& transform) {
         std::vector<Real> first;
         for (const Flush side : {Flush::start, Flush::end})
             for (const bool inPlace : {false, true}) {
-                GuardedBuffer src(bytes, side, sizeof(Real)), other(bytes, side);
+                GuardedBuffer src(bytes, side, inPlace ? sizeof(Real) : 0), other(bytes, side);
                 GuardedBuffer& dst = inPlace ? src : other;
                 std::memcpy(src.data(), x.data(), bytes);
                 auto* y = reinterpret_cast<Real*>(dst.data());

@@ -80,7 +80,7 @@ public:
     void runInput(const Real* src) {
         if (levels_.empty())
             withSize<2, 64>(len_ / d_, [&]<int m>() {
-                dct4::inputStage<Real, m>(src, work_.data(), len_, d_);
+                dct4::inputStage<Real, m>(src, work_.data(), d_);
             });
         else
             split(0, src, src + (len_ - 1), 2 * d_, work_.data());

@@ -19,6 +19,7 @@ void onFault(int signal) {
 const bool installed = [] {
     struct sigaction action = {};
     action.sa_handler = onFault;
+    action.sa_flags = SA_ONSTACK;   // where a thread has another, for one that ran out of stack
     for (int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL}) sigaction(signal, &action, nullptr);
     return true;
 }();

@@ -65,7 +65,7 @@ int lanesOf(bool doublePrecision) { return doublePrecision ? 2 : 4; }
 
 const Kind kinds[] = {
     {"fixedTransform", "fixed_frame.h", "const R*, R*", fixedTransformGraph},
-    {"inputStage", "input_frame.h", "const R*, R*, int, int",
+    {"inputStage", "input_frame.h", "const R*, R*, int",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), mirroredRows); }},
     {"inputBlock", "input_frame.h", "const R*, const R*, std::ptrdiff_t, R*",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), naturalRows); }},
