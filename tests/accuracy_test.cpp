@@ -20,11 +20,10 @@ struct Promise {
 };
 
 Promise promiseOf(const Transform& transform) {
-    const bool hartley = transform.family->name == "Hartley";
     // Products in double precision, but the sum of all samples in single precision.
     const bool mixed = !transform.element->complex && !transform.walshHadamard();
     if (mixed && !transform.element->doublePrecision) return {3.5, 3};
-    return {5, transform.element->complex || hartley ? 7.0 : 5.0};
+    return {5, transform.element->doublePrecision ? 5.0 : 6.0};
 }
 
 std::vector<Signal> impulses(const Transform& transform) {
