@@ -1,11 +1,16 @@
 # For people: each goal configures and builds with CMake under build/<target>. i386 is left out,
-# with a word about it, where the machine cannot build and run 32-bit programs.
+# with a word about it, where the machine cannot build and run 32-bit programs. A compiler named by
+# CXX has a folder of its own, build/<compiler>/<target>, so that builds never mix.
 JOBS ?= $(shell nproc)
 FILE ?= /usr/share/sounds/alsa/Front_Center.wav
 PREFIX ?= /usr/local
 export DESTDIR
 
-.PHONY: all test demo bench tune install header clean
+COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CXX))" | tr ' ' -))
+export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
+EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
+
+.PHONY: all test test-sanitized memcheck demo bench tune install header clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -13,26 +18,39 @@ all:
 test:
 	@tools/install-dependencies.sh test
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON
-	@ctest --test-dir build --output-on-failure --no-tests=error --parallel "$(JOBS)"
+	@ctest --test-dir "$$BUILD" --output-on-failure --no-tests=error --parallel "$(JOBS)"
+
+test-sanitized: export BUILD := $(BUILD)/sanitized
+test-sanitized:
+	@tools/install-dependencies.sh test
+	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON \
+		-DKFM_SANITIZE=address,undefined
+	@ctest --test-dir "$$BUILD" --output-on-failure --no-tests=error --parallel "$(JOBS)"
+
+memcheck:
+	@tools/install-dependencies.sh test
+	@GOAL=memcheck_tests tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON
+	@ctest --test-dir "$$BUILD" -C memcheck -R "^memcheck$$" --output-on-failure --no-tests=error \
+		--parallel "$(JOBS)"
 
 demo:
 	@tools/install-dependencies.sh demo
 	@TARGETS=x86-64 tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=ON
-	@build/x86-64/bin/kfmgen spectrum "$(FILE)"
+	@"$$BUILD/x86-64/bin/kfmgen" spectrum "$(FILE)"
 
 bench:
 	@tools/install-dependencies.sh bench
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
-	@set -e; for target in $$(cat build/targets); do cmake --build build/$$target --target bench; done
+	@$(EACH_TARGET) cmake --build "$$BUILD/$$target" --target bench; done
 
 tune:
 	@tools/install-dependencies.sh bench
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
-	@set -e; for target in $$(cat build/targets); do cmake --build build/$$target --target tune; done
+	@$(EACH_TARGET) cmake --build "$$BUILD/$$target" --target tune; done
 
 install:
 	@tools/build.sh "$(JOBS)"
-	@set -e; for target in $$(cat build/targets); do cmake --install build/$$target --prefix "$(PREFIX)"; done
+	@$(EACH_TARGET) cmake --install "$$BUILD/$$target" --prefix "$(PREFIX)"; done
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"

@@ -1,7 +1,5 @@
 // How far the outputs are from the definition summed in binary128, for every fixed function, flag
 // and kind of input, against a committed bound per function; and what must hold exactly.
-#include <quadmath.h>
-
 #include <cmath>
 #include <cstdio>
 #include <iomanip>

@@ -8,7 +8,6 @@
 #include "support/allocator.h"
 #include "support/arguments.h"
 #include "support/buffer.h"
-#include "support/fault.h"
 #include "support/oracle.h"
 
 namespace kfm::tests {
@@ -27,18 +26,9 @@ int bufferBytes(const Transform& transform) {
 // The fixed function, or the generic entry for its order, with a buffer.
 KfmStatus callWithBuffer(const Transform& transform, const void* source, void* destination,
                          int flag, void* buffer, bool generic = false) {
-    using Fixed = KfmStatus (*)(const void*, void*, int, void*);
-    using Generic = KfmStatus (*)(const void*, void*, int, int, void*);
-    const int order = transform.function->length;
-    const auto fixed = reinterpret_cast<Fixed>(transform.function->address);
-    const auto entry = transform.element->doublePrecision ? reinterpret_cast<Generic>(kfmgWHT_64f)
-                                                          : reinterpret_cast<Generic>(kfmgWHT_32f);
-    KfmStatus status = crashed;
-    EXPECT_TRUE(survives([&] {
-        status = generic ? entry(source, destination, order, flag, buffer)
-                         : fixed(source, destination, flag, buffer);
-    })) << "buffer " << buffer;
-    return status;
+    return generic ? call(genericOf(transform), source, destination, transform.function->length,
+                          flag, buffer)
+                   : call(transform, source, destination, flag, buffer);
 }
 
 class Wht : public testing::TestWithParam<Transform> {

@@ -1,22 +1,24 @@
 #!/bin/sh
 # build.sh <jobs> [cmake option ...]: configures and builds each target that this machine can
-# build and run, under build/<target>. Leaves the list of targets in build/targets and a test file
+# build and run, under $BUILD/<target>. Leaves the list of targets in $BUILD/targets and a test file
 # that joins their tests, so that one ctest run reports on all of them.
 #
-# TARGETS narrows the choice of targets, GOAL names something other than everything to build.
+# BUILD is the folder for all of it, "build" by default; TARGETS narrows the choice of targets, GOAL
+# names something other than everything to build.
 set -eu
 cd "$(dirname "$0")/.."
+build=${BUILD:-build}
 jobs=$1
 shift
 unset MAKEFLAGS MFLAGS MAKELEVEL   # the builds below are no part of a make that called
 
-# The generator is a program of the target itself, so compiling is not enough.
+# Tests and tools are programs of the target, so compiling is not enough.
 runs_32_bit_programs() {
-    probe=build/probe-i386
-    echo 'int main() {}' | ${CXX:-g++} -m32 -x c++ - -o $probe 2>/dev/null && ./$probe
+    probe=$build/probe-i386
+    echo 'int main() {}' | ${CXX:-g++} -m32 -x c++ - -o "$probe" 2>/dev/null && "./$probe"
 }
 
-mkdir -p build
+mkdir -p "$build"
 skipped=
 if [ -n "${TARGETS:-}" ]; then
     targets=$TARGETS
@@ -26,12 +28,14 @@ else
     targets="x86-64"
     skipped="i386 was skipped: no 32-bit programs on this machine (Debian: g++-multilib)"
 fi
-: > build/CTestTestfile.cmake
+: > "$build/CTestTestfile.cmake"
+generator=
 for target in $targets; do
-    cmake --preset "$target" "$@" > "build/configure-$target.log" ||
-        { cat "build/configure-$target.log"; exit 1; }
-    cmake --build "build/$target" --parallel "$jobs" ${GOAL:+--target "$GOAL"}
-    echo "subdirs($target)" >> build/CTestTestfile.cmake
+    cmake --preset "$target" -B "$build/$target" ${generator:+"-DKFM_KERNELGEN=$generator"} \
+        "$@" > "$build/configure-$target.log" || { cat "$build/configure-$target.log"; exit 1; }
+    cmake --build "$build/$target" --parallel "$jobs" ${GOAL:+--target "$GOAL"}
+    echo "subdirs($target)" >> "$build/CTestTestfile.cmake"
+    generator=$PWD/$build/$target/bin/kernelgen   # serves the targets that follow
 done
-echo "$targets" > build/targets
+echo "$targets" > "$build/targets"
 [ -z "$skipped" ] || echo "$skipped"

@@ -76,7 +76,7 @@ Workshop::Workshop(std::string kernelgen, std::string target,
 // The command that compiles this kernel for the library, up to its output: the compiler and all
 // flags. CMake writes one "command" line per file, ending in -o <object> -c <source>.
 std::string Workshop::compiler(const KernelSource& kernel) const {
-    static const std::regex line(R"re(\s*"command": "(.*) -o \S+ -c \S*/(\S+)\.cpp",?)re");
+    static const std::regex line(R"re(\s*"command": "(.*) -o .+ -c .*/(\S+)\.cpp(\\")?",?)re");
     std::ifstream in(compileCommands);
     std::smatch match;
     for (std::string text; std::getline(in, text);)

@@ -11,12 +11,18 @@ using Wide = Constant::Wide;
 
 Wide quantised(Wide value, int bits) { return scalbnq(rintq(scalbnq(value, bits)), -bits); }
 
+// The header's M_PIq is a literal that standard C++ does not have.
+Wide pi() {
+    static const Wide value = acosq(-1);
+    return value;
+}
+
 // cos (or sin) of `numerator/denominator` turns for an angle within the first octant.
 Wide octantCosine(long numerator, long denominator) {
-    return cosq(2 * M_PIq * numerator / denominator);
+    return cosq(2 * pi() * numerator / denominator);
 }
 Wide octantSine(long numerator, long denominator) {
-    return sinq(2 * M_PIq * numerator / denominator);
+    return sinq(2 * pi() * numerator / denominator);
 }
 
 }   // namespace

@@ -30,7 +30,8 @@ std::string scaleFactors(int n, const Constant& bySqrtN, const registry::Element
     const bool pairs = element.doublePrecision && lanes == 2;
     const auto print = [&](const Constant& c) {
         const std::string text = element.doublePrecision ? c.asDouble() : c.asFloat();
-        return pairs ? "{" + text + ", " + text + "}" : text;
+        if (pairs) return "{" + text + ", " + text + "}";
+        return lanes == 1 ? "{" + text + "}" : text;
     };
     std::string type = element.doublePrecision ? "double" : "float";
     if (pairs) type = "DoublePair";

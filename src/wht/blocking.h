@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace kfm::wht {
@@ -27,19 +28,19 @@ inline constexpr Blocking doubleBlockings[] = {
     {5, 3, 0}, {5, 4, 0}, {7, 3, 0}, {5, 3, 3}, {5, 3, 4}, {7, 3, 3},
 };
 
-// Null for the orders below, which take one pass and no buffer.
-constexpr const Blocking* findBlocking(bool doublePrecision, int order) {
+// Nothing for the orders below, which take one pass and no buffer.
+constexpr std::optional<Blocking> findBlocking(bool doublePrecision, int order) {
     const std::span<const Blocking> rows =
         doublePrecision ? std::span(doubleBlockings) : std::span(singleBlockings);
     const auto found = std::ranges::find(rows, order, &Blocking::order);
-    return found == rows.end() ? nullptr : &*found;
+    return found == rows.end() ? std::nullopt : std::optional(*found);
 }
 
 // Main area: a slot for each element of the signal. Scratch area behind it, only with three
 // passes: the blocks of the chunk in work.
 constexpr std::int64_t bufferBytes(bool doublePrecision, int order) {
-    const Blocking* blocking = findBlocking(doublePrecision, order);
-    if (blocking == nullptr) return 0;
+    const std::optional<Blocking> blocking = findBlocking(doublePrecision, order);
+    if (!blocking) return 0;
     const std::int64_t scratch = blocking->threePasses() ? 1 << blocking->chunk() : 0;
     return ((std::int64_t{1} << order) + scratch) * (doublePrecision ? 8 : 4);
 }

@@ -50,9 +50,9 @@ struct Kernel {
     template <class Memory>
     KFM_INLINE static void transform(const Real* src, Real* dst, const Real* factor,
                                      [[maybe_unused]] Kfm8u* buffer) {
-        constexpr const Blocking* blocking = findBlocking(doublePrecision, order);
+        constexpr std::optional<Blocking> blocking = findBlocking(doublePrecision, order);
         const Scale finish = {simd::broadcast(factor)};
-        if constexpr (blocking == nullptr) {
+        if constexpr (!blocking) {
             transformBlock<order, Access<Memory>, Access<Memory>>(src, dst, finish);
         } else {
             constexpr std::int64_t bytes = bufferBytes(doublePrecision, order);

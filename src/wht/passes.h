@@ -27,6 +27,8 @@ struct Scale {
     Vector factor;
     KFM_INLINE Vector operator()(Vector v) const { return simd::mul(v, factor); }
 };
+template <class Vector>
+Scale(Vector) -> Scale<Vector>;   // clang 14 does not find it by itself
 
 struct Unscaled {
     template <class Vector>

@@ -12,8 +12,8 @@ namespace {
 constexpr std::string_view kernels = "WHT";
 
 std::string describe(int order, const Element& element) {
-    const Blocking* blocking = findBlocking(element.doublePrecision, order);
-    if (blocking == nullptr) return "one block in registers";
+    const std::optional<Blocking> blocking = findBlocking(element.doublePrecision, order);
+    if (!blocking) return "one block in registers";
     const auto count = [](int logarithm) { return std::to_string(1 << logarithm); };
     const std::string blocks = count(blocking->across) + " blocks of order " +
                                std::to_string(blocking->block) + ", then across them";

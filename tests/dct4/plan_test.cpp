@@ -177,10 +177,10 @@ TYPED_TEST(Plan, FailsAtEachStep) {
                 [&](auto& env) { env.init(block, length); });
     for (const auto& [length, d] : {std::pair{48, 4}, {512, 64}, {96, 6}})
         refused(std::type_identity<Env2<Real>>{}, Env2<Real>::mem(length, d),
-                [&](auto& env) { env.init(block, length, d, nullptr); });
+                [&, n = length, d = d](auto& env) { env.init(block, n, d, nullptr); });
     for (const auto& [length, d] : {std::pair{96, 6}, {192, 8}})
         refused(std::type_identity<Env3<Real>>{}, Env3<Real>::mem(length, d),
-                [&](auto& env) { env.init(block, length, d); });
+                [&, n = length, d = d](auto& env) { env.init(block, n, d); });
     for (int a : {6, 12, 24, 96})
         refused(std::type_identity<Env7<Real>>{}, Env7<Real>::mem(a, 8 * a, true),
                 [&](auto& env) { env.init(block, {a, 16, 8 * a, true}); });

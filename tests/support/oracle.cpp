@@ -1,8 +1,6 @@
 // Term-by-term sums in binary128.
 #include "support/oracle.h"
 
-#include <quadmath.h>
-
 #include <algorithm>
 #include <cmath>
 
@@ -81,8 +79,8 @@ UnitRoot unitRoot(long numerator, long denominator) {
         const UnitRoot w = unitRoot(n - 4 * k, 4 * n);
         return {w.im, w.re};
     }
-    const Quad angle = 2 * acosq(-1) * k / n;
-    return {cosq(angle), sinq(angle)};
+    const Quad angle = 2 * quad::acos(Quad(-1)) * k / n;
+    return {quad::cos(angle), quad::sin(angle)};
 }
 
 std::vector<Quad> definition(const Transform& transform, const Signal& source) {
@@ -108,7 +106,7 @@ bool dividesByN(const Transform& transform, int flag) {
 
 Quad scaleFactor(const Transform& transform, int flag) {
     const Quad length = transform.length;
-    if (flag == kfmScaleBySqrtN) return 1 / sqrtq(length);
+    if (flag == kfmScaleBySqrtN) return 1 / quad::sqrt(length);
     return dividesByN(transform, flag) ? 1 / length : Quad(1);
 }
 
@@ -134,7 +132,7 @@ Quad largestMagnitude(const Transform& transform, const std::vector<Quad>& value
                                                              : spectrum[i].bin;
         squares[whole] += values[i] * values[i];
     }
-    return sqrtq(*std::ranges::max_element(squares));
+    return quad::sqrt(*std::ranges::max_element(squares));
 }
 
 }   // namespace
@@ -144,12 +142,12 @@ double errorInUnits(const Transform& transform, const Signal& actual,
     Quad error = 0;
     for (std::size_t i = 0; i < expected.size(); ++i) {
         if (!std::isfinite(actual[i])) return HUGE_VAL;
-        error = std::max(error, fabsq(actual[i] - expected[i]));
+        error = std::max(error, quad::abs(actual[i] - expected[i]));
     }
     const Quad largest = largestMagnitude(transform, expected);
     const int precision = transform.element->doublePrecision ? 53 : 24;
     if (largest == 0) return error == 0 ? 0 : HUGE_VAL;
-    return static_cast<double>(ldexpq(error / largest, precision));
+    return static_cast<double>(quad::ldexp(error / largest, precision));
 }
 
 }   // namespace kfm::tests

@@ -4,11 +4,10 @@
 
 #include <vector>
 
+#include "support/binary128.h"
 #include "support/signal.h"
 
 namespace kfm::tests {
-
-__extension__ typedef __float128 Quad;
 
 // exp(2 pi i numerator / denominator); the angle is reduced to an octant on integers.
 struct UnitRoot {

@@ -60,34 +60,42 @@ const Transform* findTransform(std::string_view family, int length, std::string_
     return found == all.end() ? nullptr : &*found;
 }
 
+const Transform& genericOf(const Transform& fixed) {
+    return *std::ranges::find_if(genericTransforms(), [&](const Transform& generic) {
+        return generic.family == fixed.family && generic.element == fixed.element;
+    });
+}
+
 namespace {
 
 // Pointers to any element type are passed alike, so one signature serves all element types.
 template <class... Numbers>
-KfmStatus callAddress(const Transform& transform, const void* source, void* destination,
-                      Numbers... numbers) {
+KfmStatus callAddress(const Transform& transform, void* buffer, const void* source,
+                      void* destination, Numbers... numbers) {
     void (*const address)() = transform.function->address;
     if (!transform.family->byOrder)
         return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers...)>(address)(
             source, destination, numbers...);
-    return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers..., Kfm8u*)>(address)(
-        source, destination, numbers..., nullptr);
+    return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers..., void*)>(address)(
+        source, destination, numbers..., buffer);
 }
 
 }   // namespace
 
-KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag) {
+KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag,
+               void* buffer) {
     KfmStatus status = crashed;
-    EXPECT_TRUE(survives([&] { status = callAddress(fixed, source, destination, flag); }))
+    EXPECT_TRUE(survives([&] { status = callAddress(fixed, buffer, source, destination, flag); }))
         << fixed << " crashed: flag " << flag << ", source " << source << ", destination "
         << destination;
     return status;
 }
 
 KfmStatus call(const Transform& generic, const void* source, void* destination, int length,
-               int flag) {
+               int flag, void* buffer) {
     KfmStatus status = crashed;
-    EXPECT_TRUE(survives([&] { status = callAddress(generic, source, destination, length, flag); }))
+    EXPECT_TRUE(survives(
+        [&] { status = callAddress(generic, buffer, source, destination, length, flag); }))
         << generic << " crashed: length " << length << ", flag " << flag;
     return status;
 }

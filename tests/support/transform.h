@@ -53,16 +53,19 @@ const std::vector<Transform>& genericTransforms();
 
 // The fixed function of another family or length (or order), or null when the registry has none.
 const Transform* findTransform(std::string_view family, int length, std::string_view element);
+// Of its family and element type.
+const Transform& genericOf(const Transform& fixed);
 
 inline constexpr std::array<int, 4> allFlags = {kfmScaleFwdByN, kfmScaleInvByN, kfmScaleBySqrtN,
                                                 kfmScaleNone};
 
-// A call that faults counts as a failure of the running test and returns `crashed`. Where there may
-// be a work buffer, none is passed.
+// A call that faults counts as a failure of the running test and returns `crashed`. `buffer` is
+// passed where there may be a work buffer.
 inline constexpr KfmStatus crashed = 0x7fff;
-KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag);
+KfmStatus call(const Transform& fixed, const void* source, void* destination, int flag,
+               void* buffer = nullptr);
 KfmStatus call(const Transform& generic, const void* source, void* destination, int length,
-               int flag);
+               int flag, void* buffer = nullptr);
 
 std::string caseName(const testing::TestParamInfo<Transform>& info);
 

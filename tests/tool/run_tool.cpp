@@ -18,7 +18,8 @@ std::string contents(const std::string& path) {
 }
 
 std::filesystem::path freshFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "kfmgen-test-XXXXXX").string();
+    // With a space, as any path may have.
+    std::string name = (std::filesystem::temp_directory_path() / "kfmgen test XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
     return name;
 }
@@ -29,8 +30,9 @@ ToolTest::ToolTest() : folder_(freshFolder()) {}
 ToolTest::~ToolTest() { std::filesystem::remove_all(folder_); }
 
 Outcome ToolTest::run(const std::string& arguments, const std::string& input) const {
-    const std::string command = KFM_TOOL " " + arguments + " <" + textFile("stdin", input) + " >" +
-                                path("stdout") + " 2>" + path("stderr");
+    textFile("stdin", input);
+    const std::string command = "cd '" + folder_.string() + "' && '" KFM_TOOL "' " + arguments +
+                                " <stdin >stdout 2>stderr";
     const int status = std::system(command.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(path("stdout")),
             contents(path("stderr"))};
@@ -38,7 +40,7 @@ Outcome ToolTest::run(const std::string& arguments, const std::string& input) co
 
 std::string ToolTest::textFile(const std::string& name, const std::string& text) const {
     std::ofstream(path(name)) << text;
-    return path(name);
+    return name;
 }
 
 std::string ToolTest::soundFile(const std::string& name, int rate, int channels,
@@ -51,7 +53,7 @@ std::string ToolTest::soundFile(const std::string& name, int rate, int channels,
     if (file == nullptr) throw std::runtime_error(sf_strerror(nullptr));
     sf_write_double(file, samples.data(), samples.size());
     sf_close(file);
-    return path(name);
+    return name;
 }
 
 void ToolTest::expectRefusal(const Outcome& outcome, const std::string& words) const {

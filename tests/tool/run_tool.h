@@ -20,10 +20,10 @@ protected:
     ToolTest();
     ~ToolTest() override;
 
-    // `arguments` as in a shell; `input` is its standard input.
+    // In the folder of the test, `arguments` as in a shell; `input` is its standard input.
     Outcome run(const std::string& arguments, const std::string& input = "") const;
 
-    // Both return the path. Sound samples are interleaved channels, full scale 1.
+    // Both return the name. Sound samples are interleaved channels, full scale 1.
     std::string textFile(const std::string& name, const std::string& text) const;
     std::string soundFile(const std::string& name, int rate, int channels,
                           const std::vector<double>& samples) const;
@@ -31,9 +31,9 @@ protected:
     // Exit status 2, no output, and one line on standard error that contains `words`.
     void expectRefusal(const Outcome& outcome, const std::string& words) const;
 
+private:
     std::string path(const std::string& name) const { return (folder_ / name).string(); }
 
-private:
     std::filesystem::path folder_;
 };
 

@@ -60,10 +60,9 @@ TEST_F(Transform, FlagsAndDirections) {
 
 TEST_F(Transform, InverseReadsForwardOutputBack) {
     const std::string samples = "0.1,7\n-2.25,3\n1e-3,0\n";
-    ASSERT_EQ(run("transform --length 3 --precision double -o " + path("spectrum.csv"), samples).out,
-              "");
+    ASSERT_EQ(run("transform --length 3 --precision double -o spectrum.csv", samples).out, "");
     const Outcome back = run("transform --length 3 --precision double --family DFTInv_CToC "
-                             "--flag inv-by-n " + path("spectrum.csv"));
+                             "--flag inv-by-n spectrum.csv");
     double re[3], im[3];
     ASSERT_EQ(sscanf(back.out.c_str(), "frame,index,re,im 0,0,%lf,%lf 0,1,%lf,%lf 0,2,%lf,%lf",
                      &re[0], &im[0], &re[1], &im[1], &re[2], &im[2]),
@@ -119,8 +118,8 @@ TEST_F(Transform, PlannedLengths) {
               "1,0,-0.38268343\n1,1,0.9238795\n");
     // Its own inverse, up to half the length.
     const std::string twice = dct + "--precision double --length 64 ";
-    ASSERT_EQ(run(twice + "-o " + path("dct.csv"), "3\n-5\n").status, 0);
-    const Outcome back = run(twice + path("dct.csv"));
+    ASSERT_EQ(run(twice + "-o dct.csv", "3\n-5\n").status, 0);
+    const Outcome back = run(twice + "dct.csv");
     double first, second;
     ASSERT_EQ(sscanf(back.out.c_str(), "frame,index,value 0,0,%lf 0,1,%lf", &first, &second), 2);
     EXPECT_NEAR(first, 3 * 32, 1e-12);
@@ -229,17 +228,17 @@ TEST_F(Refusal, Text) {
 
 TEST_F(Refusal, Files) {
     const std::string transform = "transform --length 4 ";
-    expectRefusal(run(transform + path("absent")), "cannot be read");
-    expectRefusal(run(transform + path("")), "is a folder");
+    expectRefusal(run(transform + "absent"), "cannot be read");
+    expectRefusal(run(transform + "."), "is a folder");
     expectRefusal(run(transform + textFile("zeros", std::string(100, '\0'))), "neither text nor");
     expectRefusal(run(transform + soundFile("three.wav", 8000, 3, {0, 0, 0})), "3 channels");
     expectRefusal(run(transform + soundFile("empty.wav", 8000, 1, {})), "no samples");
-    expectRefusal(run(transform + "-o " + path("absent/out.csv"), "1\n"), "cannot write");
+    expectRefusal(run(transform + "-o absent/out.csv", "1\n"), "cannot write");
     expectRefusal(run("spectrum " + textFile("text", "1\n")), "not a sound file");
 }
 
 TEST_F(Refusal, ComplexSamplesOfARealTransform) {
-    expectRefusal(run("transform --length 2 --layout ccs -o " + path("out.csv"), "1,0\n0,1\n"),
+    expectRefusal(run("transform --length 2 --layout ccs -o out.csv", "1,0\n0,1\n"),
                   "DFTFwd_RToCCS takes real samples");
 }
 
@@ -252,7 +251,7 @@ TEST_F(Refusal, ValueBeyondSinglePrecision) {
 
 // What cannot be written is no fault of the input.
 TEST_F(Listing, FullDiskIsStatusOne) {
-    EXPECT_EQ(std::system(KFM_TOOL " list >/dev/full 2>/dev/null") >> 8, 1);
+    EXPECT_EQ(std::system("'" KFM_TOOL "' list >/dev/full 2>/dev/null") >> 8, 1);
 }
 
 }   // namespace

@@ -29,8 +29,7 @@ Positions residuesModulo4(const Plan& plan, const RaderOrder& order) {
     const Plan& rows = plan.first().second();
     const int q = rows.n;
     const auto position = [q](int i, int lane) { return chineseRemainder(lane, 4, i, q); };
-    const auto transformOf = [&order, position, q](const std::vector<Constant>& roots, int lane,
-                                                   int k) {
+    const auto transformOf = [position, q](const std::vector<Constant>& roots, int lane, int k) {
         std::vector<Constant> sequence;
         for (int i = 0; i < q; ++i) sequence.push_back(roots[position(i, lane)]);
         return weightedBin(sequence, k);

@@ -100,7 +100,8 @@ public:
             rowOrder_ = mirroredOrder(step.rows);
         if (left == 1 && isTwiceOddDirect(step.second))
             rowOrder_ = mirroredPairOrder(step.rows / 2);
-        if (left == 1) std::ranges::rotate(columnOrder_, columnOrder_.begin() + 1);
+        if (left == 1)
+            std::rotate(columnOrder_.begin(), columnOrder_.begin() + 1, columnOrder_.end());
         if (fewRowsLeft()) columnOrder_ = mirroredOrder(step.columns);
     }
 
