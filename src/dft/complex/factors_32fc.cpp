@@ -70,7 +70,7 @@ SinglePrecisionRow singlePrecisionRow(int n) {
         {48, {ct(pfa(4, 3), 4), rows}},
         {49, {ct(7, 7), rows}},
         {50, {pfa(ct(5, 5), 2), joinedRows}},
-        {51, {pfa(3, rader(16, 10, 6)), rows}},   // 1.69
+        {51, {pfa(3, rader(16)), rows}},
         {52, {pfa(thirteen, 4), rows}},
         {53, {rader(pfa(4, thirteen), 12), raderPair}},
         {54, {pfa(twentySeven, 2), joinedRows}},
