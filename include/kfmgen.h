@@ -107,7 +107,7 @@ KFM_API const KfmLibraryVersion *kfmgenGetLibVersion(void);
  * Aliasing: the whole source is read before the first output is written, so the destination may
  * be the source itself (in place) or overlap it in any way.
  * Threads: reentrant, no shared state.
- * Stack: less than 4 KiB.
+ * Stack: less than 8 KiB.
  *
  * Status, in the order of the checks:
  *   kfmErrSize       generic entries only, before all else: length outside 2..64

@@ -7,7 +7,7 @@ namespace kfm::tests {
 namespace {
 
 std::size_t promisedStack(const Transform& transform) {
-    return (transform.element->complex || transform.walshHadamard() ? 4 : 8) * 1024;
+    return (transform.walshHadamard() ? 4 : 8) * 1024;
 }
 
 class Stack : public testing::TestWithParam<Transform> {};
