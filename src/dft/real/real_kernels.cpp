@@ -81,9 +81,9 @@ KernelFamily family(bool inverse) {
             },
             [](int n, const Element&) { return row(n).plan; },
             [=](const Plan& plan, const Element& element) {
+                const RealRow variant(plan, row(plan.n).lanes);
                 const bool single = !element.doublePrecision;
-                return inverse ? inverseGraph(RealRow(plan), single)
-                               : forwardGraph(RealRow(plan), single);
+                return inverse ? inverseGraph(variant, single) : forwardGraph(variant, single);
             },
             describe, inverse ? inverseChoice : forwardChoice,
             [=](int n, const Element& element, const Target&, const ScheduleChoice& choice,
