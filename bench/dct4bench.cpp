@@ -58,11 +58,12 @@ private:
     Spec* spec_ = nullptr;
 };
 
+// Whether there is a plan for this length.
 template <class Spec>
-void measure(const Calls<Spec>& calls, int length, std::string_view suffix, int batches) {
+bool measure(const Calls<Spec>& calls, int length, std::string_view suffix, int batches) {
     const registry::Element& element = *registry::findElement(suffix);
     Plan<Spec> plan(calls, length);
-    if (!plan) return;
+    if (!plan) return false;
     Subject mine(plan.transforming(element)), making(plan.making());
     std::vector<Subject*> subjects = {&mine};
     std::optional<Subject> peer;
@@ -76,6 +77,7 @@ void measure(const Calls<Spec>& calls, int length, std::string_view suffix, int 
     else std::printf(",");
     std::printf(",%.2f\n", making.minimum() / 1e3);
     std::fflush(stdout);
+    return true;
 }
 
 template <class Spec, class Transform>
@@ -87,7 +89,7 @@ Calls<Spec> callsOf(KfmStatus (*size)(int, int*), KfmStatus (*init)(Spec**, int,
 }   // namespace
 }   // namespace kfm::bench
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     using namespace kfm::bench;
     CLI::App app("Times the DCT-IV against FFTW's; one CSV row for each length.");
     Selection selection;
@@ -105,9 +107,14 @@ int main(int argc, char** argv) {
     const auto single = callsOf(kfmgDCT4GetSize_32f, kfmgDCT4Init_32f, kfmgDCT4_32f);
     const auto twice = callsOf(kfmgDCT4GetSize_64f, kfmgDCT4Init_64f, kfmgDCT4_64f);
     std::printf("element,length,ns,ns_per_nlogn,fftw_ns,times_as_fast,planning_us\n");
+    bool some = false;
     for (int power = 2; power <= selection.last; power *= 2) {
         if (!selection.hasLength(power)) continue;
-        if (selection.hasElement("32f")) measure(single, power, "32f", batches);
-        if (selection.hasElement("64f")) measure(twice, power, "64f", batches);
+        if (selection.hasElement("32f")) some |= measure(single, power, "32f", batches);
+        if (selection.hasElement("64f")) some |= measure(twice, power, "64f", batches);
     }
+    Selection::require(some);
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "dct4bench: %s\n", error.what());
+    return 1;
 }

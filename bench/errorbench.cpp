@@ -124,10 +124,9 @@ private:
 
 void compareAll(const Selection& selection, int signals) {
     std::puts("function,error,fftwError,ratio");
-    for (const registry::Function& function : registry::functions()) {
-        if (function.length == 0 || !selection.hasFamily(function.family) ||
-            !selection.hasElement(function.element) || !selection.hasLength(function.length))
-            continue;
+    bool some = false;
+    for (const registry::Function* picked : selection.functions()) {
+        const registry::Function& function = *picked;
         const registry::Family& family = *registry::findFamily(function.family);
         const registry::Element& element = *registry::findElement(function.element);
         // FFTW has this layout of a half spectrum and no other.
@@ -135,11 +134,13 @@ void compareAll(const Selection& selection, int signals) {
                             family.name.find("Perm") != family.name.npos;
         PeerPlan peer = packed || family.byOrder ? PeerPlan() : fftwPlan(function);
         if (!peer) continue;
+        some = true;
         if (element.doublePrecision)
             Comparison<double>{function, family, element, peer, {}, {}}.print(signals);
         else
             Comparison<float>{function, family, element, peer, {}, {}}.print(signals);
     }
+    if (!some) throw std::runtime_error("FFTW has none of these transforms, or is not there");
 }
 
 }   // namespace

@@ -85,18 +85,14 @@ Result measure(const registry::Function& function, const Options& options) {
 std::vector<Result> measureAll(const Options& options) {
     const OpCountTable counts = readOpCounts(KFM_OP_COUNTS);
     std::vector<Result> results;
-    for (const registry::Function& function : registry::functions()) {
-        if (function.length == 0 || !options.selection.hasFamily(function.family) ||
-            !options.selection.hasElement(function.element) ||
-            !options.selection.hasLength(function.length))
-            continue;
-        Result& result = results.emplace_back(measure(function, options));
-        const registry::Family& family = *registry::findFamily(function.family);
+    for (const registry::Function* function : options.selection.functions()) {
+        Result& result = results.emplace_back(measure(*function, options));
+        const registry::Family& family = *registry::findFamily(function->family);
         const std::string kernels(family.kernelSource);
-        const auto row = counts.find({kernels, function.length, function.element});
+        const auto row = counts.find({kernels, function->length, function->element});
         if (family.byOrder)
-            result.counts = countsOfOrder(function.length,
-                                          *registry::findElement(function.element));
+            result.counts = countsOfOrder(function->length,
+                                          *registry::findElement(function->element));
         if (row != counts.end()) result.counts = row->second;
     }
     return results;

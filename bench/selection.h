@@ -1,13 +1,15 @@
-// The options that pick functions from the registry, the same for every program here.
+// The options that pick functions from the registry, the same for every program here. To pick none
+// is a mistake, which no program answers with an empty table.
 #pragma once
 
 #include <CLI/CLI.hpp>
 #include <climits>
 #include <cstdio>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "registry/registry.h"
+#include "registry/functions.h"
 
 namespace kfm::bench {
 
@@ -34,6 +36,20 @@ struct Selection {
     bool hasFamily(std::string_view name) const { return family.empty() || family == name; }
     bool hasElement(std::string_view suffix) const { return element.empty() || element == suffix; }
     bool hasLength(int length) const { return first <= length && length <= last; }
+
+    static void require(bool some) {
+        if (!some) throw std::runtime_error("no function has this family, element type and length");
+    }
+    // The functions of fixed length.
+    std::vector<const registry::Function*> functions() const {
+        std::vector<const registry::Function*> result;
+        for (const registry::Function& function : registry::functions())
+            if (function.length != 0 && hasFamily(function.family) &&
+                hasElement(function.element) && hasLength(function.length))
+                result.push_back(&function);
+        require(!result.empty());
+        return result;
+    }
 
 private:
     template <class Rows, class Field>

@@ -85,6 +85,7 @@ void tune(const KernelSource& kernel, const registry::Element& element, const Wo
 void tuneAll(const Options& options) {
     const Workshop workshop(KFM_KERNELGEN, options.target, KFM_COMPILE_COMMANDS, KFM_WORK_FOLDER);
     std::set<std::string_view> seen;
+    bool some = false;
     for (const registry::Family& family : registry::families()) {
         // Kernels of orders are templates without schedules.
         if (family.byOrder || !options.selection.hasFamily(family.name)) continue;
@@ -93,9 +94,12 @@ void tuneAll(const Options& options) {
                             (std::string(family.kernelSource) + "_schedules.def"));
         for (const registry::Element* element : family.elements)
             if (options.selection.hasElement(element->suffix))
-                for (const KernelSource& kernel : kernels(family, *element, options.selection))
+                for (const KernelSource& kernel : kernels(family, *element, options.selection)) {
                     tune(kernel, *element, workshop, table, options);
+                    some = true;
+                }
     }
+    bench::Selection::require(some);
 }
 
 }   // namespace
