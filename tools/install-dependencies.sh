@@ -1,36 +1,52 @@
 #!/bin/sh
-# install-dependencies.sh <demo|test|bench>: installs the Debian packages that a goal needs and
-# this machine lacks. Does nothing when all are there.
+# install-dependencies.sh <install|demo|test|bench>: installs the Debian packages that a goal needs
+# and this machine lacks. Does nothing when all are there, fails when some cannot be had.
 set -eu
 
 tool="libcli11-dev libsndfile1-dev"
 case ${1:-} in
-    demo)  wanted="$tool alsa-utils"
-           why="to build the command-line tool and to have a recording to show" ;;
-    test)  wanted="$tool libgtest-dev googletest g++-multilib pkg-config valgrind"
-           why="to build the tests, also for 32 bits" ;;
-    bench) wanted="libfftw3-dev libcli11-dev g++-multilib"
-           why="to measure beside other libraries, also for 32 bits" ;;
-    *) echo "usage: $0 demo|test|bench" >&2; exit 2 ;;
+    install) wanted=$tool
+             why="to build the command-line tool" ;;
+    demo)    wanted="$tool alsa-utils"
+             why="to build the command-line tool and to have a recording to show" ;;
+    test)    wanted="$tool libgtest-dev googletest g++-multilib pkg-config valgrind"
+             why="to build the tests, also for 32 bits" ;;
+    bench)   wanted="libfftw3-dev libcli11-dev g++-multilib"
+             why="to measure beside other libraries, also for 32 bits" ;;
+    *) echo "usage: $0 install|demo|test|bench" >&2; exit 2 ;;
 esac
 
 installed() {
     dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }
 
-missing=
-for package in $wanted; do
-    installed "$package" || missing="$missing $package"
-done
-[ -n "$missing" ] || exit 0
+find_missing() {
+    missing=
+    for package in $wanted; do
+        installed "$package" || missing="$missing $package"
+    done
+}
 
+find_missing
+[ -n "$missing" ] || exit 0
 if ! command -v apt-get >/dev/null; then
     echo "Not a Debian machine: please install the equivalents of$missing ($why)." >&2
     exit 0
 fi
 as_root=
-[ "$(id -u)" -eq 0 ] || as_root=sudo
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "Please run this as root, $why: apt-get install$missing" >&2
+        exit 1
+    fi
+    as_root=sudo
+fi
+
 echo "Installing$missing with ${as_root:+$as_root }apt-get, $why." >&2
-$as_root apt-get update -qq
+$as_root apt-get update -qq ||
+    echo "Not all package lists could be renewed; trying with those that are there." >&2
 # shellcheck disable=SC2086
-$as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
+$as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends $missing || true
+find_missing   # what counts is what is there now
+[ -z "$missing" ] || { echo "Could not be installed:$missing ($why)." >&2; exit 1; }
