@@ -49,8 +49,9 @@ tune:
 	@$(EACH_TARGET) cmake --build "$$BUILD/$$target" --target tune; done
 
 install:
-	@tools/build.sh "$(JOBS)"
-	@$(EACH_TARGET) cmake --install "$$BUILD/$$target" --prefix "$(PREFIX)"; done
+	@[ -n "$$DESTDIR" ] || tools/install-dependencies.sh install || true   # or without the tool
+	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=AUTO
+	@tools/install.sh "$(PREFIX)" $$(sed "s,[^ ]*,$$BUILD/&,g" "$$BUILD/targets")
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"

@@ -4,12 +4,14 @@ include(CMakePackageConfigHelpers)
 install(TARGETS kfmgenw7 kfmcore EXPORT kfmgen-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(FILES include/kfmgen.h include/kfmcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kfmgen)
+# In a folder that CMake searches for every target: lib32 it does not search on Debian.
+set(package_dir ${CMAKE_INSTALL_DATADIR}/cmake/kfmgen)
 install(EXPORT kfmgen-targets NAMESPACE kfm:: DESTINATION ${package_dir}
-        FILE kfmgen-config.cmake)
+        FILE kfmgen-targets-${KFM_TARGET}.cmake)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
-    COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake DESTINATION ${package_dir})
+    COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)
+install(FILES cmake/kfmgen-config.cmake ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
+        DESTINATION ${package_dir})
 
 # kfm_pkgconfig(<file> <library> <description>)
 function(kfm_pkgconfig name library description)

@@ -1,23 +1,21 @@
-# What configuring refuses. See CMakeLists.txt for what this script is given.
-set(configure ${CMAKE_COMMAND} -S ${source_dir} -D CMAKE_C_COMPILER=${c_compiler}
-    -D CMAKE_CXX_COMPILER=${cxx_compiler} -D CMAKE_C_FLAGS=${flags} -D KFM_KERNELGEN=${kernelgen})
+# What configuring refuses, and that a project may be around this one. See CMakeLists.txt for what
+# this script is given.
+include(${CMAKE_CURRENT_LIST_DIR}/support/refused.cmake)
+set(arguments -D CMAKE_C_COMPILER=${c_compiler} -D CMAKE_CXX_COMPILER=${cxx_compiler}
+    -D CMAKE_C_FLAGS=${flags} -D KFM_KERNELGEN=${kernelgen})
+set(configure ${CMAKE_COMMAND} -S ${source_dir} ${arguments})
 file(REMOVE_RECURSE ${scratch})
 unset(ENV{CXX})
 
-# refused(<words> <arguments of cmake...>): the words are all there is to read about it.
-function(refused words)
-    execute_process(COMMAND ${configure} ${ARGN}
-        RESULT_VARIABLE status OUTPUT_QUIET ERROR_VARIABLE errors)
-    string(REGEX REPLACE "[ \n]+" " " text "${errors}")
-    string(REGEX MATCHALL "CMake Error" complaints "${text}")
-    list(LENGTH complaints count)
-    if(status EQUAL 0 OR NOT text MATCHES "${words}" OR NOT count EQUAL 1)
-        message(FATAL_ERROR "not refused with \"${words}\":\n${errors}")
-    endif()
-endfunction()
-
 refused("is for x86 processors" -B ${scratch}/another_processor
     -D "CMAKE_CXX_FLAGS=${flags} -U__x86_64__ -U__i386__")
+
+# For a project around it, targets have the names of the installed package. A small one is built.
+execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/install/consumer
+    -B ${scratch}/around ${arguments} -D CMAKE_CXX_FLAGS=${flags} -D source_dir=${source_dir}
+    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${scratch}/around --target kfmcore
+    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 
 execute_process(COMMAND ${configure} -B ${scratch}/folder -D CMAKE_CXX_FLAGS=${flags}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)

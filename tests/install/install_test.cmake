@@ -1,6 +1,6 @@
 # See CMakeLists.txt for what this script is given.
+include(${CMAKE_CURRENT_LIST_DIR}/../support/refused.cmake)
 set(consumer ${CMAKE_CURRENT_LIST_DIR}/consumer)
-set(prefix ${scratch}/prefix)
 file(REMOVE_RECURSE ${scratch})
 set(ENV{DESTDIR})
 
@@ -8,19 +8,29 @@ function(run)
     execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${binary_dir} --prefix ${prefix})
+# What is installed may be moved.
+run(${CMAKE_COMMAND} --install ${binary_dir} --prefix ${scratch}/staged)
+set(prefix ${scratch}/prefix)
+file(RENAME ${scratch}/staged ${prefix})
+if(EXISTS ${prefix}/bin/kfmgen)
+    run(${prefix}/bin/kfmgen info)
+endif()
 
-# CMake package, with the version a user would ask for; an older major version must be refused.
-set(configure ${CMAKE_COMMAND} -S ${consumer} -B ${scratch}/cmake -D CMAKE_PREFIX_PATH=${prefix}
-    -D kfmgen_DIR=${prefix}/${libdir}/cmake/kfmgen
-    -D CMAKE_C_COMPILER=${c_compiler} -D "CMAKE_C_FLAGS=${c_flags}")
-run(${configure} -D wanted_version=6.0)
+# CMake package, with the version a user would ask for.
+set(configure ${CMAKE_COMMAND} -S ${consumer} -D CMAKE_PREFIX_PATH=${prefix}
+    -D CMAKE_C_COMPILER=${c_compiler})
+set(for_target -D "CMAKE_C_FLAGS=${c_flags}")
+run(${configure} -B ${scratch}/cmake ${for_target}
+    -D "wanted=6.0 COMPONENTS kfmgenw7")
 run(${CMAKE_COMMAND} --build ${scratch}/cmake)
 run(${scratch}/cmake/consumer)
-execute_process(COMMAND ${configure} -D wanted_version=5.0
-    RESULT_VARIABLE refused OUTPUT_QUIET ERROR_QUIET)
-if(refused EQUAL 0)
-    message(FATAL_ERROR "a request for version 5.0 was granted")
+
+# An older major version, what does not exist, and a target whose libraries are not there.
+refused("version \"5.0\"" -B ${scratch}/refused ${for_target} -D wanted=5.0)
+refused("kfmgen has no component nonsense" -B ${scratch}/refused ${for_target}
+    -D "wanted=COMPONENTS kfmcore nonsense")
+if(target STREQUAL "i386")
+    refused("kfmgen is not installed for x86-64" -B ${scratch}/another_target)
 endif()
 
 # pkg-config, for a C89 program.
