@@ -52,6 +52,7 @@ install:
 	@[ -n "$$DESTDIR" ] || tools/install-dependencies.sh install || true   # or without the tool
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=AUTO
 	@tools/install.sh "$(PREFIX)" $$(sed "s,[^ ]*,$$BUILD/&,g" "$$BUILD/targets")
+	@[ "$$(id -u)" -ne 0 ] || chown -R --reference=. "$$BUILD"   # a user's, who goes on with it
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"
