@@ -1,8 +1,9 @@
 #include "run_tool.h"
 
-#include <sndfile.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <fstream>
@@ -10,12 +11,6 @@
 
 namespace kfm::test {
 namespace {
-
-std::string contents(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
 
 std::filesystem::path freshFolder() {
     // With a space, as any path may have.
@@ -30,12 +25,24 @@ ToolTest::ToolTest() : folder_(freshFolder()) {}
 ToolTest::~ToolTest() { std::filesystem::remove_all(folder_); }
 
 Outcome ToolTest::run(const std::string& arguments, const std::string& input) const {
+    return shell("\"$kfmgen\" " + arguments, input);
+}
+
+Outcome ToolTest::shell(const std::string& script, const std::string& input) const {
     textFile("stdin", input);
-    const std::string command = "cd '" + folder_.string() + "' && '" KFM_TOOL "' " + arguments +
-                                " <stdin >stdout 2>stderr";
-    const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(path("stdout")),
-            contents(path("stderr"))};
+    const std::string redirected =
+        "cd '" + folder_.string() + "' && { " + script + "\n} <stdin >stdout 2>stderr";
+    const pid_t child = fork();
+    if (child == 0) {
+        setenv("kfmgen", KFM_TOOL, 1);
+        execlp("bash", "bash", "-c", redirected.c_str(), nullptr);
+        _exit(127);
+    }
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), contents("stdout"),
+            contents("stderr"), usage.ru_maxrss};
 }
 
 std::string ToolTest::textFile(const std::string& name, const std::string& text) const {
@@ -44,11 +51,11 @@ std::string ToolTest::textFile(const std::string& name, const std::string& text)
 }
 
 std::string ToolTest::soundFile(const std::string& name, int rate, int channels,
-                                const std::vector<double>& samples) const {
+                                const std::vector<double>& samples, int format) const {
     SF_INFO info = {};
     info.samplerate = rate;
     info.channels = channels;
-    info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+    info.format = format;
     SNDFILE* file = sf_open(path(name).c_str(), SFM_WRITE, &info);
     if (file == nullptr) throw std::runtime_error(sf_strerror(nullptr));
     sf_write_double(file, samples.data(), samples.size());
@@ -56,8 +63,24 @@ std::string ToolTest::soundFile(const std::string& name, int rate, int channels,
     return name;
 }
 
-void ToolTest::expectRefusal(const Outcome& outcome, const std::string& words) const {
-    EXPECT_EQ(outcome.status, 2);
+std::string ToolTest::contents(const std::string& name) const {
+    std::ostringstream text;
+    text << std::ifstream(path(name)).rdbuf();
+    return text.str();
+}
+
+std::vector<std::string> ToolTest::names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        const std::string name = entry.path().filename();
+        if (name != "stdin" && name != "stdout" && name != "stderr") names.push_back(name);
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+void ToolTest::expectRefusal(const Outcome& outcome, int status, const std::string& words) const {
+    EXPECT_EQ(outcome.status, status);
     EXPECT_EQ(outcome.out, "");
     EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1) << outcome.err;
     EXPECT_TRUE(outcome.err.starts_with("kfmgen: ")) << outcome.err;

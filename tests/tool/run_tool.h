@@ -2,6 +2,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sndfile.h>
 
 #include <filesystem>
 #include <string>
@@ -10,9 +11,10 @@
 namespace kfm::test {
 
 struct Outcome {
-    int status;
+    int status;   // 128 and more: ended by a signal
     std::string out;
     std::string err;
+    long peakKiB;   // of the largest process
 };
 
 class ToolTest : public testing::Test {
@@ -22,19 +24,27 @@ protected:
 
     // In the folder of the test, `arguments` as in a shell; `input` is its standard input.
     Outcome run(const std::string& arguments, const std::string& input = "") const;
+    // Any commands of bash, in which $kfmgen is the program.
+    Outcome shell(const std::string& script, const std::string& input = "") const;
 
-    // Both return the name. Sound samples are interleaved channels, full scale 1.
+    // These return the name. Sound samples are interleaved channels, full scale 1.
     std::string textFile(const std::string& name, const std::string& text) const;
     std::string soundFile(const std::string& name, int rate, int channels,
-                          const std::vector<double>& samples) const;
+                          const std::vector<double>& samples,
+                          int format = SF_FORMAT_WAV | SF_FORMAT_PCM_16) const;
 
-    // Exit status 2, no output, and one line on standard error that contains `words`.
-    void expectRefusal(const Outcome& outcome, const std::string& words) const;
-
-private:
+    std::string contents(const std::string& name) const;
+    std::vector<std::string> names() const;   // in the folder, sorted, without those of run()
     std::string path(const std::string& name) const { return (folder_ / name).string(); }
 
+    // No output, and one line on standard error that begins "kfmgen: " and contains `words`.
+    void expectRefusal(const Outcome& outcome, int status, const std::string& words) const;
+
+private:
     std::filesystem::path folder_;
 };
+
+// Statuses of the program.
+constexpr int faultStatus = 1, usageStatus = 2, inputStatus = 3, outputStatus = 4;
 
 }   // namespace kfm::test

@@ -7,7 +7,6 @@
 #include <numeric>
 
 #include "fixed_transform.h"
-#include "frames.h"
 #include "kfmgen.h"
 
 namespace kfm::tool {
@@ -15,12 +14,7 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 
-Samples mono(const Sound& sound) {
-    if (sound.channels == 1) return sound.samples;
-    Samples mixed;
-    for (const Sample& sample : sound.samples) mixed.push_back((sample.real() + sample.imag()) / 2);
-    return mixed;
-}
+using Samples = std::vector<double>;
 
 // A sinc under a Hann window, of unit gain, that passes 0.43 of the new rate and stops half of it.
 std::vector<double> lowPass(int factor) {
@@ -45,7 +39,7 @@ Samples decimated(const Samples& samples, int factor) {
     for (std::ptrdiff_t centre = 0; centre < size; centre += factor) {
         const std::ptrdiff_t first = std::max<std::ptrdiff_t>(0, centre - reach);
         const std::ptrdiff_t last = std::min(size - 1, centre + reach);
-        Sample sum = 0;
+        double sum = 0;
         for (std::ptrdiff_t i = first; i <= last; ++i) sum += samples[i] * taps[i - centre + reach];
         result.push_back(sum);
     }
@@ -55,36 +49,44 @@ Samples decimated(const Samples& samples, int factor) {
 // Adds the bands of half-overlapping frames under a Hann window; returns how many frames.
 class BandSum {
 public:
-    BandSum() : transform_("DFTFwd_RToCCS", bandTransformLength, true, kfmScaleNone) {
+    BandSum()
+        : transform_(fixedTransform("DFTFwd_RToCCS", bandTransformLength, true, kfmScaleNone)) {
         for (int i = 0; i < bandTransformLength; ++i)
             window_.push_back((1 - std::cos(2 * pi * i / bandTransformLength)) / 2);
     }
 
     // The sum of the window is half its length, so an amplitude of 1 gives a quarter of the length
     // in its bin.
-    std::vector<double> mean(std::span<const Sample> signal) const {
+    std::vector<double> mean(std::span<const double> signal) const {
         std::vector<double> bands(bandTransformLength / 2 + 1);
-        const Framing framing{bandTransformLength, bandTransformLength / 2, Tail::pad};
-        const std::size_t count = forEachFrame(signal, framing, [&](auto frame) {
-            Samples windowed(frame.begin(), frame.end());
+        std::size_t count = 0;
+        bool last = signal.empty();
+        for (std::size_t start = 0; !last; start += bandTransformLength / 2, ++count) {
+            Samples windowed(bandTransformLength), spectrum(bandTransformLength + 2);
+            const std::size_t there =
+                std::min<std::size_t>(bandTransformLength, signal.size() - start);
+            last = start + bandTransformLength >= signal.size();
+            std::copy_n(signal.begin() + start, there, windowed.begin());
             std::ranges::transform(windowed, window_, windowed.begin(), std::multiplies<>());
-            const Samples spectrum = transform_(windowed);   // the bins of `bands`
+            (*transform_)(windowed, spectrum);
             for (std::size_t k = 0; k < bands.size(); ++k)
-                bands[k] += std::norm(spectrum[k] * (4.0 / bandTransformLength));
-        });
+                bands[k] += (spectrum[2 * k] * spectrum[2 * k] +
+                             spectrum[2 * k + 1] * spectrum[2 * k + 1]) *
+                            (4.0 / bandTransformLength) * (4.0 / bandTransformLength);
+        }
         for (double& band : bands) band /= count;
         return bands;
     }
 
 private:
-    FixedTransform transform_;
+    std::unique_ptr<FrameTransform> transform_;
     std::vector<double> window_;
 };
 
 // Twice the mean square: 1 for a sine of full scale.
-double level(std::span<const Sample> signal) {
+double level(std::span<const double> signal) {
     double sum = 0;
-    for (const Sample& sample : signal) sum += std::norm(sample);
+    for (const double sample : signal) sum += sample * sample;
     return 2 * sum / signal.size();
 }
 
@@ -92,7 +94,7 @@ double level(std::span<const Sample> signal) {
 
 BandPower bandPower(const Sound& sound, double sliceSeconds) {
     const int factor = std::max(1, sound.rate / 8000);
-    const Samples samples = decimated(mono(sound), factor);
+    const Samples samples = decimated(sound.samples, factor);
     const double rate = static_cast<double>(sound.rate) / factor;
     const std::size_t sliceLength =
         std::max<std::size_t>(bandTransformLength, std::lround(sliceSeconds * rate));
@@ -101,7 +103,7 @@ BandPower bandPower(const Sound& sound, double sliceSeconds) {
     BandPower result{rate, rate / bandTransformLength, {}, bandSum.mean(samples)};
     for (std::size_t start = 0; start < samples.size(); start += sliceLength) {
         const std::size_t length = std::min(sliceLength, samples.size() - start);
-        const std::span<const Sample> slice(samples.data() + start, length);
+        const std::span<const double> slice(samples.data() + start, length);
         result.slices.push_back({start / rate, level(slice), bandSum.mean(slice)});
     }
     return result;

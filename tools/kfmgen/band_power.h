@@ -3,9 +3,15 @@
 // points then resolves bands of about 125 Hz, where speech and most pitches live.
 #pragma once
 
-#include "sound_file.h"
+#include <vector>
 
 namespace kfm::tool {
+
+struct Sound {
+    int rate;
+    int channels;
+    std::vector<double> samples;
+};
 
 // Powers are relative to a sine of full scale.
 struct Slice {

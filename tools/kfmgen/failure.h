@@ -1,19 +1,16 @@
-// What ends a command before its time: one line that says why, and the exit status it means.
+// What ends a command before its time: the exit status and one line that says why.
 #pragma once
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kfm::tool {
 
 // The only list of exit statuses; exitStatusHelp() says them in words.
-enum class ExitStatus {
-    done = 0,
-    tool = 1,     // no memory, or a fault of the tool itself
-    usage = 2,    // the command line
-    input = 3,    // what was to be read: missing, unreadable, or no samples for this transform
-    output = 4,   // what was to be written
-};
+enum class ExitStatus { done, tool, usage, input, output };
+
+std::string exitStatusHelp();
 
 // The message begins with the file it is about: "FILE:LINE:COLUMN: what" in a text.
 struct Failure : std::runtime_error {
@@ -22,25 +19,24 @@ struct Failure : std::runtime_error {
     ExitStatus status;
 };
 
-struct UsageError : Failure {
-    explicit UsageError(const std::string& message) : Failure(ExitStatus::usage, message) {}
+template <ExitStatus Status>
+struct FailureOf : Failure {
+    explicit FailureOf(const std::string& message) : Failure(Status, message) {}
 };
-struct InputError : Failure {
-    explicit InputError(const std::string& message) : Failure(ExitStatus::input, message) {}
-};
-struct OutputError : Failure {
-    explicit OutputError(const std::string& message) : Failure(ExitStatus::output, message) {}
-};
-
-std::string exitStatusHelp();
+using UsageError = FailureOf<ExitStatus::usage>;
+using InputError = FailureOf<ExitStatus::input>;
+using OutputError = FailureOf<ExitStatus::output>;
 
 // What an errno means, for the end of a message.
 std::string reason(int error);
 
-// Text of the user's in quotation marks, cut when it is long.
-std::string quoted(std::string_view text);
+// How messages call the file of this name.
+std::string displayed(const std::string& path);
 
-// The message as one line of a terminal: control characters are spelled, long ones cut.
-std::string line(std::string_view message);
+// Words of the user in quotation marks, cut when they are long.
+std::string inQuotes(std::string_view words);
+
+// The message as one line that no terminal takes for commands, cut when it is long.
+std::string oneLine(std::string_view message);
 
 }   // namespace kfm::tool

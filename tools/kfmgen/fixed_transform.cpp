@@ -1,9 +1,14 @@
 #include "fixed_transform.h"
 
 #include <algorithm>
+#include <numeric>
+#include <stdexcept>
+#include <vector>
 
+#include "failure.h"
 #include "kfmgen.h"
 #include "planned_transform.h"
+#include "registry/functions.h"
 
 namespace kfm::tool {
 namespace {
@@ -13,42 +18,110 @@ const registry::Family& knownFamily(const std::string& name) {
     std::string message = "no family '" + name + "'; there are";
     for (const registry::Family& family : registry::families())
         message += " " + std::string(family.name);
-    throw InputError(message + " " + std::string(plannedFamily));
+    throw UsageError(message + " " + std::string(plannedFamily));
 }
 
-const registry::Function* findFunction(const registry::Family& family, int length,
+const registry::Function& knownFunction(const registry::Family& family, int length,
                                        bool doublePrecision) {
     int member = family.first;
     while (member <= family.last && static_cast<int>(family.samples(member)) != length) ++member;
     if (member > family.last)
-        throw InputError("length " + std::to_string(length) + ": " + std::string(family.name) +
+        throw UsageError("length " + std::to_string(length) + ": " + std::string(family.name) +
                          " has lengths " + std::to_string(family.samples(family.first)) + " to " +
                          std::to_string(family.samples(family.last)) +
                          (family.byOrder ? ", powers of two" : ""));
     const registry::Element* element = *std::ranges::find(
         family.elements, doublePrecision, &registry::Element::doublePrecision);
-    return &*std::ranges::find(registry::functions(),
-                               registry::functionName(family, member, *element),
-                               &registry::Function::name);
+    return *std::ranges::find(registry::functions(),
+                              registry::functionName(family, member, *element),
+                              &registry::Function::name);
 }
 
-// Reals in, reals out; the array has room for the longer of source and destination.
-template <class Real>
-std::vector<double> apply(const registry::Function& function, std::span<const double> source,
-                          int flag) {
-    using Call = KfmStatus (*)(const void*, void*, int);
-    using BufferedCall = KfmStatus (*)(const void*, void*, int, Kfm8u*);
-    std::vector<Real> data;
-    for (const double value : source) data.push_back(converted<Real>(value));
-    const KfmStatus status =
-        registry::findFamily(function.family)->byOrder
-            ? reinterpret_cast<BufferedCall>(function.address)(data.data(), data.data(), flag,
-                                                               nullptr)
-            : reinterpret_cast<Call>(function.address)(data.data(), data.data(), flag);
-    if (status != kfmOk)
-        throw std::logic_error(function.name + std::string(" returned ") + std::to_string(status));
-    return {data.begin(), data.end()};
+// Where the values of a side lie in the array that the library computes in; -1 for one that is
+// always zero and not stored.
+std::vector<int> placesOf(Form form, std::optional<SpectrumLayout> layout, int length) {
+    std::vector<int> places;
+    if (form == Form::halfSpectrum) {
+        for (int bin = 0; bin <= length / 2; ++bin) {
+            const Slots slots = binSlots(*layout, length, bin);
+            places.insert(places.end(), {slots.re, slots.im});
+        }
+    } else {
+        places.resize(length * valuesPerSample(form));
+        std::iota(places.begin(), places.end(), 0);
+    }
+    return places;
 }
+
+template <class Real>
+class FixedTransform : public FrameTransform {
+public:
+    FixedTransform(const registry::Family& family, const registry::Function& function, int length,
+                   int flag)
+        : name_(family.name),
+          function_(function),
+          ordered_(family.byOrder),
+          flag_(flag),
+          source_(formOf(family, family.inverse())),
+          result_(formOf(family, !family.inverse())),
+          sourcePlaces_(placesOf(source_, spectrumLayout(family), length)),
+          resultPlaces_(placesOf(result_, spectrumLayout(family), length)),
+          data_(2 * (length + 1)) {   // room for every form on either side
+        // A call that has to allocate its buffer does not tell that there is no memory.
+        int bytes = 0;
+        if (ordered_ && kfmgWHTGetBufferSize_64f(function.length, &bytes) == kfmOk)
+            buffer_.resize(bytes / sizeof(Aligned) + 1);
+    }
+
+    const std::string& name() const override { return name_; }
+    bool doublePrecision() const override { return sizeof(Real) == sizeof(Kfm64f); }
+    Form sourceForm() const override { return source_; }
+    Form resultForm() const override { return result_; }
+    std::size_t sourceSize() const override {
+        return sourcePlaces_.size() / valuesPerSample(source_);
+    }
+    std::size_t resultSize() const override {
+        return resultPlaces_.size() / valuesPerSample(result_);
+    }
+
+    void operator()(std::span<const double> source, std::span<double> result) override {
+        for (std::size_t i = 0; i < sourcePlaces_.size(); ++i)
+            if (sourcePlaces_[i] >= 0) data_[sourcePlaces_[i]] = static_cast<Real>(source[i]);
+        if (const KfmStatus status = call(); status != kfmOk)
+            throw std::logic_error(std::string(function_.name) + " returned " +
+                                   std::to_string(status));
+        for (std::size_t i = 0; i < resultPlaces_.size(); ++i)
+            result[i] = resultPlaces_[i] >= 0 ? data_[resultPlaces_[i]] : 0;
+    }
+
+private:
+    struct alignas(16) Aligned {
+        Kfm8u bytes[16];
+    };
+
+    Form formOf(const registry::Family& family, bool spectrum) const {
+        if (registry::findElement(function_.element)->complex) return Form::complexSignal;
+        return spectrum && spectrumLayout(family) ? Form::halfSpectrum : Form::realSignal;
+    }
+
+    KfmStatus call() {
+        using Call = KfmStatus (*)(const void*, void*, int);
+        using BufferedCall = KfmStatus (*)(const void*, void*, int, Kfm8u*);
+        Real* data = data_.data();
+        if (!ordered_) return reinterpret_cast<Call>(function_.address)(data, data, flag_);
+        return reinterpret_cast<BufferedCall>(function_.address)(data, data, flag_,
+                                                                 buffer_.data()->bytes);
+    }
+
+    std::string name_;
+    const registry::Function& function_;
+    bool ordered_;
+    int flag_;
+    Form source_, result_;
+    std::vector<int> sourcePlaces_, resultPlaces_;
+    std::vector<Real> data_;
+    std::vector<Aligned> buffer_;
+};
 
 }   // namespace
 
@@ -60,61 +133,16 @@ std::string familyName(const std::string& family, std::optional<SpectrumLayout> 
             direction == (family.empty() ? "DFTFwd" : family))
             return std::string(candidate.name);
     }
-    throw InputError("--layout goes with --family DFTFwd or DFTInv, not with " + family);
+    throw UsageError("--layout goes with --family DFTFwd or DFTInv, not with " + family);
 }
 
-FixedTransform::FixedTransform(const std::string& family, int length, bool doublePrecision,
-                               int flag)
-    : family_(knownFamily(family)),
-      function_(findFunction(family_, length, doublePrecision)),
-      length_(length),
-      doublePrecision_(doublePrecision),
-      flag_(flag) {}
-
-Form FixedTransform::form(bool spectrum) const {
-    if (registry::findElement(function_->element)->complex) return Form::complexSignal;
-    return spectrum && spectrumLayout(family_) ? Form::halfSpectrum : Form::realSignal;
-}
-
-std::size_t FixedTransform::frameLength() const {
-    const std::size_t length = length_;
-    return sourceForm() == Form::halfSpectrum ? length / 2 + 1 : length;
-}
-
-Samples FixedTransform::operator()(std::span<const Sample> frame) const {
-    const std::vector<double> array = arrayOf(frame);
-    return samplesOf(doublePrecision_ ? apply<Kfm64f>(*function_, array, flag_)
-                                      : apply<Kfm32f>(*function_, array, flag_));
-}
-
-std::vector<double> FixedTransform::arrayOf(std::span<const Sample> samples) const {
-    // Room for every form on either side.
-    std::vector<double> array(2 * (length_ + 1));
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const Slots slots = slotsOf(sourceForm(), i);
-        array[slots.re] = samples[i].real();
-        if (slots.im >= 0)
-            array[slots.im] = samples[i].imag();
-        else if (sourceForm() == Form::realSignal && samples[i].imag() != 0)
-            throw InputError(std::string(family_.name) + " takes real samples, not complex ones");
-    }
-    return array;
-}
-
-Samples FixedTransform::samplesOf(std::span<const double> array) const {
-    const std::size_t length = length_;
-    Samples samples(resultForm() == Form::halfSpectrum ? length / 2 + 1 : length);
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const Slots slots = slotsOf(resultForm(), i);
-        samples[i] = Sample(array[slots.re], slots.im >= 0 ? array[slots.im] : 0);
-    }
-    return samples;
-}
-
-Slots FixedTransform::slotsOf(Form form, int i) const {
-    if (form == Form::complexSignal) return {2 * i, 2 * i + 1};
-    if (form == Form::realSignal) return {i, -1};
-    return binSlots(*spectrumLayout(family_), length_, i);
+std::unique_ptr<FrameTransform> fixedTransform(const std::string& name, int length,
+                                               bool doublePrecision, int flag) {
+    const registry::Family& family = knownFamily(name);
+    const registry::Function& function = knownFunction(family, length, doublePrecision);
+    if (doublePrecision)
+        return std::make_unique<FixedTransform<Kfm64f>>(family, function, length, flag);
+    return std::make_unique<FixedTransform<Kfm32f>>(family, function, length, flag);
 }
 
 }   // namespace kfm::tool

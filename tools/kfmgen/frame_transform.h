@@ -6,29 +6,34 @@
 #include <span>
 #include <string>
 
+#include "kfmgen.h"
 #include "packed_spectrum.h"
-#include "samples.h"
 
 namespace kfm::tool {
 
 // What the samples on one side of a transform are.
 enum class Form {
     complexSignal,
-    realSignal,     // imaginary parts are zero
+    realSignal,
     halfSpectrum,   // bins 0 ... N/2 of a real signal, in whichever layout
 };
+
+inline std::size_t valuesPerSample(Form form) { return form == Form::realSignal ? 1 : 2; }
 
 class FrameTransform {
 public:
     virtual ~FrameTransform() = default;
 
+    virtual const std::string& name() const = 0;   // of its family
     virtual bool doublePrecision() const = 0;
+    virtual Form sourceForm() const = 0;
     virtual Form resultForm() const = 0;
-    virtual std::size_t frameLength() const = 0;   // samples that one call takes
+    virtual std::size_t sourceSize() const = 0;   // samples that one call takes
+    virtual std::size_t resultSize() const = 0;   // and gives
 
-    // `frame` holds frameLength() samples. Values are those of the chosen precision. Throws
-    // InputError for samples that the source cannot hold.
-    virtual Samples operator()(std::span<const Sample> frame) const = 0;
+    // Both hold valuesPerSample() values per sample. What goes in has to be finite in the chosen
+    // precision; what comes out has its values.
+    virtual void operator()(std::span<const double> source, std::span<double> result) = 0;
 };
 
 // What `kfmgen transform` is asked for. `family` is a name of the registry, DCT4, or with a layout
@@ -36,16 +41,12 @@ public:
 struct Choice {
     std::string family;
     std::optional<SpectrumLayout> layout;
-    int length;
-    bool doublePrecision;
-    int flag;
+    int length = 0;
+    bool doublePrecision = false;
+    int flag = kfmScaleNone;
 };
 
-// Throws InputError for a family or a length that does not exist.
-std::unique_ptr<const FrameTransform> makeTransform(const Choice& choice);
-
-// The value in a precision of the library; throws InputError when it is none.
-template <class Real>
-Real converted(double value);
+// Throws UsageError for a family or a length that does not exist.
+std::unique_ptr<FrameTransform> makeTransform(const Choice& choice);
 
 }   // namespace kfm::tool

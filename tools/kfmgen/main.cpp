@@ -1,86 +1,47 @@
-// kfmgen: the library at the command line. Exit status 0, 2 when what the user gave is wrong (one
-// line on standard error says what), 1 when the output cannot be written.
-#include <CLI/CLI.hpp>
-#include <algorithm>
-#include <fstream>
+// kfmgen: the library at the command line. failure.h tells how a command ends that cannot be done.
+#include <signal.h>
+
 #include <iostream>
 #include <limits>
+#include <new>
+#include <sstream>
 
+#include "descriptor.h"
 #include "kfmgen.h"
 #include "listing.h"
+#include "options.h"
+#include "output_file.h"
 #include "spectrum.h"
 #include "transform.h"
 
 namespace kfm::tool {
 namespace {
 
-struct TransformOptions {
-    std::string input = "-";
-    std::string output = "-";
-    Choice choice{"", {}, 0, false, kfmScaleNone};
-    int hop = 0;   // 0: the length
-    Tail tail = Tail::pad;
-};
-
-struct OutputError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-void finish(std::ostream& out, const std::string& name) {
-    if (!out.flush()) throw OutputError("cannot write " + name);
-}
-
-void runTransform(const TransformOptions& options) {
-    const auto transform = makeTransform(options.choice);
-    const Samples samples = readSamples(options.input);
-    const std::size_t length = transform->frameLength();
-    const Framing framing{length, options.hop > 0 ? options.hop : length, options.tail};
-    if (options.output == "-") {
-        transformFrames(samples, *transform, framing, std::cout);
-        return;
-    }
-    std::ofstream file(options.output);
-    if (!file) throw InputError("cannot write " + options.output);
-    transformFrames(samples, *transform, framing, file);
-    finish(file, options.output);
-}
-
-// An option whose value is one of a few words.
-template <class Value, class Variable>
-void addChoice(CLI::App& command, const std::string& name, Variable& value,
-               const std::map<std::string, Value>& words, const std::string& help) {
-    std::string list;
-    for (const auto& [word, meaning] : words) list += (list.empty() ? "" : "|") + word;
-    const auto choose = [&value, words, list](const std::string& word) {
-        const auto found = words.find(word);
-        if (found == words.end())
-            throw CLI::ValidationError("'" + word + "' is none of " + list);
-        value = found->second;
-    };
-    command.add_option_function<std::string>(name, choose, help)->type_name(list);
-}
-
 void addTransform(CLI::App& app, TransformOptions& options) {
     CLI::App& command = *app.add_subcommand(
         "transform", "Apply a transform to successive frames of a signal; CSV out");
-    command.add_option("input", options.input,
-                       "sound file (mono: real, stereo: real and imaginary), text file with a "
-                       "sample per line, or - for text on standard input; the inverse real DFT "
-                       "takes bins 0 to length/2 of each frame");
-    command.add_option("-o,--output", options.output, "CSV file; standard output if not given");
-    command.add_option("--family", options.choice.family,
-                       "family, see `kfmgen list`; DFTFwd_CToC if not given. With --layout the "
-                       "direction of the real DFT: DFTFwd (default) or DFTInv");
+    addInput(command, options.input,
+             "sound, or text with a sample per line; standard input if not given or -. The inverse "
+             "real DFT takes bins 0 to length/2 of each frame");
+    command
+        .add_option("-o,--output", options.output,
+                    "CSV file, replaced when all is done; standard output if not given or -")
+        ->type_name("FILE");
+    command
+        .add_option("--family", options.choice.family,
+                    "family, see `kfmgen list`; DFTFwd_CToC if not given. With --layout the "
+                    "direction of the real DFT: DFTFwd (default) or DFTInv")
+        ->type_name("NAME");
     addChoice<SpectrumLayout>(command, "--layout", options.choice.layout,
-                                        {{"ccs", SpectrumLayout::ccs},
-                                         {"pack", SpectrumLayout::pack},
-                                         {"perm", SpectrumLayout::perm}},
-                                        "real DFT by the functions for this packed layout");
-    command.add_option("--length", options.choice.length, "length of the transform")->required();
-    command.add_option("--hop", options.hop,
-                       "samples (bins, if bins come in) from frame to frame; the whole frame if "
-                       "not given")
-        ->check(CLI::Range(1, std::numeric_limits<int>::max()));
+                              {{"ccs", SpectrumLayout::ccs},
+                               {"pack", SpectrumLayout::pack},
+                               {"perm", SpectrumLayout::perm}},
+                              "real DFT by the functions for this packed layout");
+    constexpr int most = std::numeric_limits<int>::max();
+    addNumber(command, "--length", options.choice.length, -most, most, "length of the transform")
+        ->required();
+    addNumber(command, "--hop", options.hop, 1, most,
+              "samples (bins, if bins come in) from frame to frame; the whole frame if not given");
     addChoice<int>(command, "--flag", options.choice.flag,
                    {{"none", kfmScaleNone},
                     {"fwd-by-n", kfmScaleFwdByN},
@@ -88,63 +49,88 @@ void addTransform(CLI::App& app, TransformOptions& options) {
                     {"by-sqrt-n", kfmScaleBySqrtN}},
                    "scaling; none if not given");
     addChoice<bool>(command, "--precision", options.choice.doublePrecision,
-                    {{"single", false}, {"double", true}}, "single if not given");
+                    {{"single", false}, {"double", true}},
+                    "single if not given; results that are too large for it are an error");
     addChoice<Tail>(command, "--tail", options.tail, {{"pad", Tail::pad}, {"drop", Tail::drop}},
                     "last samples that do not fill a frame: pad with zeros (default) or drop");
     command.callback([&options] { runTransform(options); });
 }
 
-void addSpectrum(CLI::App& app, std::string& path, double& slice) {
+void addSpectrum(CLI::App& app, InputOptions& input, double& slice, std::ostream& out) {
     CLI::App& command =
         *app.add_subcommand("spectrum", "Show the strongest frequencies of a sound over time");
-    command.add_option("file", path, "sound file")->required();
-    command.add_option("--slice", slice, "seconds per row; fits a screen if not given")
-        ->check(CLI::Range(0.01, 3600.0));
-    command.callback([&] { showSpectrum(path, slice, std::cout); });
+    addInput(command, input, "sound; standard input if not given or -");
+    addNumber(command, "--slice", slice, 0.01, 3600, "seconds per row; fits a screen if not given");
+    command.callback([&] { showSpectrum(input, slice, out); });
 }
 
-void addListings(CLI::App& app, bool& names) {
-    app.add_subcommand("info", "Show which build of the library this is")->callback([] {
-        printInfo(std::cout);
-    });
+void addListings(CLI::App& app, bool& names, std::ostream& out) {
+    app.add_subcommand("info", "Show which build of the library this is")
+        ->callback([&out] { printInfo(out); });
     CLI::App& list = *app.add_subcommand("list", "Show families, lengths and element types");
     list.add_flag("--names", names, "names of all functions instead");
-    list.callback([&names] { names ? printFunctionNames(std::cout) : printFamilies(std::cout); });
+    list.callback([&names, &out] { names ? printFunctionNames(out) : printFamilies(out); });
 }
 
-int complain(std::string message, int status) {
-    std::ranges::replace(message, '\n', ' ');
-    std::cerr << "kfmgen: " << message << '\n';
-    return status;
+std::string version() {
+    const KfmLibraryVersion& library = *kfmgenGetLibVersion();
+    return "kfmgen " + std::to_string(library.versionMajor) + "." +
+           std::to_string(library.versionMinor);
 }
 
-int run(int argc, char** argv) {
-    CLI::App app("Signal transforms of short fixed length", "kfmgen");
-    TransformOptions transform;
-    std::string path;
-    double slice = 0;
-    bool names = false;
-    addListings(app, names);
-    addTransform(app, transform);
-    addSpectrum(app, path, slice);
+void parse(CLI::App& app, int argc, char** argv, std::ostream& out) {
     try {
         app.parse(argc, argv);
         if (app.get_subcommands().empty())
-            throw InputError("no command; `kfmgen --help` lists them");
-        finish(std::cout, "standard output");
-        return 0;
+            throw UsageError("no command; `kfmgen --help` lists them");
     } catch (const CLI::Success& request) {
-        return app.exit(request);
+        app.exit(request, out);
     } catch (const CLI::ParseError& error) {
-        return complain(error.what(), 2);
-    } catch (const InputError& error) {
-        return complain(error.what(), 2);
+        throw UsageError(error.what());
+    }
+}
+
+void run(int argc, char** argv) {
+    CLI::App app("Signal transforms of short fixed length", "kfmgen");
+    app.require_subcommand(0, 1);   // a file may have the name of a command
+    app.set_version_flag("--version", version(), "Show the version and exit");
+    app.footer(exitStatusHelp());
+    std::ostringstream page;
+    TransformOptions transform;
+    InputOptions sound;
+    double slice = 0;
+    bool names = false;
+    addListings(app, names, page);
+    addTransform(app, transform);
+    addSpectrum(app, sound, slice, page);
+    parse(app, argc, argv, page);
+
+    OutputFile out("-");
+    out.write(page.str());
+    out.complete();
+}
+
+int complain(ExitStatus status, std::string_view message) {
+    std::cerr << "kfmgen: " << oneLine(message) << '\n';
+    return static_cast<int>(status);
+}
+
+int guarded(int argc, char** argv) {
+    occupyStandardDescriptors();
+    ::signal(SIGXFSZ, SIG_IGN);   // writing fails, which is told
+    try {
+        run(argc, argv);
+        return static_cast<int>(ExitStatus::done);
+    } catch (const Failure& failure) {
+        return complain(failure.status, failure.what());
+    } catch (const std::bad_alloc&) {
+        return complain(ExitStatus::tool, "not enough memory");
     } catch (const std::exception& error) {
-        return complain(error.what(), 1);
+        return complain(ExitStatus::tool, error.what());
     }
 }
 
 }   // namespace
 }   // namespace kfm::tool
 
-int main(int argc, char** argv) { return kfm::tool::run(argc, argv); }
+int main(int argc, char** argv) { return kfm::tool::guarded(argc, argv); }

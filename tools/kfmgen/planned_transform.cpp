@@ -1,8 +1,11 @@
 #include "planned_transform.h"
 
 #include <algorithm>
+#include <new>
+#include <stdexcept>
 #include <vector>
 
+#include "failure.h"
 #include "kfmgen.h"
 
 namespace kfm::tool {
@@ -47,52 +50,51 @@ template <class Real>
     if (above != lengths.begin()) nearest = std::to_string(above[-1]);
     if (above != lengths.end())
         nearest += (nearest.empty() ? "" : " and ") + std::to_string(*above);
-    throw InputError("length " + std::to_string(length) + ": nearest lengths of " +
+    throw UsageError("length " + std::to_string(length) + ": nearest lengths of " +
                      std::string(plannedFamily) + ": " + nearest);
 }
 
 template <class Real>
 class PlannedTransform : public FrameTransform {
 public:
-    explicit PlannedTransform(int length) : length_(length) {
+    explicit PlannedTransform(int length) {
         typename Calls<Real>::Spec* spec = nullptr;
         const KfmStatus status = Calls<Real>::initAlloc(&spec, length);
         if (status == kfmErrSize) refuse<Real>(length);
-        if (status != kfmOk) throw std::runtime_error("not enough memory for this length");
+        if (status != kfmOk) throw std::bad_alloc();
         spec_.reset(spec);
+        data_.resize(length);
     }
 
+    const std::string& name() const override { return name_; }
     bool doublePrecision() const override { return sizeof(Real) == sizeof(Kfm64f); }
+    Form sourceForm() const override { return Form::realSignal; }
     Form resultForm() const override { return Form::realSignal; }
-    std::size_t frameLength() const override { return static_cast<std::size_t>(length_); }
+    std::size_t sourceSize() const override { return data_.size(); }
+    std::size_t resultSize() const override { return data_.size(); }
 
-    Samples operator()(std::span<const Sample> frame) const override {
-        std::vector<Real> data;
-        for (const Sample& sample : frame) {
-            if (sample.imag() != 0)
-                throw InputError(std::string(plannedFamily) +
-                                 " takes real samples, not complex ones");
-            data.push_back(converted<Real>(sample.real()));
-        }
-        if (Calls<Real>::transform(data.data(), data.data(), spec_.get()) != kfmOk)
+    void operator()(std::span<const double> source, std::span<double> result) override {
+        std::ranges::transform(source, data_.begin(),
+                               [](double value) { return static_cast<Real>(value); });
+        if (Calls<Real>::transform(data_.data(), data_.data(), spec_.get()) != kfmOk)
             throw std::logic_error("the library refused a plan of its own");
-        return {data.begin(), data.end()};
+        std::ranges::copy(data_, result.begin());
     }
 
 private:
     struct Free {
         void operator()(typename Calls<Real>::Spec* spec) const { Calls<Real>::free(spec); }
     };
-    int length_;
+    std::string name_{plannedFamily};
+    std::vector<Real> data_;
     std::unique_ptr<typename Calls<Real>::Spec, Free> spec_;
 };
 
 }   // namespace
 
-std::unique_ptr<const FrameTransform> plannedTransform(int length, bool doublePrecision,
-                                                       int flag) {
+std::unique_ptr<FrameTransform> plannedTransform(int length, bool doublePrecision, int flag) {
     if (flag != kfmScaleNone)
-        throw InputError(std::string(plannedFamily) + " is not scaled: its flag is none");
+        throw UsageError(std::string(plannedFamily) + " is not scaled: its flag is none");
     if (doublePrecision) return std::make_unique<PlannedTransform<Kfm64f>>(length);
     return std::make_unique<PlannedTransform<Kfm32f>>(length);
 }

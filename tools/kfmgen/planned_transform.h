@@ -11,9 +11,9 @@ namespace kfm::tool {
 
 inline constexpr std::string_view plannedFamily = "DCT4";
 
-// Throws InputError for a length that cannot be planned, naming its nearest neighbours, and for a
+// Throws UsageError for a length that cannot be planned, naming its nearest neighbours, and for a
 // flag other than kfmScaleNone.
-std::unique_ptr<const FrameTransform> plannedTransform(int length, bool doublePrecision, int flag);
+std::unique_ptr<FrameTransform> plannedTransform(int length, bool doublePrecision, int flag);
 
 // The lengths in words, for a listing.
 std::string plannedLengths();

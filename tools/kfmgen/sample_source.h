@@ -5,10 +5,9 @@
 
 #include <cstddef>
 #include <memory>
-#include <optional>
 #include <span>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "failure.h"
 
@@ -28,7 +27,7 @@ struct Channels {
 
 // A sound without a header.
 struct RawSound {
-    std::string encoding;   // a name of rawEncodings()
+    std::string encoding;   // one of rawEncodings()
     int channels = 1;
     int rate = 44100;
 };
@@ -36,7 +35,7 @@ struct RawSound {
 struct InputOptions {
     std::string path = "-";   // - is standard input
     Channels channels;
-    std::optional<RawSound> raw;
+    RawSound raw;   // without an encoding: not raw
 };
 
 // What a source has to deliver: anything else is refused at the place where it stands.
@@ -56,25 +55,34 @@ public:
 
     // Fills whole samples of one value, or two where complex ones are demanded. Returns how many
     // samples; fewer than there is room for only at the end. Values are finite, full scale of a
-    // sound is 1. Throws InputError for what cannot be read or was not all there.
-    virtual std::size_t read(std::span<double> values) = 0;
+    // sound is 1. Throws InputError for what cannot be read, is not all there, or is empty.
+    std::size_t read(std::span<double> values);
 
     virtual SourceKind kind() const = 0;
-    virtual int rate() const = 0;       // samples per second; 0 for a text
-    virtual int channels() const = 0;   // in the file, whatever was chosen
+    virtual int rate() const { return 0; }          // samples per second; a text has none
+    virtual int channels() const = 0;               // in the file, whatever was chosen
     virtual bool framed() const { return false; }   // rows say their frame
 
     const std::string& name() const { return name_; }   // as messages call it
 
 protected:
-    explicit SampleSource(std::string name) : name_(std::move(name)) {}
+    SampleSource(std::string name, const Demand& demand) : name_(std::move(name)), demand_(demand) {}
+
+    const Demand& demand() const { return demand_; }
 
 private:
+    virtual std::size_t fill(std::span<double> values) = 0;
+
     std::string name_;
+    Demand demand_;
+    bool empty_ = true;
 };
 
 // Throws InputError for what cannot be opened, is neither sound nor text, or does not have the
 // channels that were chosen; more than one without a choice is an error, too.
 std::unique_ptr<SampleSource> openSamples(const InputOptions& options, const Demand& demand);
+
+// Names of the encodings that a sound without a header may have.
+std::vector<std::string> rawEncodings();
 
 }   // namespace kfm::tool

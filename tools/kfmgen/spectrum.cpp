@@ -26,14 +26,19 @@ void printSubject(const std::string& path, const Sound& sound, double duration,
 
 }   // namespace
 
-void showSpectrum(const std::string& path, double sliceSeconds, std::ostream& out) {
-    const auto sound = readSound(path);
-    if (!sound) throw InputError(path + ": not a sound file that can be read");
-    if (sound->samples.empty()) throw InputError(path + ": no samples");
-    const double duration = static_cast<double>(sound->samples.size()) / sound->rate;
+void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& out) {
+    InputOptions mixed = input;
+    if (input.channels.use == Channels::Use::unset) mixed.channels.use = Channels::Use::mix;
+    const auto source = openSamples(mixed, {.taker = "spectrum"});
+    if (source->rate() == 0) throw InputError(source->name() + ": is text, not a sound");
+    Sound sound{source->rate(), source->channels(), {}};
+    std::vector<double> block(4096);
+    while (const std::size_t count = source->read(block))
+        sound.samples.insert(sound.samples.end(), block.begin(), block.begin() + count);
+    const double duration = static_cast<double>(sound.samples.size()) / sound.rate;
     const BandPower power =
-        bandPower(*sound, sliceSeconds > 0 ? sliceSeconds : fittingSlice(duration));
-    printSubject(path, *sound, duration, power, out);
+        bandPower(sound, sliceSeconds > 0 ? sliceSeconds : fittingSlice(duration));
+    printSubject(source->name(), sound, duration, power, out);
     printPage(power, out);
 }
 

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <ostream>
-#include <string>
+
+#include "sample_source.h"
 
 namespace kfm::tool {
 
 // With `sliceSeconds` 0 the slices are as long as it takes to fit a screen.
-void showSpectrum(const std::string& path, double sliceSeconds, std::ostream& out);
+void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& out);
 
 }   // namespace kfm::tool

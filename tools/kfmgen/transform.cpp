@@ -1,66 +1,59 @@
 #include "transform.h"
 
 #include <algorithm>
-#include <charconv>
-#include <fstream>
-#include <iostream>
+#include <cmath>
 
-#include "sound_file.h"
-#include "text_samples.h"
+#include "row_writer.h"
 
 namespace kfm::tool {
 namespace {
 
-// The shortest digits that read back as the same value in its precision.
-std::string digits(double value, bool doublePrecision) {
-    char buffer[32];
-    const auto result = doublePrecision
-                            ? std::to_chars(buffer, std::end(buffer), value)
-                            : std::to_chars(buffer, std::end(buffer), static_cast<float>(value));
-    return std::string(buffer, result.ptr);
+Demand demandOf(const FrameTransform& transform) {
+    return {.complex = transform.sourceForm() != Form::realSignal,
+            .single = !transform.doublePrecision(),
+            .frame = transform.sourceSize(),
+            .bins = transform.sourceForm() == Form::halfSpectrum,
+            .taker = transform.name()};
 }
 
-Samples readTextFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    char head[512];
-    const std::streamsize size = file.read(head, sizeof head).gcount();
-    if (std::count(head, head + size, '\0') > 0)
-        throw InputError(path + ": neither text nor a sound file that can be read");
-    file.clear();
-    file.seekg(0);
-    return readText(file, path);
+// Rows that say their frame would be mixed with those of others.
+void checkHop(const SampleSource& source, const Framing& framing) {
+    if (source.framed() && framing.hop % framing.length != 0)
+        throw UsageError(source.name() + ": it is cut in frames, --hop has to be a multiple of " +
+                         std::to_string(framing.length));
+}
+
+void checkRange(std::span<const double> result, const FrameTransform& transform,
+                const std::string& name, std::uint64_t frame) {
+    if (std::ranges::all_of(result, [](double value) { return std::isfinite(value); })) return;
+    throw InputError(name + ": results of frame " + std::to_string(frame) +
+                     " are too large for " +
+                     (transform.doublePrecision() ? "double precision"
+                                                  : "single precision; see --precision"));
 }
 
 }   // namespace
 
-Samples readSamples(const std::string& path) {
-    if (path == "-") return readText(std::cin, "standard input");
-    if (auto sound = readSound(path)) return std::move(sound->samples);
-    return readTextFile(path);
-}
+void runTransform(const TransformOptions& options) {
+    const std::unique_ptr<FrameTransform> transform = makeTransform(options.choice);
+    const std::size_t length = transform->sourceSize();
+    const Framing framing{length, options.hop > 0 ? options.hop : length, options.tail};
+    const std::unique_ptr<SampleSource> source =
+        openSamples(options.input, demandOf(*transform));
+    checkHop(*source, framing);
 
-void transformFrames(const Samples& samples, const FrameTransform& transform,
-                     const Framing& framing, std::ostream& out) {
-    if (samples.empty()) throw InputError("the input has no samples");
-    const Form form = transform.resultForm();
-    if (framing.tail == Tail::drop && samples.size() < framing.length)
-        throw InputError(std::to_string(samples.size()) + " samples do not fill one frame of " +
-                         std::to_string(framing.length));
-    out << (form == Form::halfSpectrum ? "frame,bin," : "frame,index,")
-        << (form == Form::realSignal ? "value\n" : "re,im\n");
-    std::size_t frameNumber = 0;
-    const auto writeFrame = [&](std::span<const Sample> frame) {
-        std::size_t index = 0;
-        for (const Sample& value : transform(frame)) {
-            out << frameNumber << ',' << index++ << ','
-                << digits(value.real(), transform.doublePrecision());
-            if (form != Form::realSignal)
-                out << ',' << digits(value.imag(), transform.doublePrecision());
-            out << '\n';
-        }
-        ++frameNumber;
-    };
-    forEachFrame(samples, framing, writeFrame);
+    OutputFile out(options.output);
+    RowWriter rows(out, transform->resultForm(), transform->doublePrecision());
+    rows.writeHeader();
+    Framer frames(*source, framing, valuesPerSample(transform->sourceForm()));
+    std::vector<double> result(transform->resultSize() * valuesPerSample(transform->resultForm()));
+    std::uint64_t count = 0;
+    for (auto frame = frames.next(); !frame.empty(); frame = frames.next()) {
+        (*transform)(frame, result);
+        checkRange(result, *transform, source->name(), count++);
+        rows.writeFrame(result);
+    }
+    out.complete();
 }
 
 }   // namespace kfm::tool
