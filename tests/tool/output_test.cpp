@@ -1,6 +1,4 @@
 // What becomes of the output: complete or as it was before, and a status that tells.
-#include <sys/stat.h>
-
 #include "run_tool.h"
 
 namespace kfm::test {
@@ -26,7 +24,7 @@ TEST_F(Output, RunsThatFailLeaveTheOldFile) {
     std::string samples;
     for (int i = 0; i < 100000; ++i) samples += "1\n";
     const std::string text = textFile("text", samples + "x\n");
-    for (const std::string& arguments :
+    for (const std::string arguments :
          {"transform --length 2 -o out text", "transform --length 2 -o text text",
           "transform --length 2 -o out absent", "transform --length 65 -o out"}) {
         SCOPED_TRACE(arguments);
@@ -47,7 +45,7 @@ TEST_F(Output, ReplacesItsOwnInput) {
 TEST_F(Output, InterruptedRunLeavesNothing) {
     textFile("out", "old");
     const Outcome outcome =
-        shell("mkfifo fifo; sleep 60 >fifo & writer=$!\n"
+        shell("mkfifo fifo; { yes 1 | head -n 100; exec sleep 60; } >fifo & writer=$!\n"
               "\"$kfmgen\" transform --length 2 -o out fifo & tool=$!\n"
               "for i in {1..200}; do compgen -G '.kfmgen-*' && break; sleep 0.05; done\n"
               "kill $tool; wait $tool; echo $?; kill $writer; rm fifo");
@@ -103,7 +101,7 @@ TEST_F(Output, WhatCannotBeWrittenHasAStatusOfItsOwn) {
     }
     expectRefusal(run(transform + "-o /dev/full", samples), outputStatus,
                   "kfmgen: /dev/full: cannot be written: no space is left\n");
-    for (const int limit : {0, 1, 64}) {
+    for (const int limit : {1, 64}) {
         textFile("out", "old");
         expectRefusal(runLimited(limit, transform + "-o out", samples), outputStatus,
                       "kfmgen: out: cannot be written: the file would be larger than allowed\n");
@@ -125,7 +123,7 @@ TEST_F(Output, ClosedDescriptorsAreLeftAlone) {
 }
 
 TEST_F(Output, ReaderThatLeavesEndsTheRun) {
-    const std::string command = "yes 1 | \"$kfmgen\" transform --length 2";
+    const std::string command = "yes 1 2>/dev/null | \"$kfmgen\" transform --length 2";
     EXPECT_EQ(shell("set -o pipefail; " + command + " | head -n1").out, "frame,index,re,im\n");
     expectRefusal(shell("trap '' PIPE; { " + command + " 2>&3; echo $? >&4; } 3>&2 4>status | true"),
                   0, "kfmgen: standard output: cannot be written: nobody reads it\n");

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <sstream>
 
@@ -58,7 +59,15 @@ std::string ToolTest::soundFile(const std::string& name, int rate, int channels,
     info.format = format;
     SNDFILE* file = sf_open(path(name).c_str(), SFM_WRITE, &info);
     if (file == nullptr) throw std::runtime_error(sf_strerror(nullptr));
-    sf_write_double(file, samples.data(), samples.size());
+    const int encoding = format & SF_FORMAT_SUBMASK;
+    std::vector<double> values = samples;
+    if (encoding <= SF_FORMAT_PCM_32 || encoding == SF_FORMAT_PCM_U8) {
+        // libsndfile takes the largest integer for full scale, but reads the one above it as 1.
+        const int bits = encoding == SF_FORMAT_PCM_U8 ? 8 : 8 * encoding;
+        for (double& value : values) value *= std::ldexp(1.0, bits - 1);
+        sf_command(file, SFC_SET_NORM_DOUBLE, nullptr, SF_FALSE);
+    }
+    sf_write_double(file, values.data(), values.size());
     sf_close(file);
     return name;
 }

@@ -1,6 +1,6 @@
 // Where samples come from: files, pipes of every kind, devices that fail; and how much memory a long
 // signal takes.
-#include <sys/stat.h>
+#include <algorithm>
 
 #include "run_tool.h"
 
@@ -39,7 +39,7 @@ TEST_F(Pipe, InputGoesOnWhereItStands) {
 
 TEST_F(Pipe, SoundsWhoseHeaderIsInFront) {
     std::vector<double> samples;   // more than a pipe holds, and than is kept of one
-    for (int i = 0; i < 5000000; ++i) samples.push_back((i * 7919 % 65536 - 32768) / 32768.0);
+    for (int i = 0; i < 5000000; ++i) samples.push_back(i % 7919 / 16384.0);
     const std::string command = "\"$kfmgen\" transform --length 2 --hop 9999 ";
     soundFile("short.wav", 8000, 1, {samples.begin(), samples.begin() + 50000});
     soundFile("long.wav", 8000, 1, samples);

@@ -8,7 +8,7 @@ namespace kfm::tool {
 namespace {
 
 // The largest double that is rounded to a float and not to infinity.
-constexpr double singleMost = FLT_MAX * (1 + FLT_EPSILON / 4);
+constexpr double singleMost = double{FLT_MAX} * (1 + double{FLT_EPSILON} / 4);
 
 std::string counted(const ChannelsThere& there) {
     return std::to_string(there.count) + " " + there.word + (there.count == 1 ? "" : "s");
