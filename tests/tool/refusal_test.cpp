@@ -176,10 +176,21 @@ TEST_F(Refusal, Files) {
 }
 
 TEST_F(Refusal, ForbiddenFile) {
-    if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
-    std::filesystem::permissions(path(textFile("file", "1\n")), std::filesystem::perms::none);
-    expectRefusal(run("transform --length 4 file"), inputStatus,
-                  "kfmgen: file: cannot be opened: permission denied\n");
+    // Root may read everything.
+    const std::string user = geteuid() == 0 ? "setpriv --reuid 65534 --clear-groups " : "";
+    std::filesystem::permissions(path("."), std::filesystem::perms{0777});
+    if (shell(user + "\"$kfmgen\" --version").status != 0)
+        GTEST_SKIP() << "another user cannot run the program";
+    textFile("file", "1\n");
+    shell("chmod 0 file; mkdir closed; chmod 0 closed");
+    for (const std::string name : {"file", "closed/file"})
+        expectRefusal(shell(user + "\"$kfmgen\" transform --length 4 " + name), inputStatus,
+                      "kfmgen: " + name + ": cannot be opened: permission denied\n");
+    shell("echo old > out; chmod 444 out");
+    for (const std::string name : {"out", "closed/out"})
+        expectRefusal(shell(user + "\"$kfmgen\" transform --length 4 -o " + name, "1\n"),
+                      outputStatus, "kfmgen: " + name + ": cannot be written: permission denied\n");
+    EXPECT_EQ(contents("out"), "old\n");
 }
 
 TEST_F(Refusal, ValuesThatTheTransformDoesNotTake) {

@@ -127,6 +127,16 @@ TEST_F(Sound, LastSampleIsCounted) {
                   "kfmgen: more.wav: ends after 1000 samples of 1001\n");
 }
 
+// A decoder of blocks gives silence for those that are missing.
+TEST_F(Sound, MissingBlocksAreNoSilence) {
+    soundFile("whole.wav", 8000, 1, std::vector<double>(40000, 0.5),
+              SF_FORMAT_WAV | SF_FORMAT_GSM610);
+    EXPECT_EQ(run("transform --length 2 whole.wav").status, 0);
+    shell("head -c 5000 whole.wav > part.wav");
+    expectRefusal(run("transform --length 2 -o out part.wav"), inputStatus,
+                  "kfmgen: part.wav: ends after 5000 bytes, before the last of ");
+}
+
 TEST_F(Sound, WithoutAHeaderByOptionOnly) {
     const std::vector<double> samples = stereo(5000);
     const struct {
