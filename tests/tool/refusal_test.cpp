@@ -64,8 +64,8 @@ TEST_F(Refusal, Options) {
 
 TEST_F(Refusal, Text) {
     const std::string comma = "; decimals are marked by a point, not by a comma\n";
-    const std::string choose = "choose one by --channel 1 to 2, their mean by --channel mix, or two "
-                               "as a complex signal by --complex";
+    const std::string choose = "choose one by --channel 1 to 2, their mean by --channel mix, or "
+                               "two as a complex signal by --complex";
     const struct {
         std::string text;
         std::string line;   // after the name
@@ -194,11 +194,11 @@ TEST_F(Refusal, ForbiddenFile) {
 }
 
 TEST_F(Refusal, ValuesThatTheTransformDoesNotTake) {
+    const std::string complex = " takes real samples, not complex ones\n";
     expectRefusal(run("transform --length 2 --layout ccs -o out.csv", "re,im\n1,0\n0,1\n"),
-                  inputStatus,
-                  "kfmgen: standard input:3:1: DFTFwd_RToCCS takes real samples, not complex ones\n");
+                  inputStatus, "kfmgen: standard input:3:1: DFTFwd_RToCCS" + complex);
     expectRefusal(run("transform --length 2 --family DCT4", "re,im\n1,1\n"), inputStatus,
-                  "kfmgen: standard input:2:1: DCT4 takes real samples, not complex ones\n");
+                  "kfmgen: standard input:2:1: DCT4" + complex);
     // Not infinity, which could not be read back.
     expectRefusal(run("transform --length 2 -o out", "0\n0\n3e38\n3e38\n"), inputStatus,
                   "kfmgen: standard input: results of frame 1 are too large for single precision; "

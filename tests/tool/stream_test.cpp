@@ -1,5 +1,5 @@
-// Where samples come from: files, pipes of every kind, devices that fail; and how much memory a long
-// signal takes.
+// Where samples come from: files, pipes of every kind, devices that fail; and how much memory a
+// long signal takes.
 #include <algorithm>
 
 #include "run_tool.h"
@@ -57,18 +57,17 @@ TEST_F(Pipe, SoundsWhoseHeaderIsInFront) {
 
 // Programs that write a sound into a pipe do not know its length.
 TEST_F(Pipe, SoundOfUnknownLength) {
-    const std::string file = soundFile("whole.wav", 8000, 1, std::vector<double>(1000, 0.5));
-    const std::string expected = run("transform --length 1000 --family DFTFwd_CToC whole.wav").out;
-    const std::string four = run("transform --length 4 whole.wav").out;
+    soundFile("whole.wav", 8000, 1, std::vector<double>(1000, 0.5));
+    const std::string expected = run("transform --length 4 whole.wav").out;
     for (const std::string size :
-         {"\\xff\\xff\\xff\\xff", "\\xff\\xff\\xff\\x7f", "\\x00\\x00\\x00\\x80", "\\x00\\xf0\\xff\\x7f"})
+         {"\\xff\\xff\\xff\\xff", "\\xff\\xff\\xff\\x7f", "\\0\\0\\0\\x80", "\\0\\xf0\\xff\\x7f"})
         for (const std::string from : {"cat open.wav |", ""}) {
             const Outcome outcome =
                 shell("{ head -c40 whole.wav; printf '" + size + "'; tail -c+45 whole.wav; } > "
                       "open.wav; " + from + " \"$kfmgen\" transform --length 4 " +
                       (from.empty() ? "open.wav" : "-"));
             EXPECT_EQ(outcome.err, "") << size << from;
-            EXPECT_TRUE(outcome.out == four) << size << from;
+            EXPECT_TRUE(outcome.out == expected) << size << from;
         }
 }
 
@@ -81,7 +80,8 @@ TEST_F(Memory, IsThatOfAFrame) {
     EXPECT_EQ(std::ranges::count(sound.out, '\n'), 500 * 64 + 1);
     const Outcome text = shell("yes 1 | head -n 5000000 | \"$kfmgen\" transform" + hop);
     EXPECT_EQ(std::ranges::count(text.out, '\n'), 50 * 64 + 1);
-    const Outcome line = shell("head -c 100000000 /dev/zero | tr '\\0' 7 | \"$kfmgen\" transform" + hop);
+    const Outcome line =
+        shell("head -c 100000000 /dev/zero | tr '\\0' 7 | \"$kfmgen\" transform" + hop);
     expectRefusal(line, inputStatus, "standard input:1: more than 65536 characters in a line\n");
     if (KFM_SANITIZED) GTEST_SKIP() << "a sanitizer takes memory of its own";
     for (const Outcome& outcome : {sound, text, line}) EXPECT_LT(outcome.peakKiB, 64 << 10);

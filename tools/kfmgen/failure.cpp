@@ -58,7 +58,9 @@ std::string reason(int error) {
     }
 }
 
-std::string displayed(const std::string& path) { return path.empty() ? "''" : shortened(path, 200); }
+std::string displayed(const std::string& path) {
+    return path.empty() ? "''" : shortened(path, 200);
+}
 
 std::string inQuotes(std::string_view words) { return "'" + shortened(words, 40) + "'"; }
 

@@ -66,7 +66,8 @@ public:
     const std::string& name() const { return name_; }   // as messages call it
 
 protected:
-    SampleSource(std::string name, const Demand& demand) : name_(std::move(name)), demand_(demand) {}
+    SampleSource(std::string name, const Demand& demand)
+        : name_(std::move(name)), demand_(demand) {}
 
     const Demand& demand() const { return demand_; }
 

@@ -14,7 +14,7 @@ namespace {
 // Longer than any file, and no count of bits overflows.
 constexpr sf_count_t endless = sf_count_t{1} << 56;
 
-// What libsndfile is told of the length of the file; nothing of a pipe whose sound it could not read
+// What libsndfile is told of the length of the file; nothing of a pipe whose sound it cannot read
 // from front to back.
 std::optional<sf_count_t> lengthTold(InputFile& file, bool raw) {
     char bytes[12];
@@ -144,10 +144,10 @@ void SoundFile::checkEnd() const {
     if (sf_error(handle_.get()) != SF_ERR_NO_ERROR) fail("damaged " + after);
     if (openEnded()) return;
     const std::string promised = std::to_string(info_.frames);
-    if (count_ < info_.frames) fail("ends " + after + " of " + promised);
     if (samplesMadeUp())
         fail("ends after " + std::to_string(file.position()) + " bytes, before the last of " +
              promised + " samples");
+    if (count_ < info_.frames) fail("ends " + after + " of " + promised);
 }
 
 void SoundFile::fail(const std::string& what) const {

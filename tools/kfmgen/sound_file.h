@@ -1,5 +1,5 @@
-// libsndfile over an InputFile. Where a header tells how long the sound is, libsndfile takes the file
-// for endless: otherwise it would cut that length to what is there and say nothing.
+// libsndfile over an InputFile. Where a header tells how long the sound is, libsndfile takes the
+// file for endless: otherwise it would cut that length to what is there and say nothing.
 #pragma once
 
 #include <sndfile.h>
