@@ -55,6 +55,16 @@ TEST_F(Pipe, SoundsWhoseHeaderIsInFront) {
     }
 }
 
+// A picture before the samples is passed over.
+TEST_F(Pipe, SoundWithALongHeader) {
+    soundFile("plain.wav", 8000, 1, std::vector<double>(1000, 0.5));
+    shell("{ head -c36 plain.wav; printf 'LIST\\0\\0\\x20\\0'; head -c2097152 /dev/zero; "
+          "tail -c+37 plain.wav; } > picture.wav");
+    const std::string expected = run("transform --length 4 plain.wav").out;
+    EXPECT_TRUE(run("transform --length 4 picture.wav").out == expected);
+    EXPECT_TRUE(shell("cat picture.wav | \"$kfmgen\" transform --length 4").out == expected);
+}
+
 // Programs that write a sound into a pipe do not know its length.
 TEST_F(Pipe, SoundOfUnknownLength) {
     soundFile("whole.wav", 8000, 1, std::vector<double>(1000, 0.5));
