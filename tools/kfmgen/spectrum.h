@@ -1,4 +1,4 @@
-// `kfmgen spectrum`: the strongest frequencies of a sound, slice by slice.
+// `kfmgen spectrum`: the tones of a sound over time.
 #pragma once
 
 #include <ostream>

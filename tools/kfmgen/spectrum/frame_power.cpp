@@ -1,0 +1,67 @@
+#include "frame_power.h"
+
+#include <algorithm>
+#include <cmath>
+#include <new>
+#include <numeric>
+#include <stdexcept>
+
+#include "window.h"
+
+namespace kfm::tool {
+namespace {
+
+// That of the largest sample, within what leaves its reciprocal finite.
+int commonExponent(std::span<const double> samples) {
+    double largest = 0;
+    for (const double sample : samples) largest = std::max(largest, std::abs(sample));
+    int exponent;
+    std::frexp(largest, &exponent);
+    return std::max(exponent, -1000);
+}
+
+}   // namespace
+
+FramePower::FramePower(std::size_t bins) : ahead_(bins), reversed_(bins) {
+    KfmDCT4Spec_64f* plan = nullptr;
+    const KfmStatus status = kfmgDCT4InitAlloc_64f(&plan, static_cast<int>(bins));
+    if (status == kfmErrNullPtr) throw std::bad_alloc();
+    if (status != kfmOk) throw std::logic_error("no DCT-IV of this length");
+    plan_.reset(plan);
+}
+
+void FramePower::setWindow(std::size_t length) {
+    window_ = window::weights(length);
+    const double gain = std::accumulate(window_.begin(), window_.end(), 0.0) / 2;
+    for (double& weight : window_) weight /= gain;
+}
+
+// Differences to the first sample, so that the mean of a constant is exact.
+void FramePower::windowed(std::span<const double> samples, double scale) {
+    const double first = samples.front() * scale;
+    double sum = 0;
+    for (std::size_t n = 0; n < samples.size(); ++n) {
+        ahead_[n] = samples[n] * scale - first;
+        sum += window_[n] * ahead_[n];
+    }
+    const double mean = sum / 2;
+    for (std::size_t n = 0; n < samples.size(); ++n) {
+        ahead_[n] = (ahead_[n] - mean) * window_[n];
+        reversed_[reversed_.size() - 1 - n] = ahead_[n];
+    }
+}
+
+FramePowers FramePower::operator()(std::span<const double> samples) {
+    if (samples.size() != window_.size()) setWindow(samples.size());
+    std::fill(ahead_.begin() + samples.size(), ahead_.end(), 0);
+    std::fill(reversed_.begin(), reversed_.end() - samples.size(), 0);
+    const int exponent = commonExponent(samples);
+    windowed(samples, std::ldexp(1.0, -exponent));
+    kfmgDCT4_64f(ahead_.data(), ahead_.data(), plan_.get());
+    kfmgDCT4_64f(reversed_.data(), reversed_.data(), plan_.get());
+    for (std::size_t k = 0; k < ahead_.size(); ++k)
+        ahead_[k] = ahead_[k] * ahead_[k] + reversed_[k] * reversed_[k];
+    return {ahead_, exponent};
+}
+
+}   // namespace kfm::tool

@@ -1,0 +1,45 @@
+// The power spectrum of one frame of real samples, by the DCT-IV of the library.
+//
+// The DCT-IV of a frame is its spectrum's cosine part, that of the reversed frame its sine part but
+// for the sign; the sum of their squares is the power, whatever the phase.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "kfmgen.h"
+
+namespace kfm::tool {
+
+// Powers in units of 4^exponent, so that no square overflows: 1 is a sine of amplitude
+// 2^exponent.
+struct FramePowers {
+    std::span<const double> bins;
+    int exponent;
+};
+
+class FramePower {
+public:
+    // `bins` is a length of the DCT-IV.
+    explicit FramePower(std::size_t bins);
+
+    // Of at least one and at most `bins` finite samples, under a window of as many, without their
+    // mean. Valid until the next call.
+    FramePowers operator()(std::span<const double> samples);
+
+private:
+    struct Free {
+        void operator()(KfmDCT4Spec_64f* plan) const { kfmgDCT4Free_64f(plan); }
+    };
+
+    void setWindow(std::size_t length);
+    void windowed(std::span<const double> samples, double scale);
+
+    std::unique_ptr<KfmDCT4Spec_64f, Free> plan_;
+    std::vector<double> window_;   // a sine of amplitude 1 has power 1 under it
+    std::vector<double> ahead_;
+    std::vector<double> reversed_;
+};
+
+}   // namespace kfm::tool
