@@ -2,12 +2,12 @@
 // rates, places and loudnesses.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "sounds.h"
 #include "spectrum/analysis.h"
 #include "spectrum/peaks.h"
-#include "spectrum/window.h"
 
 namespace kfm::test {
 namespace {
@@ -107,6 +107,7 @@ TEST(SpectrumAnalysis, ConstantIsTheMeanAndNoTone) {
             const Analysed found = analysed(48000, std::vector<double>(count, constant));
             EXPECT_EQ(found.whole.mean, constant);
             EXPECT_EQ(found.whole.level, silent);
+            EXPECT_EQ(std::ranges::count(found.levels, silent), std::ssize(found.levels));
             EXPECT_TRUE(found.whole.peaks.empty());
             EXPECT_EQ(found.whole.samples, count);
         }
@@ -238,6 +239,44 @@ TEST(SpectrumAnalysis, SlicesFitAScreen) {
         }
         EXPECT_EQ(count, samples.size());
     }
+}
+
+TEST(SpectrumAnalysis, ToneOfAMomentCountsInTheWhole) {
+    const double rate = 8000;
+    for (const double at : {0.0, 1.0, 13.7, 29.5}) {
+        SCOPED_TRACE(at);
+        std::vector<double> samples(30 * rate);
+        std::ranges::copy(tones(rate, rate / 2, {{1000, 0}}), samples.begin() + at * rate);
+        const Analysed found = analysed(rate, samples);
+        const double share = 10 * std::log10(0.5 / 30);
+        EXPECT_NEAR(found.whole.level, share, 0.01);
+        ASSERT_FALSE(found.whole.peaks.empty());
+        // A frame reaches beyond the tone, which widens its peak; the first and last weigh more.
+        EXPECT_NEAR(found.whole.peaks.front().decibels, share, 2.5);
+    }
+}
+
+// What rises again by less than 3 dB on the side of something higher is no peak, on either side.
+TEST(SpectrumAnalysis, ShoulderIsNoPeak) {
+    const FrequencyGrid grid{256, 256, 256};
+    for (const double dip : {0.3, 0.6})
+        for (const int side : {-1, 1}) {
+            std::vector<double> bins(256, 1e-20);
+            bins[100] = 1;
+            bins[100 + side] = dip;
+            bins[100 + 2 * side] = 0.8;
+            tool::PowerSpectrum spectrum;
+            spectrum.add({bins, 0}, 1);
+            EXPECT_EQ(strongestPeaks(spectrum, grid, 10).size(), dip < 0.4 ? 2u : 1u);
+        }
+}
+
+TEST(SpectrumAnalysis, ShortFrameAfterALongOne) {
+    tool::FramePower used(256), fresh(256);
+    const std::vector<double> noise = whiteNoise(256);
+    used(noise);
+    const std::span<const double> few = std::span(noise).first(100);
+    EXPECT_TRUE(std::ranges::equal(used(few).bins, fresh(few).bins));
 }
 
 TEST(SpectrumAnalysis, BlocksDoNotMatter) {

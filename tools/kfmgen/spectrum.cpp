@@ -12,8 +12,8 @@ constexpr std::size_t blockSamples = 4096;
 
 std::string channelWords(const SampleSource& source, const Channels& chosen) {
     if (source.channels() == 1) return "one channel";
-    const std::string all = std::to_string(source.channels()) + " channels";
-    if (chosen.use == Channels::Use::mix) return "mean of " + all;
+    const std::string all = std::to_string(source.channels());
+    if (chosen.use == Channels::Use::mix) return "mean of " + all + " channels";
     return "channel " + std::to_string(chosen.number) + " of " + all;
 }
 

@@ -14,7 +14,7 @@ inline constexpr const char* name = "Blackman-Harris";
 inline constexpr std::array terms = {0.35875, -0.48829, 0.14128, -0.01168};
 inline constexpr double sidelobes = -92;   // dB
 
-// Between the samples that the DCT-IV is symmetrical about, so that reversal leaves it as it is.
+// At the middles of `length` equal parts, so that the window of one sample is 1.
 inline std::vector<double> weights(std::size_t length) {
     std::vector<double> weights(length);
     for (std::size_t n = 0; n < length; ++n)
