@@ -11,6 +11,7 @@ public:
     // `visit` is given each slice of `sliceSeconds`, see Slices, and the grid of its spectrum.
     using Visit = std::function<void(const Slice&, const FrequencyGrid&)>;
     SpectrumAnalysis(double rate, double sliceSeconds, Visit visit);
+    SpectrumAnalysis(const SpectrumAnalysis&) = delete;   // its parts call one another
 
     void add(std::span<const double> samples);   // finite, full scale is 1
     void finish();

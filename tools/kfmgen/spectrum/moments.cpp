@@ -1,5 +1,6 @@
 #include "moments.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kfm::tool {

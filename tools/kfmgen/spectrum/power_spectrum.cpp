@@ -32,7 +32,8 @@ void PowerSpectrum::add(const PowerSpectrum& other) {
 }
 
 double PowerSpectrum::decibels(double power) const {
-    return 10 * std::log10(power / weight_) + 20 * std::numbers::ln2 / std::numbers::ln10 * exponent_;
+    constexpr double perOctave = 20 * std::numbers::ln2 / std::numbers::ln10;
+    return 10 * std::log10(power / weight_) + perOctave * exponent_;
 }
 
 }   // namespace kfm::tool

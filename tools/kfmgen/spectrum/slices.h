@@ -2,6 +2,7 @@
 // without knowing beforehand how long the stream is.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
