@@ -66,10 +66,11 @@ INSTANTIATE_TEST_SUITE_P(, ShortLengths, testing::ValuesIn(writtenOut()), caseNa
 // among them, whose sums cancel.
 std::vector<Signal> signedZeros(const Transform& transform) {
     const std::size_t reals = transform.sourceReals();
+    const std::size_t free = std::min<std::size_t>(reals, 10);
     std::vector<Signal> signals;
-    for (unsigned bits = 0; bits < 1u << std::min<std::size_t>(reals, 10); ++bits) {
-        Signal& signal = signals.emplace_back(reals);
-        for (std::size_t i = 0; i < reals; ++i) signal[i] = bits >> i & 1 ? -0.0 : 0.0;
+    for (unsigned bits = 0; bits < 1u << free; ++bits) {
+        Signal& signal = signals.emplace_back(reals, 0.0);
+        for (std::size_t i = 0; i < free; ++i) signal[i] = bits >> i & 1 ? -0.0 : 0.0;
     }
     Random random(testSeed());
     for (int round = 0; round < 400; ++round) {
