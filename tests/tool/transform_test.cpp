@@ -1,5 +1,6 @@
 // info, list and transform: small transforms known by heart, frames, every form of samples.
 #include <algorithm>
+#include <sstream>
 
 #include "kfmgen.h"
 #include "run_tool.h"
@@ -220,6 +221,12 @@ TEST_F(Listing, NamesTheLibraryAndItsFamilies) {
                   "WHT             2..8192   32f, 64f; powers of two, orders 1..13\n"),
               std::string::npos);
     EXPECT_NE(run("list").out.find("DCT4            2..134217729"), std::string::npos);
+    for (const std::string help : {"--help", "transform --help", "spectrum --help"}) {
+        const std::string page = run(help).out;
+        EXPECT_NE(page.find("\n  4  the output cannot be written\n"), std::string::npos) << page;
+        std::istringstream lines(page);
+        for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 80u) << line;
+    }
     const KfmLibraryVersion& version = *kfmgenGetLibVersion();
     EXPECT_EQ(run("--version").out, "kfmgen " + std::to_string(version.versionMajor) + "." +
                                         std::to_string(version.versionMinor) + "\n");

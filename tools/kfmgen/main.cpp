@@ -19,7 +19,7 @@ namespace {
 
 void addTransform(CLI::App& app, TransformOptions& options) {
     CLI::App& command = *app.add_subcommand(
-        "transform", "Apply a transform to successive frames of a signal; CSV out");
+        "transform", "Transform successive frames of a signal; CSV out");
     addInput(command, options.input,
              "sound, or text with a sample per line; standard input if not given or -. The inverse "
              "real DFT takes bins 0 to length/2 of each frame");
@@ -58,7 +58,7 @@ void addTransform(CLI::App& app, TransformOptions& options) {
 
 void addSpectrum(CLI::App& app, InputOptions& input, double& slice, std::ostream& out) {
     CLI::App& command =
-        *app.add_subcommand("spectrum", "Show the strongest frequencies of a sound over time");
+        *app.add_subcommand("spectrum", "Show the strongest tones of a sound over time");
     addInput(command, input, "sound; standard input if not given or -");
     addNumber(command, "--slice", slice, 0.01, 3600, "seconds per row; fits a screen if not given");
     command.callback([&] { showSpectrum(input, slice, out); });
@@ -103,6 +103,7 @@ void run(int argc, char** argv) {
     addListings(app, names, page);
     addTransform(app, transform);
     addSpectrum(app, sound, slice, page);
+    for (CLI::App* command : app.get_subcommands({})) foldHelp(*command);
     parse(app, argc, argv, page);
 
     OutputFile out("-");

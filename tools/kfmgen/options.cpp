@@ -24,6 +24,19 @@ Channels channelsNamed(const std::string& name, const std::string& word) {
     return {Channels::Use::one, static_cast<int>(number)};
 }
 
+std::string folded(const std::string& text, std::size_t width) {
+    std::istringstream words(text);
+    std::string result, line;
+    for (std::string word; words >> word;) {
+        if (!line.empty() && line.size() + 1 + word.size() > width) {
+            result += line + '\n';
+            line.clear();
+        }
+        line += (line.empty() ? "" : " ") + word;
+    }
+    return result + line;
+}
+
 }   // namespace
 
 CLI::Option* addNumber(CLI::App& command, const std::string& name, int& value, int least, int most,
@@ -62,15 +75,26 @@ void addInput(CLI::App& command, InputOptions& input, const std::string& help) {
         ->excludes(channel);
 
     std::map<std::string, std::string> encodings;
-    for (const std::string& encoding : rawEncodings()) encodings[encoding] = encoding;
+    std::string list;
+    for (const std::string& encoding : rawEncodings()) {
+        encodings[encoding] = encoding;
+        list += " " + encoding;
+    }
     CLI::Option* raw =
         addChoice<std::string>(command, "--raw", input.raw.encoding, encodings,
-                               "the input is sound without a header, in this encoding");
+                               "the input is sound without a header, in one of the encodings" + list)
+            ->type_name("ENCODING");
     addNumber(command, "--raw-channels", input.raw.channels, 1, 1024, "1 if not given")
         ->needs(raw);
     addNumber(command, "--raw-rate", input.raw.rate, 1, std::numeric_limits<int>::max(),
               "samples per second, 44100 if not given")
         ->needs(raw);
+}
+
+void foldHelp(CLI::App& command) {
+    const std::size_t left = command.get_formatter()->get_column_width();
+    for (CLI::Option* option : command.get_options())
+        option->description(folded(option->get_description(), 79 - left));
 }
 
 }   // namespace kfm::tool

@@ -34,4 +34,7 @@ CLI::Option* addChoice(CLI::App& command, const std::string& name, Variable& val
 // The options that say what is read and how; `help` is that of the file.
 void addInput(CLI::App& command, InputOptions& input, const std::string& help);
 
+// Breaks what the options say of themselves into lines for a terminal of 80 columns.
+void foldHelp(CLI::App& command);
+
 }   // namespace kfm::tool
