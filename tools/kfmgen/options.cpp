@@ -82,7 +82,7 @@ void addInput(CLI::App& command, InputOptions& input, const std::string& help) {
     }
     CLI::Option* raw =
         addChoice<std::string>(command, "--raw", input.raw.encoding, encodings,
-                               "the input is sound without a header, in one of the encodings" + list)
+                               "the input is sound without a header, encoded as" + list)
             ->type_name("ENCODING");
     addNumber(command, "--raw-channels", input.raw.channels, 1, 1024, "1 if not given")
         ->needs(raw);
