@@ -105,11 +105,10 @@ TEST_F(Transform, FlagsOfEveryFamily) {
     };
     for (const auto& [family, impulse, fwdByN, invByN] : cases)
         for (const std::string precision : {"single", "double"}) {
-            const auto first = [&](const std::string& flag) {
-                const std::string out = run("transform --length 4 --family " + family +
-                                                " --precision " + precision + " --flag " + flag,
-                                            impulse)
-                                            .out;
+            const std::string arguments =
+                "transform --length 4 --family " + family + " --precision " + precision + " --flag ";
+            const auto first = [&, input = impulse](const std::string& flag) {
+                const std::string out = run(arguments + flag, input).out;
                 const std::size_t begin = out.find("\n0,0,") + 5;
                 return out.substr(begin, out.find_first_of(",\n", begin) - begin);
             };
