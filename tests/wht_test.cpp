@@ -124,9 +124,9 @@ TEST_P(Wht, WorksInABlockOfItsOwnUntilTheLastStore) {
                 EXPECT_TRUE(finished());
                 EXPECT_FALSE(early) << "released before the last store";
                 EXPECT_EQ(allocatorRecord(), blocks(1));
+                resetAllocatorRecord();   // the watch on this call's values ends with them
             }
     }
-    resetAllocatorRecord();
 }
 
 TEST_P(Wht, AllocatesNothingForARefusedCall) {
