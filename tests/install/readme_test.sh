@@ -12,7 +12,10 @@ build=$2
 scratch=$3
 unset DESTDIR CXX MAKEFLAGS MFLAGS MAKELEVEL PKG_CONFIG_PATH LD_LIBRARY_PATH
 rm -rf "$scratch"
-mkdir -p "$scratch/bin" "$scratch/home" "$scratch/work"
+mkdir -p "$scratch/bin" "$scratch/work"
+# The flags that pkg-config prints are words of a command: no space can be in where they point to.
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
 
 cat > "$scratch/bin/make" <<MAKE
 #!/bin/sh
@@ -53,4 +56,4 @@ grep -oE '(\]\(|^\| `)[^`)]+' "$source/README.md" | sed 's/^](//; s/^| `//' |
     while read -r path; do echo "test -e \"$source/$path\""; done >> "$scratch/script"
 
 cd "$scratch/work"
-HOME=$scratch/home PATH=$scratch/bin:$PATH sh -eux "$scratch/script"
+HOME=$home PATH=$scratch/bin:$PATH sh -eux "$scratch/script"
