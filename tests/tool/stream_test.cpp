@@ -100,12 +100,12 @@ TEST_F(Memory, IsThatOfAFrame) {
 // `limit` bytes are read, then the device fails.
 class FailingRead : public ToolTest {
 protected:
-    // A space would end the name of what is loaded first.
+    // In the folder of the test: a space would end the name of what is loaded first.
     FailingRead() { std::filesystem::create_symlink(KFM_FAILING_READ, path("failing_read.so")); }
 
     Outcome run(int limit, const std::string& arguments) const {
         return shell("KFM_READ_LIMIT=" + std::to_string(limit) +
-                     " LD_PRELOAD='" + path("failing_read.so") + "' \"$kfmgen\" " + arguments);
+                     " LD_PRELOAD=./failing_read.so \"$kfmgen\" " + arguments);
     }
 };
 
