@@ -1,34 +1,14 @@
 #include "planned_transform.h"
 
 #include <algorithm>
-#include <new>
 #include <stdexcept>
 #include <vector>
 
+#include "dct4_plan.h"
 #include "failure.h"
-#include "kfmgen.h"
 
 namespace kfm::tool {
 namespace {
-
-template <class Real>
-struct Calls;
-template <>
-struct Calls<Kfm32f> {
-    using Spec = KfmDCT4Spec_32f;
-    static constexpr auto getSize = kfmgDCT4GetSize_32f;
-    static constexpr auto initAlloc = kfmgDCT4InitAlloc_32f;
-    static constexpr auto free = kfmgDCT4Free_32f;
-    static constexpr auto transform = kfmgDCT4_32f;
-};
-template <>
-struct Calls<Kfm64f> {
-    using Spec = KfmDCT4Spec_64f;
-    static constexpr auto getSize = kfmgDCT4GetSize_64f;
-    static constexpr auto initAlloc = kfmgDCT4InitAlloc_64f;
-    static constexpr auto free = kfmgDCT4Free_64f;
-    static constexpr auto transform = kfmgDCT4_64f;
-};
 
 // Lengths lie at powers of two and right above them; which of these, the library tells.
 template <class Real>
@@ -37,7 +17,7 @@ std::vector<int> acceptedLengths() {
     for (int exponent = 1; exponent < 31; ++exponent)
         for (const int length : {1 << exponent, (1 << exponent) + 1}) {
             int size;
-            if (Calls<Real>::getSize(length, &size) == kfmOk) lengths.push_back(length);
+            if (Dct4Calls<Real>::getSize(length, &size) == kfmOk) lengths.push_back(length);
         }
     return lengths;
 }
@@ -57,12 +37,8 @@ template <class Real>
 template <class Real>
 class PlannedTransform : public FrameTransform {
 public:
-    explicit PlannedTransform(int length) {
-        typename Calls<Real>::Spec* spec = nullptr;
-        const KfmStatus status = Calls<Real>::initAlloc(&spec, length);
-        if (status == kfmErrSize) refuse<Real>(length);
-        if (status != kfmOk) throw std::bad_alloc();
-        spec_.reset(spec);
+    explicit PlannedTransform(int length) : plan_(length) {
+        if (!plan_) refuse<Real>(length);
         data_.resize(length);
     }
 
@@ -76,18 +52,15 @@ public:
     void operator()(std::span<const double> source, std::span<double> result) override {
         std::ranges::transform(source, data_.begin(),
                                [](double value) { return static_cast<Real>(value); });
-        if (Calls<Real>::transform(data_.data(), data_.data(), spec_.get()) != kfmOk)
+        if (plan_.transform(data_.data(), data_.data()) != kfmOk)
             throw std::logic_error("the library refused a plan of its own");
         std::ranges::copy(data_, result.begin());
     }
 
 private:
-    struct Free {
-        void operator()(typename Calls<Real>::Spec* spec) const { Calls<Real>::free(spec); }
-    };
     std::string name_{plannedFamily};
+    Dct4Plan<Real> plan_;
     std::vector<Real> data_;
-    std::unique_ptr<typename Calls<Real>::Spec, Free> spec_;
 };
 
 }   // namespace

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <new>
 #include <numeric>
 #include <stdexcept>
 
@@ -22,12 +21,9 @@ int commonExponent(std::span<const double> samples) {
 
 }   // namespace
 
-FramePower::FramePower(std::size_t bins) : ahead_(bins), reversed_(bins) {
-    KfmDCT4Spec_64f* plan = nullptr;
-    const KfmStatus status = kfmgDCT4InitAlloc_64f(&plan, static_cast<int>(bins));
-    if (status == kfmErrNullPtr) throw std::bad_alloc();
-    if (status != kfmOk) throw std::logic_error("no DCT-IV of this length");
-    plan_.reset(plan);
+FramePower::FramePower(std::size_t bins)
+    : plan_(static_cast<int>(bins)), ahead_(bins), reversed_(bins) {
+    if (!plan_) throw std::logic_error("no DCT-IV of this length");
 }
 
 void FramePower::setWindow(std::size_t length) {
@@ -57,8 +53,8 @@ FramePowers FramePower::operator()(std::span<const double> samples) {
     std::fill(reversed_.begin(), reversed_.end() - samples.size(), 0);
     const int exponent = commonExponent(samples);
     windowed(samples, std::ldexp(1.0, -exponent));
-    kfmgDCT4_64f(ahead_.data(), ahead_.data(), plan_.get());
-    kfmgDCT4_64f(reversed_.data(), reversed_.data(), plan_.get());
+    plan_.transform(ahead_.data(), ahead_.data());
+    plan_.transform(reversed_.data(), reversed_.data());
     for (std::size_t k = 0; k < ahead_.size(); ++k)
         ahead_[k] = ahead_[k] * ahead_[k] + reversed_[k] * reversed_[k];
     return {ahead_, exponent};

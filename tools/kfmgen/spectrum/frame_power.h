@@ -4,11 +4,10 @@
 // for the sign; the sum of their squares is the power, whatever the phase.
 #pragma once
 
-#include <memory>
 #include <span>
 #include <vector>
 
-#include "kfmgen.h"
+#include "dct4_plan.h"
 
 namespace kfm::tool {
 
@@ -29,14 +28,10 @@ public:
     FramePowers operator()(std::span<const double> samples);
 
 private:
-    struct Free {
-        void operator()(KfmDCT4Spec_64f* plan) const { kfmgDCT4Free_64f(plan); }
-    };
-
     void setWindow(std::size_t length);
     void windowed(std::span<const double> samples, double scale);
 
-    std::unique_ptr<KfmDCT4Spec_64f, Free> plan_;
+    Dct4Plan<Kfm64f> plan_;
     std::vector<double> window_;   // a sine of amplitude 1 has power 1 under it
     std::vector<double> ahead_;
     std::vector<double> reversed_;
