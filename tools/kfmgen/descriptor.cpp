@@ -14,6 +14,11 @@ Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
     return *this;
 }
 
+// Above the standard ones, whose numbers mean something to others.
+Descriptor Descriptor::copyOf(int number) {
+    return Descriptor(::fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+}
+
 int Descriptor::close() {
     const int number = std::exchange(number_, -1);
     return number >= 0 && ::close(number) != 0 ? errno : 0;

@@ -13,6 +13,9 @@ public:
     Descriptor& operator=(Descriptor&& other) noexcept;
     ~Descriptor() { close(); }
 
+    // Another descriptor of what `number` is open for; none when it is closed.
+    static Descriptor copyOf(int number);
+
     int number() const { return number_; }
     explicit operator bool() const { return number_ >= 0; }
     int close();   // the errno of a failure, else 0

@@ -17,8 +17,8 @@ constexpr std::size_t keptMost = 8 << 20;
 
 Descriptor opened(const std::string& path) {
     const int number = path == "-" ? STDIN_FILENO : numberInName(path);
-    return Descriptor(number >= 0 ? ::fcntl(number, F_DUPFD_CLOEXEC, 3)
-                                  : ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
+    if (number >= 0) return Descriptor::copyOf(number);
+    return Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
 }
 
 }   // namespace

@@ -63,7 +63,7 @@ OutputFile::OutputFile(const std::string& path)
     const int number = path == "-" ? STDOUT_FILENO : numberInName(path);
     const bool exists = number < 0 && ::stat(path.c_str(), &old) == 0;
     if (number >= 0)
-        descriptor_ = Descriptor(::fcntl(number, F_DUPFD_CLOEXEC, 3));
+        descriptor_ = Descriptor::copyOf(number);
     else if (exists && S_ISDIR(old.st_mode))
         fail(EISDIR);
     else if (exists && !S_ISREG(old.st_mode))

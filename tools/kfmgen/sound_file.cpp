@@ -87,7 +87,7 @@ SF_VIRTUAL_IO SoundFile::calls = {
     [](void* data) -> sf_count_t { return static_cast<Stream*>(data)->file.position(); },
 };
 
-SoundFile::Silence::Silence() : saved_(::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
+SoundFile::Silence::Silence() : saved_(Descriptor::copyOf(STDERR_FILENO)) {
     const Descriptor null(::open("/dev/null", O_WRONLY | O_CLOEXEC));
     if (saved_ && null) ::dup2(null.number(), STDERR_FILENO);
 }

@@ -4,8 +4,8 @@
 // names are channels. So the tool reads its own output.
 #pragma once
 
-#include "sample_source.h"
 #include "input_file.h"
+#include "sample_source.h"
 
 namespace kfm::tool {
 
