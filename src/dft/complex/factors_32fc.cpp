@@ -18,8 +18,8 @@ SinglePrecisionRow singlePrecisionRow(int n) {
     static const Plan nine = ct(3, 3), fifteen = ct(3, 5), twentySeven = ct(3, nine);
     static const Plan thirteen = rader(pfa(4, 3)), seventeen = rader(ct(4, 4), 3, 1);
     static const Plan twentyNine = rader(pfa(4, 7)), thirtyOne = rader(pfa(2, pfa(3, 5)));
-    // 24, 40, 48 and 56 as 8 x 3, 8 x 5, 16 x 3 and 8 x 7 leave lanes empty: 7 to 25 % more operations,
-    // at their best schedules 1.09 to 1.48 times the time of these rows.
+    // 24, 40, 48 and 56 as 8 x 3, 8 x 5, 16 x 3 and 8 x 7 leave lanes empty: 7 to 25 % more
+    // operations, at their best schedules 1.09 to 1.48 times the time of these rows.
     static const std::map<int, SinglePrecisionRow> table = {
         {2, {2, element}},
         {3, {3, element}},
