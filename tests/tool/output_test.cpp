@@ -6,7 +6,7 @@ namespace {
 
 class Output : public ToolTest {
 protected:
-    static constexpr const char* rows = "frame,index,re,im\n0,0,3,0\n0,1,-1,0\n";
+    static inline const std::string rows = "frame,index,re,im\n0,0,3,0\n0,1,-1,0\n";
 
     // Under `limit` blocks of 512 bytes a file, which fails as a full disk does.
     Outcome runLimited(int limit, const std::string& arguments, const std::string& input) const {
@@ -21,8 +21,7 @@ protected:
 using std::filesystem::perms;
 
 TEST_F(Output, RunsThatFailLeaveTheOldFile) {
-    std::string samples;
-    for (int i = 0; i < 100000; ++i) samples += "1\n";
+    const std::string samples = ones(100000);
     const std::string text = textFile("text", samples + "x\n");
     for (const std::string arguments :
          {"transform --length 2 -o out text", "transform --length 2 -o text text",
@@ -78,7 +77,7 @@ TEST_F(Output, DevicesAndPipesAreWrittenAsTheyStand) {
     EXPECT_EQ(run("transform --length 2 -o /dev/stdout", "1\n2\n").out, rows);
     EXPECT_EQ(run("transform --length 2 -o -", "1\n2\n").out, rows);
     shell("echo first > all; \"$kfmgen\" transform --length 2 -o /dev/stdout >> all", "1\n2\n");
-    EXPECT_EQ(contents("all"), std::string("first\n") + rows);
+    EXPECT_EQ(contents("all"), "first\n" + rows);
     EXPECT_EQ(shell("mkfifo fifo; cat fifo & \"$kfmgen\" transform --length 2 -o fifo; wait",
                     "1\n2\n")
                   .out,
@@ -86,8 +85,7 @@ TEST_F(Output, DevicesAndPipesAreWrittenAsTheyStand) {
 }
 
 TEST_F(Output, WhatCannotBeWrittenHasAStatusOfItsOwn) {
-    std::string samples;
-    for (int i = 0; i < 100000; ++i) samples += "1\n";
+    const std::string samples = ones(100000);
     const std::string transform = "transform --length 2 ";
     for (const std::string& command : {std::string("list"), std::string("list --names"),
                                        std::string("info"), std::string("--help"),

@@ -44,6 +44,13 @@ private:
     std::filesystem::path folder_;
 };
 
+// A text of so many samples.
+inline std::string ones(int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += "1\n";
+    return text;
+}
+
 // Statuses of the program.
 constexpr int faultStatus = 1, usageStatus = 2, inputStatus = 3, outputStatus = 4;
 

@@ -36,7 +36,7 @@ protected:
         return lines;
     }
 
-    static constexpr const char* transform = "transform --family Hartley --length 2 ";
+    static inline const std::string transform = "transform --family Hartley --length 2 ";
 };
 
 // Far beyond the blocks in which a sound is read.
@@ -49,8 +49,8 @@ TEST_F(Sound, ChannelsOfStereo) {
     } cases[] = {{"--channel 1 ", 1, 0}, {"--channel 2 ", 0, 1}, {"--channel mix ", 0.5, 0.5}};
     for (const auto& [option, left, right] : cases) {
         textFile("text", text(samples, left, right));
-        EXPECT_TRUE(run(std::string(transform) + option + file).out ==
-                    run(std::string(transform) + "text").out)
+        EXPECT_TRUE(run(transform + option + file).out ==
+                    run(transform + "text").out)
             << option;
     }
     std::string pairs = "re,im\n";
@@ -98,7 +98,7 @@ TEST_F(Sound, TruncatedFilesAreTold) {
     };
     for (const auto& [name, format] : kinds) {
         soundFile("whole", 8000, 2, samples, format);
-        const std::string command = std::string(transform) + "--channel 1 ";
+        const std::string command = transform + "--channel 1 ";
         const Outcome whole = run(command + "whole");
         EXPECT_EQ(std::ranges::count(whole.out, '\n'), 60001) << name << whole.err;
         for (const int permille : {2, 100, 500, 999}) {
@@ -141,7 +141,7 @@ TEST_F(Sound, MissingBlocksAreNoSilence) {
 TEST_F(Sound, WithoutAHeaderByOptionOnly) {
     const std::vector<double> samples = stereo(5000);
     textFile("text", text(samples, 0, 1));
-    const std::string expected = run(std::string(transform) + "text").out;
+    const std::string expected = run(transform + "text").out;
     const auto expectSame = [&](const std::string& name, int encoding) {
         soundFile("data.raw", 8000, 2, samples, SF_FORMAT_RAW | encoding);
         const std::string options = "--raw " + name + " --raw-channels 2 --channel 2 ";
@@ -160,8 +160,8 @@ TEST_F(Sound, WithoutAHeaderByOptionOnly) {
         expectSame(width + "be", encoding | SF_ENDIAN_BIG);
     }
     soundFile("laws", 8000, 1, {0.5, -0.25}, SF_FORMAT_RAW | SF_FORMAT_ULAW);
-    EXPECT_EQ(std::ranges::count(run(std::string(transform) + "--raw ulaw laws").out, '\n'), 3);
-    EXPECT_EQ(std::ranges::count(run(std::string(transform) + "--raw alaw laws").out, '\n'), 3);
+    EXPECT_EQ(std::ranges::count(run(transform + "--raw ulaw laws").out, '\n'), 3);
+    EXPECT_EQ(std::ranges::count(run(transform + "--raw alaw laws").out, '\n'), 3);
 }
 
 // The name of a file tells nothing.

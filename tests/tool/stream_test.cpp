@@ -111,9 +111,7 @@ protected:
 
 TEST_F(FailingRead, IsNoEnd) {
     if (KFM_SANITIZED) GTEST_SKIP() << "a sanitizer has to be loaded first";
-    std::string lines;
-    for (int i = 0; i < 20000; ++i) lines += "1\n";
-    textFile("text", lines);
+    textFile("text", ones(20000));
     soundFile("wav", 8000, 2, std::vector<double>(40000, 0.25));
     soundFile("flac", 8000, 1, std::vector<double>(40000, 0.25), SF_FORMAT_FLAC | SF_FORMAT_PCM_16);
     const std::string transform = "transform --length 4 -o out ";
