@@ -35,7 +35,7 @@ memcheck:
 
 demo:
 	@tools/install-dependencies.sh demo
-	@TARGETS=x86-64 tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=ON
+	@TARGETS=x86-64 GOAL=kfmgen tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=ON
 	@"$$BUILD/x86-64/bin/kfmgen" spectrum "$(FILE)"
 
 bench:

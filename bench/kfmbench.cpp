@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "peer.h"
+#include "registry/loaded_library.h"
 #include "result.h"
 #include "selection.h"
 #include "signals.h"
@@ -106,8 +107,9 @@ void printConditions() {
     Subject cycle = cycleSubject();
     Subject* const both[] = {&call, &cycle};
     runInterleaved(both, 20);
-    std::fprintf(stderr, "clock %.3f GHz, empty call %.2f ns\n", 1 / cycle.minimum(),
-                 call.minimum());
+    const registry::LoadedLibrary& library = registry::loadedLibrary();
+    std::fprintf(stderr, "%s: vectors of %d bits\nclock %.3f GHz, empty call %.2f ns\n",
+                 library.file.c_str(), library.vectorBits, 1 / cycle.minimum(), call.minimum());
 }
 
 void report(const Options& options, const std::vector<Result>& results) {

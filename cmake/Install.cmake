@@ -2,6 +2,10 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS kfmgenw7 kfmcore EXPORT kfmgen-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+if(TARGET kfmgenw7-v3)
+    install(TARGETS kfmgenw7-v3
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/x86-64-v3 NAMELINK_SKIP)
+endif()
 install(FILES include/kfmgen.h include/kfmcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 # In a folder that CMake searches for every target: lib32 it does not search on Debian.

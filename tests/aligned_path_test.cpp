@@ -6,12 +6,15 @@
 #include <algorithm>
 #include <csignal>
 
+#include "registry/loaded_library.h"
 #include "support/buffer.h"
 #include "support/disassembly.h"
 #include "support/transform.h"
 
 namespace kfm::tests {
 namespace {
+
+using registry::loadedLibrary;
 
 #ifdef __x86_64__
 constexpr int programCounter = REG_RIP;
@@ -99,7 +102,7 @@ protected:
     std::string function_, copy_;
 
 private:
-    static const std::map<std::string, Code>& code() { return disassembly(KFM_LIBRARY_FILE); }
+    static const std::map<std::string, Code>& code() { return disassembly(loadedLibrary().file); }
 
     static std::uintptr_t codeEnd() {
         std::uintptr_t end = 0;
@@ -120,6 +123,8 @@ TEST_P(AlignedPath, IsTakenWhereBothPointersAreMultiplesOf16) {
 #ifdef __clang__
     GTEST_SKIP() << "clang inlines short copies: no second function is entered";
 #endif
+    if (loadedLibrary().variant && copy_.empty())
+        GTEST_SKIP() << "vectors of 32 bytes move to any address";
     GuardedBuffer source(GetParam().sourceBytes() + 64), destination(source.size());
     std::byte *from = source.data(), *to = destination.data();
     for (const int offset : {0, 16}) {

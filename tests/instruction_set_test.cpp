@@ -1,15 +1,19 @@
-// Every function of both libraries runs on any processor with SSE2. Which instructions those have
-// is not listed here: the assembler is told the processor and given the machine code again.
+// Every function of both libraries runs on any processor with SSE2, every function of the variant
+// on any with AVX2, and none multiplies and adds at once. Which instructions those have is not listed
+// here: the assembler is told the processor and given the machine code again.
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <set>
 
+#include "registry/loaded_library.h"
 #include "support/command.h"
 #include "support/disassembly.h"
 
 namespace kfm::tests {
 namespace {
+
+using registry::loadedLibrary;
 
 // +ibt: where a compiler marks the targets of jumps, older processors see instructions without
 // effect.
@@ -18,6 +22,8 @@ constexpr char oldestProcessor[] = "--64 -march=generic64+ibt";
 #else
 constexpr char oldestProcessor[] = "--32 -march=pentium4+ibt";
 #endif
+const std::string processor =
+    std::string(oldestProcessor) + (loadedLibrary().variant ? "+avx2" : "");
 
 // What the assembler has to say against the text.
 std::vector<std::string> complaints(const std::string& text) {
@@ -25,7 +31,7 @@ std::vector<std::string> complaints(const std::string& text) {
     std::ofstream(file) << text;
     // Padding has forms with an index register that does not exist.
     const std::string command =
-        KFM_AS " " + std::string(oldestProcessor) + " -mindex-reg -o /dev/null '" + file + "'";
+        KFM_AS " " + processor + " -mindex-reg -o /dev/null '" + file + "'";
     const std::vector<std::string> lines = linesOf(command + " 2>&1 || true");
     std::remove(file.c_str());
     return lines;
@@ -41,7 +47,7 @@ std::string source(const Instruction& instruction) {
 TEST(InstructionSet, IsThatOfTheOldestProcessorInEveryFunction) {
     std::set<std::string> seen;
     std::string text;
-    for (const char* library : {KFM_LIBRARY_FILE, KFM_CORE_FILE}) {
+    for (const std::string& library : {loadedLibrary().file, std::string(KFM_CORE_FILE)}) {
         ASSERT_GT(disassembly(library).size(), 1u);
         for (const auto& [name, code] : disassembly(library)) {
             text += "# 1 \"" + name + "\"\n";   // complaints name the function

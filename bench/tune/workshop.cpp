@@ -64,23 +64,21 @@ std::string KernelSource::stem() const {
     return source + "_" + std::to_string(length) + "_" + element;
 }
 
-Workshop::Workshop(std::string kernelgen, std::string target,
+Workshop::Workshop(std::string kernelgen, std::string target, std::string generated,
                    std::filesystem::path compileCommands, std::filesystem::path folder)
     : kernelgen(std::move(kernelgen)), target(std::move(target)),
-      compileCommands(std::move(compileCommands)), folder(std::move(folder)) {
-    std::istringstream lines(outputOf(shellWord(this->kernelgen) + " candidates"));
-    for (std::string line; std::getline(lines, line);) schedules.push_back(line);
-    if (schedules.empty()) throw std::runtime_error("the generator offers no schedules");
-}
+      generated(std::move(generated)), compileCommands(std::move(compileCommands)),
+      folder(std::move(folder)) {}
 
 // The command that compiles this kernel for the library, up to its output: the compiler and all
 // flags. CMake writes one "command" line per file, ending in -o <object> -c <source>.
 std::string Workshop::compiler(const KernelSource& kernel) const {
-    static const std::regex line(R"re(\s*"command": "(.*) -o .+ -c .*/(\S+)\.cpp(\\")?",?)re");
+    static const std::regex line(R"re(\s*"command": "(.*) -o .+ -c (.*/)(\S+)\.cpp(\\")?",?)re");
     std::ifstream in(compileCommands);
     std::smatch match;
     for (std::string text; std::getline(in, text);)
-        if (std::regex_match(text, match, line) && match[2] == kernel.stem())
+        if (std::regex_match(text, match, line) && match[3] == kernel.stem() &&
+            match[2].str().find("/" + generated + "/") != std::string::npos)
             return std::regex_replace(match[1].str(), std::regex(R"(\\(["\\]))"), "$1");
     throw std::runtime_error("no command for " + kernel.stem() + " in " + compileCommands.string());
 }
@@ -89,21 +87,33 @@ std::string Workshop::path(std::size_t candidate, const char* extension) const {
     return (folder / (std::to_string(candidate) + extension)).string();
 }
 
-void Workshop::generate(const KernelSource& kernel) const {
-    const std::string command = shellWord(kernelgen) + " kernel " + std::to_string(kernel.length) +
-                                " " + kernel.element + " --kernels " + kernel.source +
-                                " --target " + target + " --family " + kernel.family +
-                                " --schedule ";
+std::string Workshop::generating(const char* command, const KernelSource& kernel) const {
+    return shellWord(kernelgen) + " " + command + " " + std::to_string(kernel.length) + " " +
+           kernel.element + " --kernels " + kernel.source + " --target " + target;
+}
+
+std::vector<std::string> Workshop::schedules(const KernelSource& kernel) const {
+    std::vector<std::string> result;
+    std::istringstream lines(outputOf(generating("candidates", kernel)));
+    for (std::string line; std::getline(lines, line);) result.push_back(line);
+    if (result.empty()) throw std::runtime_error("the generator offers no schedules");
+    return result;
+}
+
+void Workshop::generate(const KernelSource& kernel,
+                        const std::vector<std::string>& schedules) const {
+    const std::string command =
+        generating("kernel", kernel) + " --family " + kernel.family + " --schedule ";
     std::vector<std::string> commands;
     for (std::size_t i = 0; i < schedules.size(); ++i)
         commands.push_back(command + schedules[i] + " -o " + shellWord(path(i, ".cpp")));
     runAll(commands);
 }
 
-std::vector<std::size_t> Workshop::distinct() const {
+std::vector<std::size_t> Workshop::distinct(std::size_t count) const {
     std::set<std::string> codes;
     std::vector<std::size_t> result;
-    for (std::size_t i = 0; i < schedules.size(); ++i)
+    for (std::size_t i = 0; i < count; ++i)
         if (codes.insert(codeOf(path(i, ".cpp"))).second) result.push_back(i);
     return result;
 }
@@ -111,8 +121,9 @@ std::vector<std::size_t> Workshop::distinct() const {
 std::vector<Candidate> Workshop::make(const KernelSource& kernel) const {
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
-    generate(kernel);
-    const std::vector<std::size_t> chosen = distinct();
+    const std::vector<std::string> choices = schedules(kernel);
+    generate(kernel, choices);
+    const std::vector<std::size_t> chosen = distinct(choices.size());
     const std::string compile = compiler(kernel) + " -shared -o ";
     std::vector<std::string> commands;
     for (std::size_t i : chosen)
@@ -120,8 +131,7 @@ std::vector<Candidate> Workshop::make(const KernelSource& kernel) const {
     runAll(commands);
 
     std::vector<Candidate> candidates;
-    for (std::size_t i : chosen)
-        candidates.push_back(load(kernel, schedules[i], path(i, ".so")));
+    for (std::size_t i : chosen) candidates.push_back(load(kernel, choices[i], path(i, ".so")));
     return candidates;
 }
 

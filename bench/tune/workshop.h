@@ -29,8 +29,9 @@ struct Candidate {
 
 class Workshop {
 public:
-    Workshop(std::string kernelgen, std::string target, std::filesystem::path compileCommands,
-             std::filesystem::path folder);
+    // `generated` is the folder of the target's sources, as its compile commands name it.
+    Workshop(std::string kernelgen, std::string target, std::string generated,
+             std::filesystem::path compileCommands, std::filesystem::path folder);
 
     // In the order of the generator's list; of candidates with the same code only the first.
     std::vector<Candidate> make(const KernelSource& kernel) const;
@@ -38,12 +39,13 @@ public:
 private:
     std::string compiler(const KernelSource& kernel) const;
     std::string path(std::size_t candidate, const char* extension) const;
-    void generate(const KernelSource& kernel) const;
-    std::vector<std::size_t> distinct() const;
+    std::vector<std::string> schedules(const KernelSource& kernel) const;
+    std::string generating(const char* command, const KernelSource& kernel) const;
+    void generate(const KernelSource& kernel, const std::vector<std::string>& schedules) const;
+    std::vector<std::size_t> distinct(std::size_t count) const;
 
-    std::string kernelgen, target;
+    std::string kernelgen, target, generated;
     std::filesystem::path compileCommands, folder;
-    std::vector<std::string> schedules;   // every candidate the generator offers
 };
 
 }   // namespace kfm::tune

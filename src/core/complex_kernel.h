@@ -4,3 +4,7 @@
 #include "core/run_kernel.h"
 #include "simd/f32x4.h"
 #include "simd/f64x2.h"
+#ifdef __AVX2__
+#include "simd/f32x8.h"
+#include "simd/f64x4.h"
+#endif

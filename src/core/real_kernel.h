@@ -5,4 +5,7 @@
 #include "core/run_kernel.h"
 #include "simd/f32x2.h"
 #include "simd/f64x2.h"
+#ifdef __AVX2__
+#include "simd/f32x2_pairs.h"
+#endif
 #include "simd/scalar.h"

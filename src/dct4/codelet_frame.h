@@ -12,9 +12,19 @@ namespace kfm::dct4 {
 
 using namespace simd;
 
-// Elements of a vector.
+// Columns of a stage do not meet, so any width gives the same bits. Rows and tables come in fours.
 template <class Real>
-inline constexpr int lanes = static_cast<int>(16 / sizeof(Real));
+using StageVector = VectorUpTo<Real, 4>;
+
+template <class Real>
+inline constexpr int lanes = static_cast<int>(sizeof(StageVector<Real>) / sizeof(Real));
+
+// A row of the generated constants, which fills 16 bytes.
+template <class Vector, class Real>
+[[gnu::always_inline]] inline Vector constantRow(const Real* rows, int index) {
+    if constexpr (sizeof(Vector) == 16) return constant(rows, index);
+    else return twice(constant(rows, index));
+}
 
 // Addresses base + i*distance for i < count known to the compiler, in the form that an operand of
 // an instruction takes: a pointer for every eight steps, to which 1, 2, 4 or 8 times a register
@@ -52,7 +62,7 @@ template <class Real>
 struct RowReader {
     const Real* first;
 
-    VectorOf<Real> load(int row) const { return loadAligned(first + row * lanes<Real>); }
+    StageVector<Real> load(int row) const { return loadAligned<StageVector<Real>>(first + row * lanes<Real>); }
 };
 
 template <class Real>
@@ -60,14 +70,14 @@ struct RowWriter {
     Real* first;
     std::ptrdiff_t distance;
 
-    void store(int row, VectorOf<Real> v) const { storeAligned(first + row * distance, v); }
+    void store(int row, StageVector<Real> v) const { storeAligned(first + row * distance, v); }
 };
 
 // Elements that lie side by side, between places of any alignment.
 template <class Real, int count>
 void copyElements(const Real* from, Real* to) {
 #pragma GCC unroll 16
-    for (int i = 0; i < count; i += lanes<Real>) storeUnaligned(to + i, loadUnaligned(from + i));
+    for (int i = 0; i < count; i += lanes<Real>) storeUnaligned(to + i, loadUnaligned<StageVector<Real>>(from + i));
 }
 
 // The last of them first; the destination is aligned.
@@ -76,7 +86,7 @@ void copyReversed(const Real* from, Real* to) {
     constexpr int L = lanes<Real>;
 #pragma GCC unroll 16
     for (int i = 0; i < count; i += L)
-        storeAligned(to + i, reverse(loadUnaligned(from + (count - L - i))));
+        storeAligned(to + i, reverse(loadUnaligned<StageVector<Real>>(from + (count - L - i))));
 }
 
 }   // namespace kfm::dct4

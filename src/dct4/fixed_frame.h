@@ -15,7 +15,7 @@ struct ElementReader {
 
     typename Network::Vector load(int element) const {
         if constexpr (sizeof(typename Network::Vector) == sizeof(Real)) return first[element];
-        else return loadUnaligned(first + element);
+        else return loadUnaligned<typename Network::Vector>(first + element);
     }
 };
 

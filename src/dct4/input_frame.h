@@ -16,9 +16,9 @@ struct MirroredReader {
     Front front;
     Back back;
 
-    VectorOf<Real> load(int slot) const {
-        if (slot < half) return loadUnaligned(front[slot]);
-        return reverse(loadUnaligned(back[slot - half]));
+    StageVector<Real> load(int slot) const {
+        if (slot < half) return loadUnaligned<StageVector<Real>>(front[slot]);
+        return reverse(loadUnaligned<StageVector<Real>>(back[slot - half]));
     }
 };
 
@@ -64,8 +64,8 @@ template <class Real, int half>
 struct PairedRowReader {
     const Real* first;
 
-    VectorOf<Real> load(int slot) const {
-        return loadAligned(first + (slot < half ? 2 * slot : 2 * (slot - half) + 1) * rowLength);
+    StageVector<Real> load(int slot) const {
+        return loadAligned<StageVector<Real>>(first + (slot < half ? 2 * slot : 2 * (slot - half) + 1) * rowLength);
     }
 };
 

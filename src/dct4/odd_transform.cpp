@@ -11,6 +11,10 @@ namespace {
 
 constexpr int blockLength = 32;
 
+// Lane by lane, so their number is part of the result.
+template <class Real>
+constexpr int sums = static_cast<int>(sizeof(VectorOf<Real>) / sizeof(Real));
+
 // cos(pi u/4N (2i+1)) for odd u in (0, 8N) is, but for the sign, the kernel with an odd multiple
 // below 2N.
 struct Folded {
@@ -33,7 +37,7 @@ Folded outputOf(long long l, long long n) {
 
 template <class Real>
 Real lanesSum(VectorOf<Real> v) {
-    alignas(16) Real lane[lanes<Real>];
+    alignas(16) Real lane[sums<Real>];
     storeAligned(lane, v);
     Real sum = 0;
     for (const Real value : lane) sum += value;
@@ -105,13 +109,13 @@ HartleyPair<Real> hartleyPair(const Real* inputs, Real first, const Real* table,
     const int blockStep = static_cast<int>((long long)(blockLength) * l % n);
     for (int start = 0, at = l; start < n - 1; start += blockLength) {
         VectorOf<Real> u{}, v{};
-        for (int i = 0; i < blockLength; i += lanes<Real>) {
-            const VectorOf<Real> x = loadAligned(inputs + start + i);
-            u = add(u, mul(x, loadAligned(angles.cosine + i)));
-            v = add(v, mul(x, loadAligned(angles.sine + i)));
+        for (int i = 0; i < blockLength; i += sums<Real>) {
+            const VectorOf<Real> x = loadAligned<VectorOf<Real>>(inputs + start + i);
+            u = add(u, mul(x, loadAligned<VectorOf<Real>>(angles.cosine + i)));
+            v = add(v, mul(x, loadAligned<VectorOf<Real>>(angles.sine + i)));
         }
-        const VectorOf<Real> c = loadEverywhere(table + at);
-        const VectorOf<Real> s = loadEverywhere(table + (at == 0 ? 0 : n - at));
+        const VectorOf<Real> c = loadEverywhere<VectorOf<Real>>(table + at);
+        const VectorOf<Real> s = loadEverywhere<VectorOf<Real>>(table + (at == 0 ? 0 : n - at));
         there.add(add(mul(c, u), mul(s, v)));
         back.add(sub(mul(s, u), mul(c, v)));
         at = at < n - blockStep ? at + blockStep : at - (n - blockStep);

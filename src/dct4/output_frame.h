@@ -34,12 +34,12 @@ struct FoldedRows {
 // The elements of as many rows as a vector has lanes, column by column.
 template <class Real>
 struct Columns {
-    VectorOf<Real> column[lanes<Real>];
+    StageVector<Real> column[lanes<Real>];
 
     template <class Rows>
     Columns(const Rows& rows, int offset) {
 #pragma GCC unroll 4
-        for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned(rows[j] + offset);
+        for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned<StageVector<Real>>(rows[j] + offset);
         transpose(column);
     }
 };
@@ -53,9 +53,9 @@ void rotateRows(const Rows& rows, const Real* table, Real* rotated) {
         const Columns<Real> cosinePart(rows, r), sinePart(rows, d + r);
 #pragma GCC unroll 4
         for (int j = 0; j < L; ++j) {
-            const VectorOf<Real> C = cosinePart.column[j], T = sinePart.column[j];
-            const VectorOf<Real> c = loadAligned(table + 8 * (r + j));
-            const VectorOf<Real> s = loadAligned(table + 8 * (r + j) + 4);
+            const StageVector<Real> C = cosinePart.column[j], T = sinePart.column[j];
+            const StageVector<Real> c = loadAligned<StageVector<Real>>(table + 8 * (r + j));
+            const StageVector<Real> s = loadAligned<StageVector<Real>>(table + 8 * (r + j) + 4);
             storeAligned(rotated + (r + j) * L, sub(mul(c, C), mul(s, T)));
             storeAligned(rotated + (d + r + j) * L, add(mul(s, C), mul(c, T)));
         }
@@ -67,7 +67,7 @@ template <class Real, int d>
 struct RunWriter {
     Strided<Real, d> low, high;
 
-    void store(int slot, VectorOf<Real> v) const {
+    void store(int slot, StageVector<Real> v) const {
         if (slot < d) storeUnaligned(low[slot], v);
         else storeUnaligned(high[slot - d], reverse(v));
     }
@@ -89,7 +89,7 @@ struct LineWriter {
     Real* low;
     Real* high;
 
-    void store(int slot, VectorOf<Real> v) const {
+    void store(int slot, StageVector<Real> v) const {
         if (slot < d) storeAligned(low + slot * lineLength<Real>, v);
         else storeAligned(high + slot * lineLength<Real>, reverse(v));
     }
@@ -100,7 +100,7 @@ template <class Real, bool streaming>
 void writeLine(const Real* line, Real* dst) {
     if constexpr (!streaming) return copyElements<Real, lineLength<Real>>(line, dst);
     for (int i = 0; i < lineLength<Real>; i += lanes<Real>)
-        storeStreaming(dst + i, loadAligned(line + i));
+        storeStreaming(dst + i, loadAligned<StageVector<Real>>(line + i));
 }
 
 // Runs that are a multiple of a page apart fall into the same few sets of every cache, which cannot

@@ -26,11 +26,11 @@ inline constexpr int joinedColumns =
 template <class Real, int columns>
 void multiplyRow(const Real* row, const Real* pair, Real* products, std::ptrdiff_t stride) {
     constexpr int L = lanes<Real>;
-    const VectorOf<Real> c = loadEverywhere(pair), s = loadEverywhere(pair + 1);
+    const StageVector<Real> c = loadEverywhere<StageVector<Real>>(pair), s = loadEverywhere<StageVector<Real>>(pair + 1);
 #pragma GCC unroll 4
     for (int column = 0; column < columns; column += L, products += stride) {
-        const VectorOf<Real> re = loadAligned(row + column);
-        const VectorOf<Real> im = loadAligned(row + rowLength + column);
+        const StageVector<Real> re = loadAligned<StageVector<Real>>(row + column);
+        const StageVector<Real> im = loadAligned<StageVector<Real>>(row + rowLength + column);
         storeAligned(products, sub(mul(re, c), mul(im, s)));
         storeAligned(products + L, add(mul(re, s), mul(im, c)));
     }
@@ -51,7 +51,7 @@ void writeRow(const Real* results, Real* row, std::ptrdiff_t stride) {
     for (int part = 0; part < 2; ++part, results += L, row += rowLength)
 #pragma GCC unroll 16
         for (int i = 0; i < columns / L; ++i)
-            storeAligned(row + i * L, loadAligned(results + i * stride));
+            storeAligned(row + i * L, loadAligned<StageVector<Real>>(results + i * stride));
 }
 
 // The products of a vector of columns stand behind the place of its results, which is that of the

@@ -12,13 +12,11 @@
 #include <string_view>
 
 #include "kernelgen/graph.h"
+#include "kernelgen/program.h"
 #include "kernelgen/schedule.h"
 #include "registry/registry.h"
 
 namespace kfm::kernelgen {
-
-// Which side of a kernel on real data is a packed spectrum.
-enum class Packed { neither, source, destination };
 
 // A struct `name` with the constants and a static function transform<Memory>(src, dst, scale),
 // where `scale` points to the factor.

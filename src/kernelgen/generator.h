@@ -17,9 +17,8 @@ namespace kfm::kernelgen {
 struct KernelFamily {
     std::string_view source;   // as in the registry: "DFT_CToC"
 
-    // The graph of one transform, scale factor and memory operations left open. Throws for a
-    // target whose vectors the family has no lane mapping for. Empty, as `choice` is, where kernels
-    // are templates and not written from graphs.
+    // The graph of one transform, scale factor and memory operations left open. Empty, as
+    // `choice` is, where kernels are templates and not written from graphs.
     std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph = {};
     // The factor tree of a length, and the graph that another tree of it would give.
     std::function<Plan(int length, const registry::Element&)> plan = {};

@@ -1,5 +1,6 @@
 #include "kernelgen/kernel_commands.h"
 
+#include <algorithm>
 #include <array>
 #include <iomanip>
 #include <numeric>
@@ -11,6 +12,7 @@
 #include "dft/complex/complex_kernels.h"
 #include "dft/real/real_kernels.h"
 #include "hartley/hartley_kernels.h"
+#include "kernelgen/program.h"
 #include "kernelgen/report.h"
 #include "wht/wht_kernels.h"
 
@@ -43,6 +45,37 @@ constexpr std::array columns = {
     std::pair{"conversions", &OperationCounts::conversions},
 };
 
+std::string explainPairing(const Graph& graph, const Element& element,
+                           const PairingChoice& choice) {
+    const Pairing pairing = pairOperations(graph, choice);
+    const auto program = wideProgram(graph, element, Packed::neither, pairing);
+    const std::vector<int> live = graph.liveNodes();
+    const auto isAlone = [&](int node) {
+        return graph.nodes()[node].op != Op::load && pairing.alone(node);
+    };
+    return std::to_string(program->operations().size()) + " instead of " +
+           std::to_string(live.size()) + " operations, " +
+           std::to_string(std::ranges::count_if(live, isAlone)) + " on one half";
+}
+
+// The operations as they are printed, in execution order.
+std::string dumpProgram(const Graph& graph, const Element& element, const ScheduleChoice& choice) {
+    const Pairing pairing = choice.pairing ? pairOperations(graph, *choice.pairing) : Pairing();
+    const auto program = choice.pairing
+                             ? wideProgram(graph, element, Packed::neither, pairing)
+                             : narrowProgram(graph, element, Packed::neither);
+    std::vector<std::vector<int>> operands;
+    for (const Operation& operation : program->operations()) operands.push_back(operation.operands);
+    program->scales();   // names what stores refer to
+    std::string text;
+    for (const int number : schedule(operands, choice)) {
+        const Operation& operation = program->operations()[number];
+        text += operation.name + " = " + program->expression(number) + "\n";
+        for (const int output : operation.outputs) text += program->store(output);
+    }
+    return text;
+}
+
 }   // namespace
 
 const KernelFamily& kernelFamily(std::string_view source) {
@@ -66,6 +99,15 @@ std::string kernelSource(std::string_view source, int length, const Element& ele
                        members);
 }
 
+std::vector<ScheduleChoice> candidates(std::string_view source, int length, const Element& element,
+                                       const Target& target) {
+    const KernelFamily& family = kernelFamily(source);
+    if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no schedules");
+    const Graph graph = family.graph(length, element, target, false);
+    if (target.vectorBytes == 16 || graph.lanes() == 1) return scheduleCandidates();
+    return pairedCandidates(graph, family.choice(length, element, target));
+}
+
 std::string explain(std::string_view source, int length, const Element& element) {
     const KernelFamily& family = kernelFamily(source);
     std::ostringstream out;
@@ -80,6 +122,8 @@ std::string explain(std::string_view source, int length, const Element& element)
             << "  reloads          " << countReloads(graph, schedule(graph, choice),
                                                      target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
+        if (choice.pairing && graph.lanes() > 1)
+            out << "  pairing          " << explainPairing(graph, element, *choice.pairing) << '\n';
         const OperationCounts counts = countOperations(graph);
         for (const auto& [name, member] : columns)
             out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
@@ -92,7 +136,9 @@ std::string dump(std::string_view stage, std::string_view source, int length,
     const KernelFamily& family = kernelFamily(source);
     if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no stages");
     const Graph graph = family.graph(length, element, target, false);
-    const std::vector<int> scheduled = schedule(graph, family.choice(length, element, target));
+    const ScheduleChoice choice = family.choice(length, element, target);
+    if (stage == "program") return dumpProgram(graph, element, choice);
+    const std::vector<int> scheduled = schedule(graph, choice);
     if (stage == "schedule") return dumpText(graph, scheduled);
     if (stage == "dot") return dumpDot(graph, scheduled);
     if (stage != "graph") throw std::invalid_argument("no stage is called " + std::string(stage));

@@ -17,10 +17,15 @@ std::string kernelSource(std::string_view source, int length, const registry::El
                          const Target& target, std::string_view schedule = {},
                          std::string_view family = {});
 
+// The schedules, and where vectors are wide enough the pairings, from which the tuner chooses.
+std::vector<ScheduleChoice> candidates(std::string_view source, int length,
+                                       const registry::Element& element, const Target& target);
+
 // Factor tree, lane mapping, operation counts.
 std::string explain(std::string_view source, int length, const registry::Element& element);
 
-// One stage of a kernel as text: "graph" as built, "schedule" in execution order, "dot".
+// One stage of a kernel as text: "graph" as built, "schedule" in execution order, "dot"; "program" has
+// the operations as they are printed, joined in pairs where the target has the width.
 std::string dump(std::string_view stage, std::string_view source, int length,
                  const registry::Element& element, const Target& target);
 

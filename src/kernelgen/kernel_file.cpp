@@ -8,10 +8,9 @@ namespace kfm::kernelgen {
 
 ScheduleChoice findSchedule(std::span<const ScheduleRow> rows, int length,
                             const registry::Element& element, const Target& target) {
-    for (const ScheduleRow& row : rows)
-        if (row.length == length && row.target == target.name && row.element == element.suffix)
-            return ScheduleChoice::parse(row.choice);
-    return {};
+    return recordedChoice(rows, target, [&](const ScheduleRow& row) {
+        return row.length == length && row.element == element.suffix;
+    });
 }
 
 std::string fileHead(std::string_view title, const Graph& g, const ScheduleChoice& choice) {

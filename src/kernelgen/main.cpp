@@ -200,8 +200,11 @@ void printErrors(const Arguments& arguments) {
 void printCounts(const Arguments& arguments) { writeResult(arguments, operationCountTable()); }
 
 void printCandidates(const Arguments& arguments) {
+    const KernelName kernel(arguments);
     std::string text;
-    for (const ScheduleChoice& choice : scheduleCandidates()) text += choice.text() + "\n";
+    for (const ScheduleChoice& choice :
+         candidates(kernel.source, kernel.length, *kernel.element, target(arguments)))
+        text += choice.text() + "\n";
     writeResult(arguments, text);
 }
 
@@ -218,12 +221,13 @@ constexpr Command commands[] = {
      "write the source of one kernel", printKernel},
     {"explain", "<N> <element>", "factor tree, lane mapping and operation counts of a kernel",
      printExplanation},
-    {"dump", "<N> <element> --stage graph|schedule|dot [--target <target>]",
+    {"dump", "<N> <element> --stage graph|schedule|dot|program [--target <target>]",
      "show a kernel between two stages", printStage},
     {"errors", "<N> <element> [--signals <count>] \n         [--by mean|impulses] [--tries <count>]",
      "search for a factor tree with smaller errors", printErrors},
     {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
-    {"candidates", "", "the schedules from which the tuner chooses", printCandidates},
+    {"candidates", "<N> <element> [--target <target>]",
+     "the schedules and pairings from which the tuner chooses", printCandidates},
     {"declarations", "[--into <header>]", "print the C declarations, or renew them in a header",
      printDeclarations},
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <numeric>
 #include <sstream>
 #include <stdexcept>
 
@@ -15,17 +16,10 @@ struct Edges {
     std::vector<std::vector<int>> before, after;
 };
 
-Edges edgesBetween(const Graph& g, const std::vector<int>& live) {
-    const std::size_t count = g.nodes().size();
-    Edges edges{std::vector<std::vector<int>>(count), std::vector<std::vector<int>>(count)};
-    for (auto node = live.rbegin(); node != live.rend(); ++node) {
-        const auto [a, b] = std::pair(g.nodes()[*node].a, g.nodes()[*node].b);
-        for (const Ref operand : {a, b == a ? Ref() : b}) {
-            if (operand.isZero()) continue;
-            edges.before[*node].push_back(operand.node());
-            edges.after[operand.node()].push_back(*node);
-        }
-    }
+Edges edgesBetween(const std::vector<std::vector<int>>& operands) {
+    Edges edges{operands, std::vector<std::vector<int>>(operands.size())};
+    for (int i = static_cast<int>(operands.size()) - 1; i >= 0; --i)
+        for (const int operand : operands[i]) edges.after[operand].push_back(i);
     return edges;
 }
 
@@ -161,7 +155,9 @@ private:
 
 ScheduleChoice ScheduleChoice::parse(std::string_view text) {
     ScheduleChoice choice;
-    std::istringstream in{std::string(text)};
+    const std::size_t slash = std::min(text.find('/'), text.size());
+    if (slash < text.size()) choice.pairing = PairingChoice::parse(text.substr(slash + 1));
+    std::istringstream in{std::string(text.substr(0, slash))};
     char colon[3];
     std::string pin;
     in >> choice.leaf >> colon[0] >> choice.seed >> colon[1] >> choice.transposed >> colon[2];
@@ -178,6 +174,7 @@ std::string ScheduleChoice::text() const {
     std::ostringstream out;
     out << leaf << ':' << seed << ':' << transposed << ':' << pinNames[static_cast<int>(pin)] << ':'
         << relaunder;
+    if (pairing) out << '/' << pairing->text();
     return out.str();
 }
 
@@ -199,12 +196,48 @@ std::vector<ScheduleChoice> scheduleCandidates() {
     return candidates;
 }
 
+std::vector<ScheduleChoice> pairedCandidates(const Graph& g, const ScheduleChoice& recorded) {
+    constexpr std::size_t pairings = 3;
+    std::vector<std::optional<PairingChoice>> ways = {std::nullopt};
+    for (const PairingChoice& pairing : cheapestPairings(g, pairings)) ways.push_back(pairing);
+    std::vector<ScheduleChoice> candidates = {recorded};
+    const ScheduleChoice orders[] = {recorded,
+                                     {24, 0, true, Pin::sums, false},
+                                     {6, 0, false, Pin::all, false},
+                                     {80, 0, false, Pin::none, false},
+                                     {80, 0, true, Pin::sums, false}};
+    for (ScheduleChoice order : orders)
+        for (const std::optional<PairingChoice>& pairing : ways) {
+            order.pairing = pairing;
+            candidates.push_back(order);
+        }
+    return candidates;
+}
+
+std::vector<int> schedule(const std::vector<std::vector<int>>& operands,
+                          const ScheduleChoice& choice) {
+    Edges edges = edgesBetween(operands);
+    if (choice.transposed) std::swap(edges.before, edges.after);
+    std::vector<int> all(operands.size());
+    std::iota(all.begin(), all.end(), 0);
+    std::vector<int> order = Scheduler(std::move(edges), choice).run(all);
+    if (choice.transposed) std::ranges::reverse(order);
+    return order;
+}
+
 std::vector<int> schedule(const Graph& g, const ScheduleChoice& choice) {
     const std::vector<int> live = g.liveNodes();
-    Edges edges = edgesBetween(g, live);
-    if (choice.transposed) std::swap(edges.before, edges.after);
-    std::vector<int> order = Scheduler(std::move(edges), choice).run(live);
-    if (choice.transposed) std::ranges::reverse(order);
+    std::vector<int> numbers(g.nodes().size());
+    std::vector<std::vector<int>> operands;
+    for (const int node : live) {
+        numbers[node] = static_cast<int>(operands.size());
+        std::vector<int>& own = operands.emplace_back();
+        const auto [a, b] = std::pair(g.nodes()[node].a, g.nodes()[node].b);
+        for (const Ref operand : {a, b == a ? Ref() : b})
+            if (!operand.isZero()) own.push_back(numbers[operand.node()]);
+    }
+    std::vector<int> order = schedule(operands, choice);
+    for (int& place : order) place = live[place];
     return order;
 }
 

@@ -9,11 +9,14 @@
 // recorded per kernel and target. A ScheduleChoice is one row of that record.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "kernelgen/graph.h"
+#include "kernelgen/pairing.h"
+#include "kernelgen/target.h"
 
 namespace kfm::kernelgen {
 
@@ -25,12 +28,29 @@ struct ScheduleChoice {
     bool transposed = false;  // schedule the reversed graph and reverse the order
     Pin pin = Pin::none;      // after which nodes the compiler must keep the order
     bool relaunder = false;   // hide the constants anew every few nodes: none is kept and spilled
+    std::optional<PairingChoice> pairing = {};   // of operations, where vectors are wide enough
 
-    static ScheduleChoice parse(std::string_view text);   // "24:0:0:none:0"
+    static ScheduleChoice parse(std::string_view text);   // "24:0:0:none:0" or "24:0:0:none:0/1:1:100"
     std::string text() const;
 };
 
+// The choice of the row that `matches` and is the target's own, or else of the target it is like.
+template <class Rows, class Matches>
+ScheduleChoice recordedChoice(const Rows& rows, const Target& target, Matches matches) {
+    for (const std::string_view name : {target.name, target.likeness})
+        for (const auto& row : rows)
+            if (row.target == name && matches(row)) return ScheduleChoice::parse(row.choice);
+    return {};
+}
+
 std::vector<ScheduleChoice> scheduleCandidates();
+// The same for vectors that pairs fill: a few orders for each of the cheapest pairings, and without,
+// beginning with what is on record.
+std::vector<ScheduleChoice> pairedCandidates(const Graph& g, const ScheduleChoice& recorded);
+
+// Things in execution order, from the things that each is computed from (smaller numbers).
+std::vector<int> schedule(const std::vector<std::vector<int>>& operands,
+                          const ScheduleChoice& choice);
 
 // Live nodes (those an output depends on) in execution order.
 std::vector<int> schedule(const Graph& g, const ScheduleChoice& choice);

@@ -5,9 +5,10 @@
 
 namespace kfm::kernelgen {
 namespace {
-constexpr std::array<Target, 2> allTargets = {{
-    {"sse2-x86-64", 16, 16},
-    {"sse2-i386", 16, 8},
+constexpr std::array<Target, 3> allTargets = {{
+    {"sse2-x86-64", 16, 16, ""},
+    {"avx2-x86-64", 32, 16, "sse2-x86-64"},
+    {"sse2-i386", 16, 8, ""},
 }};
 }   // namespace
 

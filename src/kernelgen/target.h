@@ -11,6 +11,7 @@ struct Target {
     std::string_view name;
     int vectorBytes;
     int vectorRegisters;
+    std::string_view likeness;   // whose schedules serve until its own are measured
 };
 
 std::span<const Target> targets();

@@ -48,6 +48,13 @@ KFM_OPERATION f32x4 select(f32x4 a, f32x4 b) {
     }
 }
 
+// Lane i from lane i ^ distance.
+template <int distance>
+KFM_OPERATION f32x4 exchange(f32x4 v) {
+    if constexpr (distance == 1) return select<1, 0, 3, 2>(v, v);
+    else return select<2, 3, 0, 1>(v, v);
+}
+
 // Two real elements in the low lanes, zeros in the others.
 struct HalfSingle {
     KFM_OPERATION static f32x4 load(const Kfm32f* p) {

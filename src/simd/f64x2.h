@@ -37,6 +37,12 @@ KFM_OPERATION f64x2 select(f64x2 a, f64x2 b) {
     else return _mm_castsi128_pd(_mm_move_epi64(_mm_castpd_si128(first)));
 }
 
+// Lane i from lane i ^ distance.
+template <int distance>
+KFM_OPERATION f64x2 exchange(f64x2 v) {
+    return select<1, 0>(v, v);
+}
+
 // Single elements.
 KFM_OPERATION f64x2 loadLow(const double* p) { return _mm_load_sd(p); }
 KFM_OPERATION f64x2 loadHalves(const double* low, const double* high) {

@@ -2,41 +2,94 @@
 // doubles are made of. A scalar is a vector of one lane.
 #pragma once
 
+#include <algorithm>
+
+#ifdef __AVX2__
+#include "simd/f32x8.h"
+#include "simd/f64x4.h"
+#else
 #include "simd/f32x4.h"
 #include "simd/f64x2.h"
+#endif
 #include "simd/scalar.h"
 
 namespace kfm::simd {
 
-template <class Real>
-struct WholeVector;
+template <class Real, int lanes>
+struct VectorWith;
 template <>
-struct WholeVector<float> {
+struct VectorWith<float, 4> {
     using Type = f32x4;
 };
 template <>
-struct WholeVector<double> {
+struct VectorWith<double, 2> {
     using Type = f64x2;
 };
-template <class Real>
-using VectorOf = typename WholeVector<Real>::Type;
+#ifdef __AVX2__
+template <>
+struct VectorWith<float, 8> {
+    using Type = f32x8;
+};
+template <>
+struct VectorWith<double, 4> {
+    using Type = f64x4;
+};
+inline constexpr int vectorBytes = 32;
+#else
+inline constexpr int vectorBytes = 16;
+#endif
 
-KFM_OPERATION f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
-KFM_OPERATION f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
-KFM_OPERATION f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
-KFM_OPERATION f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
-KFM_OPERATION f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
-KFM_OPERATION f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
+// Of 16 bytes on every target, where the number of lanes is part of the result.
+template <class Real>
+using VectorOf = typename VectorWith<Real, static_cast<int>(16 / sizeof(Real))>::Type;
+
+// The widest of the target, of so many lanes at most.
+template <class Real, int lanes>
+using VectorUpTo =
+    typename VectorWith<Real, std::min(lanes, vectorBytes / static_cast<int>(sizeof(Real)))>::Type;
+
+// Between vectors and memory; "aligned" is a multiple of 16 bytes.
+template <class Vector>
+Vector loadAligned(const float* p);
+template <class Vector>
+Vector loadAligned(const double* p);
+template <class Vector>
+Vector loadUnaligned(const float* p);
+template <class Vector>
+Vector loadUnaligned(const double* p);
+template <class Vector>
+Vector loadEverywhere(const float* p);
+template <class Vector>
+Vector loadEverywhere(const double* p);
+
+template <> KFM_OPERATION f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
+template <> KFM_OPERATION f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
+template <> KFM_OPERATION f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
+template <> KFM_OPERATION f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
+template <> KFM_OPERATION f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
+template <> KFM_OPERATION f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
 KFM_OPERATION void storeAligned(float* p, f32x4 v) { _mm_store_ps(p, v); }
 KFM_OPERATION void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
 KFM_OPERATION void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
 KFM_OPERATION void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
 
-// Aligned, to memory without a detour through the caches; cheap where whole cache lines are
-// written. Ends with finishStreaming(), which makes the stores visible in order.
+// To memory without a detour through the caches, whole vectors in their alignment; cheap where whole
+// cache lines are written. Ends with finishStreaming(), which makes the stores visible in order.
 KFM_OPERATION void storeStreaming(float* p, f32x4 v) { _mm_stream_ps(p, v); }
 KFM_OPERATION void storeStreaming(double* p, f64x2 v) { _mm_stream_pd(p, v); }
 KFM_OPERATION void finishStreaming() { _mm_sfence(); }
+
+#ifdef __AVX2__
+template <> KFM_OPERATION f32x8 loadUnaligned(const float* p) { return _mm256_loadu_ps(p); }
+template <> KFM_OPERATION f64x4 loadUnaligned(const double* p) { return _mm256_loadu_pd(p); }
+template <> KFM_OPERATION f64x4 loadAligned(const double* p) { return _mm256_loadu_pd(p); }
+template <> KFM_OPERATION f32x8 loadEverywhere(const float* p) { return _mm256_broadcast_ss(p); }
+template <> KFM_OPERATION f64x4 loadEverywhere(const double* p) { return _mm256_broadcast_sd(p); }
+KFM_OPERATION void storeUnaligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
+KFM_OPERATION void storeUnaligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
+KFM_OPERATION void storeAligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
+KFM_OPERATION void storeStreaming(double* p, f64x4 v) { _mm256_stream_pd(p, v); }
+#endif
 
 // Not the integer shuffle that select would take: compilers fetch its operand from memory, by way
 // of the stack when it came from an address without alignment.

@@ -42,23 +42,19 @@ struct Kernel {
         (order % 2 ? std::numbers::sqrt2_v<Real> : Real(1)) / (1 << (order + 1) / 2);
     static constexpr ScaleFactors<Real> scales = {1, Real(1) / (1 << order), bySqrtN};
 
-    // Two single-precision elements fill half of a vector.
-    template <class Memory>
-    using Access =
-        std::conditional_t<(order < Lanes<Real>::order), simd::HalfSingle, Memory>;
-
     template <class Memory>
     KFM_INLINE static void transform(const Real* src, Real* dst, const Real* factor,
                                      [[maybe_unused]] Kfm8u* buffer) {
+        using Moves = Access<Real, std::min(order, laneOrder<Real>), Memory>;
         constexpr std::optional<Blocking> blocking = findBlocking(doublePrecision, order);
-        const Scale finish = {simd::broadcast(factor)};
+        const Scale finish = {simd::loadEverywhere<decltype(Moves::load(src))>(factor)};
         if constexpr (!blocking) {
-            transformBlock<order, Access<Memory>, Access<Memory>>(src, dst, finish);
+            transformBlock<order, Moves, Moves>(src, dst, finish);
         } else {
             constexpr std::int64_t bytes = bufferBytes(doublePrecision, order);
             const WorkBuffer work(buffer, bytes);
             Real* main = work.template as<Real>();
-            transformInPasses<*blocking, Memory>(src, dst, finish, main, main + (1 << order));
+            transformInPasses<*blocking, Moves>(src, dst, finish, main, main + (1 << order));
         }
     }
 };

@@ -2,25 +2,40 @@
 // at the two ends, `finish` is applied to each vector before it is stored.
 #pragma once
 
+#include <bit>
+
 #include "wht/blocking.h"
 #include "wht/register_block.h"
 
 namespace kfm::wht {
 
-// What belongs to an element type: log2 of the lanes of a vector, and the memory operations on
-// arrays that start at a multiple of 16.
+// The widest vectors of an element type, and log2 of their lanes.
 template <class Real>
-struct Lanes;
-template <>
-struct Lanes<Kfm32f> {
-    static constexpr int order = 2;
-    using Aligned = simd::AlignedSingle;
+using Widest = simd::VectorUpTo<Real, 8>;
+template <class Real>
+inline constexpr int laneOrder = std::countr_zero(sizeof(Widest<Real>) / sizeof(Real));
+
+// For vectors wider than the alignment that arrays have.
+template <class Real>
+struct AnyAddress {
+    KFM_INLINE static Widest<Real> load(const Real* p) {
+        return simd::loadUnaligned<Widest<Real>>(p);
+    }
+    KFM_INLINE static void store(Real* p, Widest<Real> v) { simd::storeUnaligned(p, v); }
 };
-template <>
-struct Lanes<Kfm64f> {
-    static constexpr int order = 1;
-    using Aligned = simd::AlignedDouble;
-};
+
+// How vectors of 2^order elements are moved where `Memory` moves 16 bytes. Two single-precision
+// elements fill half of a vector.
+template <class Real, int order, class Memory>
+using Access =
+    std::conditional_t<(sizeof(Real) << order < 16), simd::HalfSingle,
+                       std::conditional_t<(sizeof(Real) << order == 16), Memory, AnyAddress<Real>>>;
+
+// Arrays that start at a multiple of 16.
+template <class Real>
+using BufferAccess = Access<
+    Real, laneOrder<Real>,
+    std::conditional_t<sizeof(Real) == 8, simd::AlignedDouble, simd::AlignedSingle>>;
 
 template <class Vector>
 struct Scale {
@@ -40,9 +55,9 @@ struct Unscaled {
 // One block of 2^order neighbouring elements, straight through. Reads all before it writes.
 template <int order, class From, class To, class Real, class Finish>
 KFM_INLINE inline void transformBlock(const Real* src, Real* dst, Finish finish) {
-    constexpr int lanes = std::min(order, Lanes<Real>::order);
+    constexpr int lanes = std::min(order, laneOrder<Real>);
     transformVectors<order - lanes>(
-        [=](int i) KFM_INLINE { return transformLanes<lanes>(From::load(src + (i << lanes))); },
+        [=](int i) KFM_INLINE { return transformLanes<lanes, Real>(From::load(src + (i << lanes))); },
         [=](int i, auto v) KFM_INLINE { To::store(dst + (i << lanes), finish(v)); });
 }
 
@@ -57,7 +72,7 @@ KFM_INLINE inline void transformBlocks(const Real* src, Real* dst) {
 // places in a step as a vector has lanes.
 template <int block, int order, class From, class To, class Real, class Finish>
 KFM_INLINE inline void transformAcross(const Real* src, Real* dst, Finish finish) {
-    for (int column = 0; column < 1 << block; column += 1 << Lanes<Real>::order)
+    for (int column = 0; column < 1 << block; column += 1 << laneOrder<Real>)
         transformVectors<order>(
             [=](int i) KFM_INLINE { return From::load(src + column + (i << block)); },
             [=](int i, auto v) KFM_INLINE { To::store(dst + column + (i << block), finish(v)); });
@@ -67,7 +82,7 @@ KFM_INLINE inline void transformAcross(const Real* src, Real* dst, Finish finish
 template <Blocking blocking, class Memory, class Real, class Finish>
 KFM_INLINE inline void transformInPasses(const Real* src, Real* dst, Finish finish, Real* main,
                               [[maybe_unused]] Real* scratch) {
-    using Buffer = typename Lanes<Real>::Aligned;
+    using Buffer = BufferAccess<Real>;
     constexpr int block = blocking.block, across = blocking.across, chunk = blocking.chunk();
     if constexpr (!blocking.threePasses()) {
         transformBlocks<block, across, Memory, Buffer>(src, main);

@@ -3,11 +3,11 @@
 // the sum that the plain loop over strides 1, 2, 4 ... forms, whatever the blocking and the target.
 #pragma once
 
+#include <array>
 #include <type_traits>
 #include <utility>
 
-#include "simd/f32x4.h"
-#include "simd/f64x2.h"
+#include "simd/reals.h"
 
 // Of functions and lambdas that must vanish: their arguments turn into registers and constants.
 #define KFM_INLINE __attribute__((always_inline))
@@ -66,26 +66,24 @@ KFM_INLINE inline void transformVectors(Load load, Store store) {
     }
 }
 
-// Lane i becomes its sum with lane i + 1, or its difference from lane i - 1.
-KFM_INLINE inline simd::f32x4 neighbourButterflies(simd::f32x4 v) {
-    alignas(16) static constexpr float signs[] = {0.0f, -0.0f, 0.0f, -0.0f};
-    return simd::add(simd::select<1, 0, 3, 2>(v, v), simd::flip(v, simd::constant(signs, 0)));
-}
-KFM_INLINE inline simd::f64x2 neighbourButterflies(simd::f64x2 v) {
-    alignas(16) static constexpr double signs[] = {0.0, -0.0};
-    return simd::add(simd::select<1, 0>(v, v), simd::flip(v, simd::constant(signs, 0)));
-}
-KFM_INLINE inline simd::f32x4 halfButterflies(simd::f32x4 v) {
-    alignas(16) static constexpr float signs[] = {0.0f, 0.0f, -0.0f, -0.0f};
-    return simd::add(simd::select<2, 3, 0, 1>(v, v), simd::flip(v, simd::constant(signs, 0)));
+// Lane i becomes its sum with lane i + distance, or its difference from lane i - distance.
+template <int distance, class Vector, class Real>
+KFM_INLINE inline Vector laneButterflies(Vector v) {
+    static constexpr auto signs = [] {
+        std::array<Real, sizeof(Vector) / sizeof(Real)> lanes{};
+        for (std::size_t i = 0; i < lanes.size(); ++i)
+            lanes[i] = i & distance ? Real(-0.0) : Real(0.0);
+        return lanes;
+    }();
+    return simd::add(simd::exchange<distance>(v),
+                     simd::flip(v, simd::loadUnaligned<Vector>(signs.data())));
 }
 
-// Across the 2^order lowest lanes.
-template <int order, class Vector>
+// Across the 2^order lowest lanes, log2 of their distance `done`, done + 1, ...
+template <int order, class Real, int done = 0, class Vector>
 KFM_INLINE inline Vector transformLanes(Vector v) {
-    v = neighbourButterflies(v);
-    if constexpr (order == 2) v = halfButterflies(v);
-    return v;
+    if constexpr (done == order) return v;
+    else return transformLanes<order, Real, done + 1>(laneButterflies<1 << done, Vector, Real>(v));
 }
 
 }   // namespace kfm::wht

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kfm::tests {
@@ -17,11 +18,20 @@ struct Instruction {
     bool isCall() const { return mnemonic.starts_with("call"); }
     // At an address made from registers, which AT&T syntax writes in parentheses.
     bool accessesMemory() const { return operands.find('(') != std::string::npos; }
-    // A vector, or its upper half, to or from any address.
-    bool movesUnaligned() const {
-        return (mnemonic.starts_with("movup") || mnemonic == "movdqu") && accessesMemory();
+    bool uses(const char* registers) const {
+        return operands.find(registers) != std::string::npos;
     }
-    bool movesUpperHalf() const { return mnemonic.starts_with("movhp") && accessesMemory(); }
+    // Without the prefix of the encoding that newer processors know.
+    std::string_view stem() const {
+        const bool isNew = mnemonic.starts_with('v');
+        return std::string_view(mnemonic).substr(isNew ? 1 : 0);
+    }
+    // A vector of 16 bytes, or its upper half, to or from any address. Wider ones have no other way.
+    bool movesUnaligned() const {
+        return (stem().starts_with("movup") || stem() == "movdqu") && accessesMemory() &&
+               !uses("%ymm");
+    }
+    bool movesUpperHalf() const { return stem().starts_with("movhp") && accessesMemory(); }
 };
 
 using Code = std::vector<Instruction>;

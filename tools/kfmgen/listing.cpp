@@ -5,17 +5,21 @@
 #include "kfmgen.h"
 #include "planned_transform.h"
 #include "registry/functions.h"
+#include "registry/loaded_library.h"
 
 namespace kfm::tool {
 
 void printInfo(std::ostream& out) {
     const KfmLibraryVersion& version = *kfmgenGetLibVersion();
+    const registry::LoadedLibrary& loaded = registry::loadedLibrary();
     out << "library    " << version.libraryName << '\n'
+        << "file       " << loaded.file << '\n'
         << "version    " << version.versionMajor << '.' << version.versionMinor << ", build "
         << version.buildMajor << '.' << version.buildNumber << " (" << version.versionText << ")\n"
         << "date       " << version.buildDate << '\n'
-        << "target     " << version.targetCode << ", SSE2, "
-        << (sizeof(void*) == 8 ? "x86-64" : "i386") << '\n'
+        << "target     " << version.targetCode << ", " << (sizeof(void*) == 8 ? "x86-64" : "i386")
+        << ", " << (loaded.variant ? "AVX2" : "SSE2") << ", vectors of " << loaded.vectorBits
+        << " bits\n"
         << "functions  " << registry::functions().size() << " in " << registry::families().size()
         << " families\n";
 }

@@ -2,7 +2,6 @@
 
 #include <cctype>
 #include <sstream>
-#include <stdexcept>
 
 #include "dct4/networks/cosine_networks.h"
 #include "dct4/networks/fixed_transform.h"
@@ -57,6 +56,7 @@ Graph outputGraph(int d, int lanes) {
 struct Kind {
     std::string_view function;
     std::string_view frame;        // the header that declares its network and defines the function
+    std::string_view vector;       // the template of its vectors
     std::string_view parameters;   // their types, R for the real type
     Graph (*graph)(int size, bool doublePrecision);
 };
@@ -64,16 +64,16 @@ struct Kind {
 int lanesOf(bool doublePrecision) { return doublePrecision ? 2 : 4; }
 
 const Kind kinds[] = {
-    {"fixedTransform", "fixed_frame.h", "const R*, R*", fixedTransformGraph},
-    {"inputStage", "input_frame.h", "const R*, R*, int",
+    {"fixedTransform", "fixed_frame.h", "VectorOf", "const R*, R*", fixedTransformGraph},
+    {"inputStage", "input_frame.h", "StageVector", "const R*, R*, int",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), mirroredRows); }},
-    {"inputBlock", "input_frame.h", "const R*, const R*, std::ptrdiff_t, R*",
+    {"inputBlock", "input_frame.h", "StageVector", "const R*, const R*, std::ptrdiff_t, R*",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), naturalRows); }},
-    {"twiddleStage", "twiddle_frame.h", "R*, const R*, int",
+    {"twiddleStage", "twiddle_frame.h", "StageVector", "R*, const R*, int",
      [](int divisor, bool wide) { return twiddleGraph(divisor, lanesOf(wide), false); }},
-    {"twiddleStageRoot", "twiddle_frame.h", "R*, const R*, int",
+    {"twiddleStageRoot", "twiddle_frame.h", "StageVector", "R*, const R*, int",
      [](int divisor, bool wide) { return twiddleGraph(divisor, lanesOf(wide), true); }},
-    {"outputStage", "output_frame.h", "const R*, const R*, R*, int",
+    {"outputStage", "output_frame.h", "StageVector", "const R*, const R*, R*, int",
      [](int d, bool wide) { return outputGraph(d, lanesOf(wide)); }},
 };
 
@@ -90,11 +90,9 @@ ScheduleChoice choice(std::string_view function, int size, const Element& elemen
 #include "dct4/networks/schedules.def"
 #undef KFM_SCHEDULE
         {}};
-    for (const Row& row : rows)
-        if (row.size == size && row.function == function && row.target == target.name &&
-            row.element == element.suffix)
-            return ScheduleChoice::parse(row.choice);
-    return {};
+    return recordedChoice(rows, target, [&](const Row& row) {
+        return row.size == size && row.function == function && row.element == element.suffix;
+    });
 }
 
 std::string parameterTypes(const Kind& kind, const std::string& real) {
@@ -117,7 +115,7 @@ std::string emit(const Kind& kind, int size, const Element& element,
         << counts.shuffles << " shuffles\n"
         << "#include \"dct4/" << kind.frame << "\"\n\nnamespace kfm::dct4 {\n\n"
         << "template <>\nstruct " << network << "Network<" << real << ", " << size << "> {\n"
-        << printNetwork(g, element.doublePrecision, schedule) << "};\n\n"
+        << printNetwork(g, element.doublePrecision, kind.vector, schedule) << "};\n\n"
         << "template void " << kind.function << "<" << real << ", " << size << ">("
         << parameterTypes(kind, real) << ");\n\n}   // namespace kfm::dct4\n";
     return out.str();
@@ -125,9 +123,7 @@ std::string emit(const Kind& kind, int size, const Element& element,
 
 KernelFamily family(const Kind& kind) {
     KernelFamily family{.source = kind.function};
-    family.graph = [&kind](int size, const Element& element, const Target& target, bool) {
-        if (target.vectorBytes != 16)
-            throw std::invalid_argument("DCT-IV: no lane mapping for " + std::string(target.name));
+    family.graph = [&kind](int size, const Element& element, const Target&, bool) {
         return kind.graph(size, element.doublePrecision);
     };
     family.describe = [](int size, const Element&) { return std::to_string(size) + " points"; };

@@ -63,7 +63,7 @@ private:
 
     std::string tableEntry(const std::string& row) {
         const std::string at = std::to_string(table_.index(row));
-        return g_.lanes() == 1 ? "k[" + at + "]" : "constant(k, " + at + ")";
+        return g_.lanes() == 1 ? "k[" + at + "]" : "constantRow<Vector>(k, " + at + ")";
     }
 
     std::string constant(const LaneConstant& lanes) {
@@ -151,12 +151,13 @@ private:
 
 }   // namespace
 
-std::string printNetwork(const Graph& g, bool doublePrecision, const ScheduleChoice& choice) {
+std::string printNetwork(const Graph& g, bool doublePrecision, std::string_view vector,
+                         const ScheduleChoice& choice) {
     NetworkPrinter printer(g, doublePrecision, choice);
     const std::string body = printer.body();
     const std::string real = doublePrecision ? "double" : "float";
     std::ostringstream out;
-    out << "    using Vector = " << (g.lanes() == 1 ? real : "VectorOf<" + real + ">") << ";\n"
+    out << "    using Vector = " << (g.lanes() == 1 ? real : std::string(vector) + "<" + real + ">") << ";\n"
         << "    alignas(16) static constexpr " << real << " constants[] = {\n"
         << printer.constants() << "    };\n\n"
         << "    template <class In, class Out>\n"

@@ -1,0 +1,81 @@
+# kfm_add_transform_library(<name> INSTRUCTIONS <row of the generator> [FOLDER <below lib>]
+# [FLAGS <compiler flags>...]): generates the kernels for an instruction set and builds the library
+# from them. Its parts are targets as well: <name>-sources, <name>-kernels, and the DCT-IV below its
+# public calls as objects that tests reach, <name>-codelets and <name>-planner.
+function(kfm_add_transform_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "INSTRUCTIONS;FOLDER" "FLAGS")
+    string(REPLACE kfmgenw7 generated folder ${name})
+    set(generated ${PROJECT_BINARY_DIR}/${folder})
+    kfm_generated_kernels(kernels)
+    kfm_generated_codelets(codelets)
+    list(TRANSFORM kernels PREPEND ${generated}/)
+    list(TRANSFORM codelets PREPEND ${generated}/)
+    set(entries ${generated}/core/generic_entries.cpp)
+    set(map ${generated}/kfmgenw7.map)
+
+    # The stamp is what depends on the generator: kernelgen leaves files that would not change alone,
+    # so their objects are not compiled again.
+    set(stamp ${generated}.stamp)
+    add_custom_command(
+        OUTPUT ${stamp}
+        BYPRODUCTS ${kernels} ${codelets} ${entries} ${generated}/registry/functions.cpp ${map}
+        COMMAND kernelgen build --target ${arg_INSTRUCTIONS} --output ${generated}
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS kernelgen ${KFM_KERNELGEN}
+        COMMENT "Generating kernels for ${arg_INSTRUCTIONS}"
+        VERBATIM)
+    add_custom_target(${name}-sources DEPENDS ${stamp})
+
+    add_library(${name}-kernels OBJECT ${kernels})
+    target_compile_options(${name}-kernels PRIVATE ${KFM_GENERATED_FLAGS} ${arg_FLAGS})
+    kfm_precompile(${name}-kernels core/complex_kernel.h core/real_kernel.h)
+
+    add_library(${name}-codelets OBJECT ${codelets} dct4/odd_transform.cpp)
+    set_source_files_properties(${codelets} PROPERTIES COMPILE_OPTIONS "${KFM_GENERATED_FLAGS}")
+    add_library(${name}-planner OBJECT
+        dct4/arena.cpp dct4/env_list.cpp dct4/index_maps.cpp dct4/input_stage.cpp dct4/numbers.cpp
+        dct4/output_stage.cpp dct4/recursion.cpp dct4/root.cpp)
+    # Frames of several pages are touched page by page, so that the guard page of a stack holds.
+    foreach(part IN ITEMS codelets planner)
+        target_compile_options(${name}-${part} PRIVATE -fstack-clash-protection ${arg_FLAGS})
+    endforeach()
+    foreach(part IN ITEMS kernels codelets planner)
+        add_dependencies(${name}-${part} ${name}-sources)
+        target_link_libraries(${name}-${part} PRIVATE library_flags)
+        target_include_directories(${name}-${part} PUBLIC
+            ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+        set_target_properties(${name}-${part} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    endforeach()
+
+    add_library(${name} SHARED ${entries} core/version.cpp wht/buffer_size.cpp dct4/calls.cpp
+        $<TARGET_OBJECTS:${name}-kernels> $<TARGET_OBJECTS:${name}-codelets>
+        $<TARGET_OBJECTS:${name}-planner>)
+    add_dependencies(${name} ${name}-sources)
+    target_compile_options(${name} PRIVATE ${arg_FLAGS})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE library_flags kfmcore m)
+    target_link_options(${name} PRIVATE -Wl,--version-script=${map})
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmgenw7
+        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER})
+    if(arg_FOLDER)
+        # The loader would take a variant that is older than the library it stands for.
+        add_dependencies(${name} kfmgenw7)
+        add_custom_command(TARGET kfmgenw7 POST_BUILD
+            COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER} VERBATIM)
+        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS $<TARGET_FILE:kfmgenw7>)
+    endif()
+    # The loader looks for the companion beside a variant, and finds it where the folder hangs.
+    file(RELATIVE_PATH up /${arg_FOLDER} /)
+    kfm_public_library(${name} "$ORIGIN$<$<BOOL:${up}>::$ORIGIN/${up}>")
+endfunction()
+
+# kfm_public_library(<name> <run path>): what programs link, found wherever the folder is put.
+function(kfm_public_library name run_path)
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    set_target_properties(${name} PROPERTIES
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION}
+        BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "${run_path}")
+    add_library(kfm::${name} ALIAS ${name})   # as in the installed package
+endfunction()

@@ -1,0 +1,52 @@
+// A kernel as a list of vector operations, of whatever width: what is scheduled and printed. Texts are
+// made when they are printed, so that constants stand in the order of their use.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "kernelgen/constant_table.h"
+#include "kernelgen/graph.h"
+#include "kernelgen/pairing.h"
+#include "registry/registry.h"
+
+namespace kfm::kernelgen {
+
+// Which side of a kernel on real data is a packed spectrum.
+enum class Packed { neither, source, destination };
+
+struct Operation {
+    std::string name;
+    std::vector<int> operands;   // operations by number, all smaller than its own
+    bool isSum = false, isLoad = false;
+    std::vector<int> outputs = {};   // what is stored from it, by number
+};
+
+class Program {
+public:
+    virtual ~Program() = default;
+
+    const std::vector<Operation>& operations() const { return operations_; }
+    const std::vector<ConstantTable>& tables() const { return tables_; }
+
+    // What an operation computes, as an expression of the names of its operands.
+    virtual std::string expression(int operation) = 0;
+    // The statement that stores an output.
+    virtual std::string store(int output) = 0;
+    // Scale factors in other precisions and with other signs than `scale`, made once.
+    virtual std::string scales() = 0;
+
+protected:
+    std::vector<Operation> operations_;
+    std::vector<ConstantTable> tables_;
+};
+
+// An operation for each live node of a graph.
+std::unique_ptr<Program> narrowProgram(const Graph& g, const registry::Element& element,
+                                       Packed packed);
+// An operation for each pair of nodes, and for what is left alone.
+std::unique_ptr<Program> wideProgram(const Graph& g, const registry::Element& element,
+                                     Packed packed, const Pairing& pairing);
+
+}   // namespace kfm::kernelgen

@@ -1,0 +1,130 @@
+// Pairings of operations: what they join, what they cost, and that a choice always gives the same.
+#include "kernelgen/pairing.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "kernelgen/kernel_commands.h"
+#include "kernelgen/pairing_state.h"
+#include "kernelgen/program.h"
+
+using namespace kfm::kernelgen;
+
+namespace {
+
+struct Case {
+    const char* source;
+    const char* element;
+    int length;
+};
+
+void PrintTo(const Case& c, std::ostream* out) { *out << c.source << c.length << c.element; }
+
+class Pairings : public testing::TestWithParam<Case> {
+protected:
+    const kfm::registry::Element& element() const {
+        return *kfm::registry::findElement(GetParam().element);
+    }
+    Graph graph() const {
+        return kernelFamily(GetParam().source)
+            .graph(GetParam().length, element(), *findTarget("avx2-x86-64"), false);
+    }
+};
+
+constexpr PairingChoice choices[] = {{0, 1, 20}, {1, 1, 20}, {2, 5, 20}, {-12, 1, 20}};
+
+TEST_P(Pairings, JoinOperationsOfOneKindThatDoNotDependOnEachOther) {
+    const Graph g = graph();
+    for (const PairingChoice& choice : choices) {
+        const Pairing pairing = pairOperations(g, choice);
+        const PairingState state(g);
+        const std::set<int> items(state.items().begin(), state.items().end());
+        for (int item = 0; item < static_cast<int>(pairing.partner.size()); ++item) {
+            if (pairing.alone(item)) continue;
+            const int partner = pairing.partner[item];
+            ASSERT_EQ(pairing.partner[partner], item);
+            ASSERT_NE(pairing.upper[partner], pairing.upper[item]);
+            ASSERT_TRUE(items.contains(item) && state.compatible(item, partner));
+        }
+    }
+}
+
+TEST_P(Pairings, CostNoMoreThanNoneAndAreTheSameEachTime) {
+    const Graph g = graph();
+    for (const PairingChoice& choice : choices) {
+        const Pairing pairing = pairOperations(g, choice);
+        EXPECT_EQ(pairing.partner, pairOperations(g, choice).partner);
+        PairingState state(g);
+        const int alone = state.cost();
+        for (const int item : state.items())
+            if (!pairing.alone(item) && !pairing.upper[item])
+                state.join(item, pairing.partner[item]);
+        state.commit();
+        EXPECT_LE(state.cost(), alone) << choice.text();
+    }
+}
+
+// Whatever happened on the way: moves that were taken back leave nothing.
+TEST_P(Pairings, CostsDependOnThePairsAlone) {
+    const Graph g = graph();
+    PairingState state(g);
+    const std::vector<int>& items = state.items();
+    unsigned random = 1;
+    const auto any = [&] { return items[(random = random * 1664525u + 1013904223u) % items.size()]; };
+    for (int round = 0; round < 300; ++round) {
+        const int before = state.cost();
+        for (int move = 0; move < 5; ++move) {
+            const int a = any(), b = any();
+            if (state.compatible(a, b)) state.join(a, b);
+            else if (round % 4 == 0) state.dissolve(a);
+            else state.exchangeHalves(a);
+        }
+        if (round % 3 == 0) {
+            state.commit();
+        } else {
+            state.rollBack();
+            ASSERT_EQ(state.cost(), before);
+        }
+    }
+    PairingState again(g);
+    for (const int item : items)
+        if (!state.pairing().alone(item) && !state.pairing().upper[item])
+            again.join(item, state.pairing().partner[item]);
+    again.commit();
+    EXPECT_EQ(again.cost(), state.cost());
+}
+
+// And every item is computed once, every output stored once.
+TEST_P(Pairings, ProgramsHaveOperandsBeforeTheirUsers) {
+    const Graph g = graph();
+    const Pairing pairing = pairOperations(g, choices[1]);
+    const auto program = wideProgram(g, element(), Packed::neither, pairing);
+    std::multiset<int> stored;
+    for (int i = 0; i < static_cast<int>(program->operations().size()); ++i) {
+        const Operation& operation = program->operations()[i];
+        for (const int operand : operation.operands) EXPECT_LT(operand, i);
+        stored.insert(operation.outputs.begin(), operation.outputs.end());
+    }
+    for (int output = 0; output < static_cast<int>(g.outputs().size()); ++output) {
+        const int item = static_cast<int>(g.nodes().size()) + output;
+        EXPECT_EQ(stored.count(output), pairing.upper[item] ? 0u : 1u);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, Pairings,
+                         testing::Values(Case{"DFT_CToC", "64fc", 12}, Case{"DFT_CToC", "64fc", 17},
+                                         Case{"DFT_CToC", "32fc", 12}, Case{"DFT_CToC", "32fc", 17},
+                                         Case{"DFTFwd_RToPacked", "64f", 15},
+                                         Case{"DFTFwd_RToPacked", "32f", 16},
+                                         Case{"DFTInv_PackedToR", "32f", 15},
+                                         Case{"Hartley", "64f", 16}));
+
+TEST(PairingChoice, ReadsBackAsItPrints) {
+    for (const PairingChoice& choice : choices)
+        EXPECT_EQ(PairingChoice::parse(choice.text()).text(), choice.text());
+    EXPECT_THROW(PairingChoice::parse("1:1"), std::invalid_argument);
+    EXPECT_EQ(ScheduleChoice::parse("24:0:1:sums:0/-12:2:60").text(), "24:0:1:sums:0/-12:2:60");
+}
+
+}   // namespace
