@@ -27,7 +27,8 @@ std::vector<Kernel> kernels() {
     for (const registry::Family& family : registry::families())
         for (const registry::Element* element : family.elements)
             for (int length = family.first; length <= family.last; ++length) {
-                const bool copied = registry::hasUnalignedCopy(family, length, *element);
+                const bool copied = !loadedLibrary().variant &&
+                                    registry::hasUnalignedCopy(family, length, *element);
                 const std::string copy =
                     copied ? registry::unalignedName(family, length, *element) : "";
                 const bool buffer = registry::usesBuffer(family, length);

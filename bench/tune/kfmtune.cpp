@@ -74,30 +74,34 @@ bool isPaired(const Candidate& candidate) {
     return candidate.schedule.find('/') != std::string::npos;
 }
 
-// The fastest over both patterns; with its operations in pairs only where that costs neither.
-std::string fastest(const std::vector<Candidate>& candidates, const std::string& current,
-                    const CallPatterns& patterns, const Options& options) {
+// The fastest over both patterns.
+Candidate fastest(const std::vector<Candidate>& field, const std::string& current,
+                  const CallPatterns& patterns, int batches) {
+    std::vector<bench::Subject> contestants;
+    for (const Candidate& candidate : field)
+        contestants.push_back(patterns.both(candidate.function));
+    const int winner = findFastest(contestants, indexOf(field, current), batches);
+    std::printf("%-24s %8.2f ns, first %8.2f; ", field[winner].schedule.c_str(),
+                contestants[winner].minimum(), contestants[0].minimum());
+    return field[winner];
+}
+
+// With its operations in pairs only where that costs in neither pattern.
+Candidate choose(std::vector<Candidate> field, const std::string& current,
+                 const CallPatterns& patterns, const Options& options) {
     const bench::PinnedToCore pinned(options.core);
-    const auto choose = [&](const std::vector<Candidate>& field) {
-        std::vector<bench::Subject> contestants;
-        for (const Candidate& candidate : field)
-            contestants.push_back(patterns.both(candidate.function));
-        const int incumbent = indexOf(field, current);
-        const int winner = findFastest(contestants, incumbent, options.batches);
-        std::printf("%-24s %8.2f ns, first %8.2f; ", field[winner].schedule.c_str(),
-                    contestants[winner].minimum(), contestants[0].minimum());
-        return field[winner];
-    };
-    Candidate winner = choose(candidates);
-    if (isPaired(winner)) {
-        std::vector<Candidate> alone;
-        std::ranges::copy_if(candidates, std::back_inserter(alone), std::not_fn(isPaired));
-        const Candidate reference = choose(alone);
-        constexpr int batches = 40;
-        if (!patterns.worthwhile(winner.function, reference.function, batches)) winner = reference;
+    std::vector<Candidate> alone;
+    std::ranges::copy_if(field, std::back_inserter(alone), std::not_fn(isPaired));
+    const Candidate reference = fastest(alone, current, patterns, options.batches);
+    constexpr int batches = 40;
+    while (field.size() > alone.size()) {
+        const Candidate winner = fastest(field, current, patterns, options.batches);
+        if (!isPaired(winner) ||
+            patterns.worthwhile(winner.function, reference.function, batches))
+            return winner;
+        std::erase_if(field, [&](const Candidate& each) { return each.schedule == winner.schedule; });
     }
-    std::printf("%s of %zu\n", winner.schedule.c_str(), candidates.size());
-    return winner.schedule;
+    return reference;
 }
 
 std::vector<KernelSource> kernels(const registry::Family& family, const registry::Element& element,
@@ -116,12 +120,20 @@ void tune(const KernelSource& kernel, const registry::Element& element, const Wo
     const KernelName name{options.target, kernel.element, kernel.length};
     std::printf("%-18s ", kernel.stem().c_str());
     std::fflush(stdout);
-    const std::vector<Candidate> candidates = workshop.make(kernel);
     const CallPatterns patterns{
         std::make_shared<const bench::Signals>(kernel.length, element),
         std::make_shared<const bench::Signals>(kernel.length, element, false, true)};
-    requireSameBits(candidates, *patterns.apart, kernel.length * element.bytes);
-    table.choose(name, fastest(candidates, table.find(name), patterns, options));
+    std::vector<Candidate> candidates;
+    const auto winnerWith = [&](const std::vector<std::string>& schedules) {
+        std::ranges::move(workshop.make(kernel, schedules), std::back_inserter(candidates));
+        requireSameBits(candidates, *patterns.apart, kernel.length * element.bytes);
+        return choose(candidates, table.find(name), patterns, options).schedule;
+    };
+    std::string winner = winnerWith(workshop.schedules(kernel));
+    const std::vector<std::string> further = workshop.schedules(kernel, winner);
+    if (!further.empty()) winner = winnerWith(further);
+    std::printf("%s of %zu\n", winner.c_str(), candidates.size());
+    table.choose(name, winner);
     // At once, so that an interrupted run keeps what it has found.
     table.write();
 }

@@ -92,11 +92,14 @@ std::string Workshop::generating(const char* command, const KernelSource& kernel
            kernel.element + " --kernels " + kernel.source + " --target " + target;
 }
 
-std::vector<std::string> Workshop::schedules(const KernelSource& kernel) const {
+std::vector<std::string> Workshop::schedules(const KernelSource& kernel,
+                                             const std::string& winner) const {
     std::vector<std::string> result;
-    std::istringstream lines(outputOf(generating("candidates", kernel)));
+    std::istringstream lines(outputOf(generating("candidates", kernel) +
+                                      (winner.empty() ? "" : " --after " + winner)));
     for (std::string line; std::getline(lines, line);) result.push_back(line);
-    if (result.empty()) throw std::runtime_error("the generator offers no schedules");
+    if (result.empty() && winner.empty())
+        throw std::runtime_error("the generator offers no schedules");
     return result;
 }
 
@@ -118,10 +121,10 @@ std::vector<std::size_t> Workshop::distinct(std::size_t count) const {
     return result;
 }
 
-std::vector<Candidate> Workshop::make(const KernelSource& kernel) const {
+std::vector<Candidate> Workshop::make(const KernelSource& kernel,
+                                      const std::vector<std::string>& choices) const {
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
-    const std::vector<std::string> choices = schedules(kernel);
     generate(kernel, choices);
     const std::vector<std::size_t> chosen = distinct(choices.size());
     const std::string compile = compiler(kernel) + " -shared -o ";

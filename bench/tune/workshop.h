@@ -33,13 +33,17 @@ public:
     Workshop(std::string kernelgen, std::string target, std::string generated,
              std::filesystem::path compileCommands, std::filesystem::path folder);
 
-    // In the order of the generator's list; of candidates with the same code only the first.
-    std::vector<Candidate> make(const KernelSource& kernel) const;
+    // The generator's list, of which a kernel has two rounds at most: the second is what may be
+    // better than the winner of the first.
+    std::vector<std::string> schedules(const KernelSource& kernel,
+                                       const std::string& winner = {}) const;
+    // In the order of the list; of candidates with the same code only the first.
+    std::vector<Candidate> make(const KernelSource& kernel,
+                                const std::vector<std::string>& schedules) const;
 
 private:
     std::string compiler(const KernelSource& kernel) const;
     std::string path(std::size_t candidate, const char* extension) const;
-    std::vector<std::string> schedules(const KernelSource& kernel) const;
     std::string generating(const char* command, const KernelSource& kernel) const;
     void generate(const KernelSource& kernel, const std::vector<std::string>& schedules) const;
     std::vector<std::size_t> distinct(std::size_t count) const;

@@ -75,19 +75,20 @@ std::string functionRow(const std::string& name, const Family& family, const Ele
 }   // namespace
 
 std::string kernelFunctions(const Family& family, int length, const Element& element,
-                            const std::string& kernel) {
+                            const Target& target, const std::string& kernel) {
     const std::string head = "(" + parameters(family, element) + ") {\n";
     const auto status = [&](const std::string& memory) {
         return "kfm::runKernel<" + kernel + ", kfm::simd::" + memory +
                (element.doublePrecision ? "Double" : "Single") + ">(" + arguments(family) + ");\n";
     };
+    const std::string name = "KfmStatus " + registry::functionName(family, length, element);
+    if (!target.splitsByAlignment() || !registry::testsAlignment(family, length, element))
+        return name + head + "    return " + status("Unaligned") + "}\n";
     const std::string copy = registry::unalignedName(family, length, element);
     const bool hasCopy = registry::hasUnalignedCopy(family, length, element);
     std::string text;
     if (hasCopy) text += "KfmStatus " + copy + head + "    return " + status("Unaligned") + "}\n";
-    text += "KfmStatus " + registry::functionName(family, length, element) + head;
-    if (!registry::testsAlignment(family, length, element))
-        return text + "    return " + status("Unaligned") + "}\n";
+    text += name + head;
     text += "    if (kfm::misaligned(src) || kfm::misaligned(dst))";
     // Without its end the compiler lets both paths share the moves that suit either.
     text += hasCopy ? "\n        return " + copy + "(" + arguments(family) + ");\n"

@@ -5,15 +5,17 @@
 #include <string>
 #include <string_view>
 
+#include "kernelgen/target.h"
 #include "registry/registry.h"
 
 namespace kfm::kernelgen {
 
 // The functions of one kernel, for a block of C linkage: the exported one, which tests alignment
-// where the registry says so, and its unaligned copy where it has one. `kernel` is the type that
-// runKernel() takes.
+// where the registry says so and the target gains by it, and its unaligned copy where it has one.
+// `kernel` is the type that runKernel() takes.
 std::string kernelFunctions(const registry::Family& family, int length,
-                            const registry::Element& element, const std::string& kernel);
+                            const registry::Element& element, const Target& target,
+                            const std::string& kernel);
 
 // Linker version script that exports the registry's names and nothing else.
 std::string symbolMap();

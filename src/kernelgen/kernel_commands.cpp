@@ -100,12 +100,15 @@ std::string kernelSource(std::string_view source, int length, const Element& ele
 }
 
 std::vector<ScheduleChoice> candidates(std::string_view source, int length, const Element& element,
-                                       const Target& target) {
+                                       const Target& target, std::string_view winner) {
     const KernelFamily& family = kernelFamily(source);
     if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no schedules");
-    const Graph graph = family.graph(length, element, target, false);
-    if (target.vectorBytes == 16 || graph.lanes() == 1) return scheduleCandidates();
-    return pairedCandidates(graph, family.choice(length, element, target));
+    const bool wide = target.vectorBytes > 16;
+    if (!winner.empty())
+        return wide ? orderCandidates(ScheduleChoice::parse(winner)) : std::vector<ScheduleChoice>();
+    if (!wide) return scheduleCandidates();
+    return pairingCandidates(family.graph(length, element, target, false),
+                             family.choice(length, element, target));
 }
 
 std::string explain(std::string_view source, int length, const Element& element) {

@@ -17,9 +17,11 @@ std::string kernelSource(std::string_view source, int length, const registry::El
                          const Target& target, std::string_view schedule = {},
                          std::string_view family = {});
 
-// The schedules, and where vectors are wide enough the pairings, from which the tuner chooses.
+// The schedules, and where vectors are wide enough the pairings, from which the tuner chooses; then
+// what may be better than the winner of those.
 std::vector<ScheduleChoice> candidates(std::string_view source, int length,
-                                       const registry::Element& element, const Target& target);
+                                       const registry::Element& element, const Target& target,
+                                       std::string_view winner = {});
 
 // Factor tree, lane mapping, operation counts.
 std::string explain(std::string_view source, int length, const registry::Element& element);

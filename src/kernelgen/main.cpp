@@ -203,7 +203,8 @@ void printCandidates(const Arguments& arguments) {
     const KernelName kernel(arguments);
     std::string text;
     for (const ScheduleChoice& choice :
-         candidates(kernel.source, kernel.length, *kernel.element, target(arguments)))
+         candidates(kernel.source, kernel.length, *kernel.element, target(arguments),
+                    arguments.option("--after", "")))
         text += choice.text() + "\n";
     writeResult(arguments, text);
 }
@@ -226,7 +227,7 @@ constexpr Command commands[] = {
     {"errors", "<N> <element> [--signals <count>] \n         [--by mean|impulses] [--tries <count>]",
      "search for a factor tree with smaller errors", printErrors},
     {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
-    {"candidates", "<N> <element> [--target <target>]",
+    {"candidates", "<N> <element> [--target <target>] [--after <winner>]",
      "the schedules and pairings from which the tuner chooses", printCandidates},
     {"declarations", "[--into <header>]", "print the C declarations, or renew them in a header",
      printDeclarations},

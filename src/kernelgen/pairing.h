@@ -20,6 +20,7 @@ namespace kfm::kernelgen {
 struct Pairing {
     std::vector<int> partner;   // -1: alone
     std::vector<char> upper;    // whether an item is the upper half of its pair
+    bool loadsApart = false;    // even what stands side by side is loaded by halves
 
     bool alone(int item) const { return partner[item] < 0; }
     // Whether a and b are a pair in this order.
@@ -31,8 +32,9 @@ struct PairingChoice {
     int start = 1;   // outputs k and k + start; 0: from nothing; -s: outputs k and s - k
     int seed = 1;
     int moves = 60;   // tried per operation
+    bool loadsApart = false;
 
-    static PairingChoice parse(std::string_view text);   // "1:1:60"
+    static PairingChoice parse(std::string_view text);   // "1:1:60" or "1:1:60:apart"
     std::string text() const;
 };
 

@@ -196,21 +196,30 @@ std::vector<ScheduleChoice> scheduleCandidates() {
     return candidates;
 }
 
-std::vector<ScheduleChoice> pairedCandidates(const Graph& g, const ScheduleChoice& recorded) {
-    constexpr std::size_t pairings = 3;
+std::vector<ScheduleChoice> pairingCandidates(const Graph& g, const ScheduleChoice& recorded) {
+    constexpr std::size_t pairings = 2;
     std::vector<std::optional<PairingChoice>> ways = {std::nullopt};
-    for (const PairingChoice& pairing : cheapestPairings(g, pairings)) ways.push_back(pairing);
+    if (g.lanes() > 1)
+        for (PairingChoice pairing : cheapestPairings(g, pairings))
+            for (const bool apart : {false, true}) {
+                pairing.loadsApart = apart;
+                ways.push_back(pairing);
+            }
     std::vector<ScheduleChoice> candidates = {recorded};
-    const ScheduleChoice orders[] = {recorded,
-                                     {24, 0, true, Pin::sums, false},
-                                     {6, 0, false, Pin::all, false},
-                                     {80, 0, false, Pin::none, false},
-                                     {80, 0, true, Pin::sums, false}};
-    for (ScheduleChoice order : orders)
+    for (ScheduleChoice order : {recorded, ScheduleChoice{24, 0, true, Pin::sums, false}})
         for (const std::optional<PairingChoice>& pairing : ways) {
             order.pairing = pairing;
             candidates.push_back(order);
         }
+    return candidates;
+}
+
+std::vector<ScheduleChoice> orderCandidates(const ScheduleChoice& winner) {
+    std::vector<ScheduleChoice> candidates = {{24, 0, false, Pin::sums, false},
+                                              {80, 0, true, Pin::sums, false},
+                                              {6, 0, false, Pin::all, false},
+                                              {80, 0, false, Pin::none, false}};
+    for (ScheduleChoice& candidate : candidates) candidate.pairing = winner.pairing;
     return candidates;
 }
 

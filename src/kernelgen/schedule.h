@@ -44,9 +44,10 @@ ScheduleChoice recordedChoice(const Rows& rows, const Target& target, Matches ma
 }
 
 std::vector<ScheduleChoice> scheduleCandidates();
-// The same for vectors that pairs fill: a few orders for each of the cheapest pairings, and without,
-// beginning with what is on record.
-std::vector<ScheduleChoice> pairedCandidates(const Graph& g, const ScheduleChoice& recorded);
+// The same for vectors that pairs fill, in two rounds: the cheapest pairings, and none, in the order
+// on record and in one that often wins; then other orders of the winner.
+std::vector<ScheduleChoice> pairingCandidates(const Graph& g, const ScheduleChoice& recorded);
+std::vector<ScheduleChoice> orderCandidates(const ScheduleChoice& winner);
 
 // Things in execution order, from the things that each is computed from (smaller numbers).
 std::vector<int> schedule(const std::vector<std::vector<int>>& operands,

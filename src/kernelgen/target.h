@@ -12,6 +12,9 @@ struct Target {
     int vectorBytes;
     int vectorRegisters;
     std::string_view likeness;   // whose schedules serve until its own are measured
+
+    // Processors with longer vectors than 16 bytes move them from and to any address at full speed.
+    bool splitsByAlignment() const { return vectorBytes == 16; }
 };
 
 std::span<const Target> targets();

@@ -205,7 +205,8 @@ private:
         const Node &low = g_.nodes()[what.low], &high = g_.nodes()[what.high];
         switch (low.op) {
         case Op::load:
-            return (wholeElements() ? "loadTwo<" : "loadFour<") +
+            return std::string(wholeElements() ? "loadTwo" : "loadFour") +
+                   (pairing_.loadsApart ? "Apart<" : "<") +
                    elements(Packed::source, low, high) + ">(src)";
         case Op::add:
         case Op::sub:

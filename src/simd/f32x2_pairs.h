@@ -55,9 +55,13 @@ KFM_OPERATION void storePair(float* p, f32x2 v) {
     else storeHalves(p + i0, p + i1, v);
 }
 template <int i0, int i1, int i2, int i3>
+KFM_OPERATION f32x4 loadFourApart(const float* p) {
+    return _mm_movelh_ps(loadPair<i0, i1>(p), loadPair<i2, i3>(p));
+}
+template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f32x4 loadFour(const float* p) {
     if constexpr (i1 == i0 + 1 && i2 == i0 + 2 && i3 == i0 + 3) return _mm_loadu_ps(p + i0);
-    else return _mm_movelh_ps(loadPair<i0, i1>(p), loadPair<i2, i3>(p));
+    else return loadFourApart<i0, i1, i2, i3>(p);
 }
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION void storeFour(float* p, f32x4 v) {

@@ -80,9 +80,13 @@ KFM_OPERATION void storePair(Kfm32fc* p, f32x4 v) {
     else storeHalves(p + i0, p + i1, v);
 }
 template <int i0, int i1, int i2, int i3>
+KFM_OPERATION f32x8 loadFourApart(const Kfm32fc* p) {
+    return _mm256_set_m128(loadPair<i2, i3>(p), loadPair<i0, i1>(p));
+}
+template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f32x8 loadFour(const Kfm32fc* p) {
     if constexpr (i1 == i0 + 1 && i2 == i0 + 2 && i3 == i0 + 3) return _mm256_loadu_ps(&p[i0].re);
-    else return _mm256_set_m128(loadPair<i2, i3>(p), loadPair<i0, i1>(p));
+    else return loadFourApart<i0, i1, i2, i3>(p);
 }
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION void storeFour(Kfm32fc* p, f32x8 v) {

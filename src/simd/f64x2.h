@@ -55,7 +55,8 @@ KFM_OPERATION void storeHalves(double* low, double* high, f64x2 v) {
     storeHigh(high, v);
 }
 
-// A complex element at an odd address moves by halves, two real ones as a whole.
+// A complex element at an odd address moves by halves where the processor would take longer for the
+// whole, two real ones as a whole.
 struct AlignedDouble {
     KFM_OPERATION static f64x2 load(const Kfm64f* p) { return _mm_load_pd(p); }
     KFM_OPERATION static void store(Kfm64f* p, f64x2 v) { _mm_store_pd(p, v); }
@@ -70,8 +71,13 @@ struct AlignedDouble {
 struct UnalignedDouble {
     KFM_OPERATION static f64x2 load(const Kfm64f* p) { return _mm_loadu_pd(p); }
     KFM_OPERATION static void store(Kfm64f* p, f64x2 v) { _mm_storeu_pd(p, v); }
+#ifdef __AVX__
+    KFM_OPERATION static f64x2 load(const Kfm64fc* p) { return _mm_loadu_pd(&p->re); }
+    KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) { _mm_storeu_pd(&p->re, v); }
+#else
     KFM_OPERATION static f64x2 load(const Kfm64fc* p) { return loadHalves(&p->re, &p->im); }
     KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) { storeHalves(&p->re, &p->im, v); }
+#endif
 };
 
 }   // namespace kfm::simd

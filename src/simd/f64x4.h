@@ -73,13 +73,19 @@ KFM_OPERATION f64x4 constantHalves(const double* table, int index) {
 KFM_OPERATION f64x4 subtractFromZero(f64x4 a) { return _mm256_sub_pd(_mm256_setzero_pd(), a); }
 
 // Elements by their numbers: complex ones two to a vector, real ones four; of those -1 is left out.
+// Those that stand side by side move at once; "apart" they move by halves, which does not wait where
+// the halves were stored one by one just before.
+template <int i0, int i1>
+KFM_OPERATION f64x4 loadTwoApart(const Kfm64fc* p) {
+    return _mm256_insertf128_pd(asLower(_mm_loadu_pd(&p[i0].re)), _mm_loadu_pd(&p[i1].re), 1);
+}
 template <int i0, int i1>
 KFM_OPERATION f64x4 loadTwo(const Kfm64fc* p) {
     const double* const first = &p[i0].re;
     if constexpr (i1 == i0 + 1) return _mm256_loadu_pd(first);
     else if constexpr (i1 == i0)
         return _mm256_broadcast_pd(reinterpret_cast<const __m128d*>(first));
-    else return _mm256_insertf128_pd(asLower(_mm_loadu_pd(first)), _mm_loadu_pd(&p[i1].re), 1);
+    else return loadTwoApart<i0, i1>(p);
 }
 template <int i0, int i1>
 KFM_OPERATION void storeTwo(Kfm64fc* p, f64x4 v) {
@@ -105,9 +111,13 @@ KFM_OPERATION void storePair(double* p, f64x2 v) {
     else storeHalves(p + i0, p + i1, v);
 }
 template <int i0, int i1, int i2, int i3>
+KFM_OPERATION f64x4 loadFourApart(const double* p) {
+    return _mm256_set_m128d(loadPair<i2, i3>(p), loadPair<i0, i1>(p));
+}
+template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f64x4 loadFour(const double* p) {
     if constexpr (i1 == i0 + 1 && i2 == i0 + 2 && i3 == i0 + 3) return _mm256_loadu_pd(p + i0);
-    else return _mm256_set_m128d(loadPair<i2, i3>(p), loadPair<i0, i1>(p));
+    else return loadFourApart<i0, i1, i2, i3>(p);
 }
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION void storeFour(double* p, f64x4 v) {

@@ -63,7 +63,7 @@ std::string emit(int n, const Element& element, const Target& target, const Sche
             << (family->inverse() ? "inverse" : "forward") << ";\n    "
             << scaleFactors(n, Constant::inverseSqrt(n), element, element.doublePrecision ? 2 : 4)
             << "};\n\n";
-        exported << kernelFunctions(*family, n, element, kernel) << "\n";
+        exported << kernelFunctions(*family, n, element, target, kernel) << "\n";
     }
     out << "}   // namespace\n\nextern \"C\" {\n\n" << exported.str() << "}\n";
     return out.str();
