@@ -78,11 +78,20 @@ std::string NodeText::address(Packed side, int element) const {
     return packed_ == side ? "Memory::at(" + index + ")" : index;
 }
 
+std::string NodeText::addresses(Packed side, std::initializer_list<int> elements) const {
+    std::string result;
+    for (const int element : elements)
+        result += (result.empty() ? "" : ", ") + (element < 0 ? "-1" : address(side, element));
+    return result;
+}
+
 std::string NodeText::load(const Node& node) const {
     const std::string first = "src + " + address(Packed::source, node.first);
     const std::string second = "src + " + address(Packed::source, node.second);
     if (complex_ && !single_) return "Memory::load(" + first + ")";
     if (g_.lanes() == 1) return "load(" + first + ")";
+    if (!complex_)
+        return "loadPair<" + addresses(Packed::source, {node.first, node.second}) + ">(src)";
     if (node.second < 0) return "loadLow(" + first + ")";
     if (wholeVector(node.first, node.second)) return "Memory::loadPair(" + first + ")";
     return "loadHalves(" + first + ", " + second + ")";
@@ -90,7 +99,7 @@ std::string NodeText::load(const Node& node) const {
 
 // An aligned vector of two neighbours starts at an even element.
 bool NodeText::wholeVector(int first, int second) const {
-    return complex_ && first % 2 == 0 && second == first + 1;
+    return first % 2 == 0 && second == first + 1;
 }
 
 std::string NodeText::store(const Output& output, const std::string& name) {
@@ -101,8 +110,9 @@ std::string NodeText::store(const Output& output, const std::string& name) {
     const std::string value = wide ? "narrow(" + product + ")" : product;
     std::string call;
     if (complex_ && !single_) call = "Memory::store(" + first;
+    else if (!complex_ && g_.lanes() == 2)
+        call = "storePair<" + addresses(Packed::destination, {output.first, output.second}) + ">(dst";
     else if (output.second < 0) call = "storeLow(" + first;
-    else if (output.first < 0) call = "storeHigh(" + second;
     else if (wholeVector(output.first, output.second)) call = "Memory::storePair(" + first;
     else call = "storeHalves(" + first + ", " + second;
     return call + ", " + value + ");\n";

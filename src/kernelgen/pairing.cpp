@@ -66,7 +66,9 @@ private:
         for (int k = 0; k < count && choice_.start != 0; ++k) {
             const int other = choice_.start > 0 ? k + choice_.start : -choice_.start - k;
             if (other < 0 || other >= count || itemOf[k] < 0 || itemOf[other] < 0) continue;
-            if (state_.pairing().alone(itemOf[k]) && state_.pairing().alone(itemOf[other]))
+            const bool alone =
+                state_.pairing().alone(itemOf[k]) && state_.pairing().alone(itemOf[other]);
+            if (alone && state_.compatible(itemOf[k], itemOf[other]))
                 cascade(itemOf[k], itemOf[other], count * nodes, true, false);
             state_.commit();
         }

@@ -110,13 +110,8 @@ private:
 
     template <class Access>
     std::string elements(Packed side, const Access& a, const Access& b) const {
-        std::string result;
-        std::vector<int> numbers = {a.first, a.second, b.first, b.second};
-        if (wholeElements()) numbers = {a.first, b.first};
-        for (const int number : numbers)
-            result += (result.empty() ? "" : ", ") +
-                      (number < 0 ? std::string("-1") : text_.address(side, number));
-        return result;
+        if (wholeElements()) return text_.addresses(side, {a.first, b.first});
+        return text_.addresses(side, {a.first, a.second, b.first, b.second});
     }
 
     int add(WideOperation what, std::vector<Value> values) {

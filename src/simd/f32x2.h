@@ -46,4 +46,20 @@ KFM_OPERATION void storeHalves(float* low, float* high, f32x2 v) {
     storeHigh(high, v);
 }
 
+
+// Elements by their numbers; -1 is left out. Neighbours move as one where any address will do.
+template <int i0, int i1>
+KFM_OPERATION f32x2 loadPair(const float* p) {
+    if constexpr (i1 < 0) return loadLow(p + i0);
+    else if constexpr (movesAnywhere && i1 == i0 + 1) return HalfSingle::load(p + i0);
+    else return loadHalves(p + i0, p + i1);
+}
+template <int i0, int i1>
+KFM_OPERATION void storePair(float* p, f32x2 v) {
+    if constexpr (i1 < 0) storeLow(p + i0, v);
+    else if constexpr (i0 < 0) storeHigh(p + i1, v);
+    else if constexpr (movesAnywhere && i1 == i0 + 1) HalfSingle::store(p + i0, v);
+    else storeHalves(p + i0, p + i1, v);
+}
+
 }   // namespace kfm::simd

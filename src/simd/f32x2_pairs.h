@@ -40,20 +40,6 @@ KFM_OPERATION f32x4 selectHalves(f32x4 a) {
     else return _mm_shuffle_ps(a, a, i0 | i1 << 2 | (2 + j0) << 4 | (2 + j1) << 6);
 }
 
-template <int i0, int i1>
-KFM_OPERATION f32x2 loadPair(const float* p) {
-    if constexpr (i1 < 0) return loadLow(p + i0);
-    else if constexpr (i1 == i0 + 1)
-        return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p + i0)));
-    else return loadHalves(p + i0, p + i1);
-}
-template <int i0, int i1>
-KFM_OPERATION void storePair(float* p, f32x2 v) {
-    if constexpr (i1 < 0) storeLow(p + i0, v);
-    else if constexpr (i0 < 0) storeHigh(p + i1, v);
-    else if constexpr (i1 == i0 + 1) _mm_storel_pi(reinterpret_cast<__m64*>(p + i0), v);
-    else storeHalves(p + i0, p + i1, v);
-}
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f32x4 loadFourApart(const float* p) {
     return _mm_movelh_ps(loadPair<i0, i1>(p), loadPair<i2, i3>(p));

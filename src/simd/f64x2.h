@@ -55,6 +55,21 @@ KFM_OPERATION void storeHalves(double* low, double* high, f64x2 v) {
     storeHigh(high, v);
 }
 
+// Elements by their numbers; -1 is left out. Neighbours move as one where any address will do.
+template <int i0, int i1>
+KFM_OPERATION f64x2 loadPair(const double* p) {
+    if constexpr (i1 < 0) return loadLow(p + i0);
+    else if constexpr (movesAnywhere && i1 == i0 + 1) return _mm_loadu_pd(p + i0);
+    else return loadHalves(p + i0, p + i1);
+}
+template <int i0, int i1>
+KFM_OPERATION void storePair(double* p, f64x2 v) {
+    if constexpr (i1 < 0) storeLow(p + i0, v);
+    else if constexpr (i0 < 0) storeHigh(p + i1, v);
+    else if constexpr (movesAnywhere && i1 == i0 + 1) _mm_storeu_pd(p + i0, v);
+    else storeHalves(p + i0, p + i1, v);
+}
+
 // A complex element at an odd address moves by halves where the processor would take longer for the
 // whole, two real ones as a whole.
 struct AlignedDouble {
@@ -71,13 +86,14 @@ struct AlignedDouble {
 struct UnalignedDouble {
     KFM_OPERATION static f64x2 load(const Kfm64f* p) { return _mm_loadu_pd(p); }
     KFM_OPERATION static void store(Kfm64f* p, f64x2 v) { _mm_storeu_pd(p, v); }
-#ifdef __AVX__
-    KFM_OPERATION static f64x2 load(const Kfm64fc* p) { return _mm_loadu_pd(&p->re); }
-    KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) { _mm_storeu_pd(&p->re, v); }
-#else
-    KFM_OPERATION static f64x2 load(const Kfm64fc* p) { return loadHalves(&p->re, &p->im); }
-    KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) { storeHalves(&p->re, &p->im, v); }
-#endif
+    KFM_OPERATION static f64x2 load(const Kfm64fc* p) {
+        if constexpr (movesAnywhere) return _mm_loadu_pd(&p->re);
+        else return loadHalves(&p->re, &p->im);
+    }
+    KFM_OPERATION static void store(Kfm64fc* p, f64x2 v) {
+        if constexpr (movesAnywhere) _mm_storeu_pd(&p->re, v);
+        else storeHalves(&p->re, &p->im, v);
+    }
 };
 
 }   // namespace kfm::simd

@@ -97,19 +97,6 @@ KFM_OPERATION void storeTwo(Kfm64fc* p, f64x4 v) {
     }
 }
 
-template <int i0, int i1>
-KFM_OPERATION f64x2 loadPair(const double* p) {
-    if constexpr (i1 < 0) return loadLow(p + i0);
-    else if constexpr (i1 == i0 + 1) return _mm_loadu_pd(p + i0);
-    else return loadHalves(p + i0, p + i1);
-}
-template <int i0, int i1>
-KFM_OPERATION void storePair(double* p, f64x2 v) {
-    if constexpr (i1 < 0) storeLow(p + i0, v);
-    else if constexpr (i0 < 0) storeHigh(p + i1, v);
-    else if constexpr (i1 == i0 + 1) _mm_storeu_pd(p + i0, v);
-    else storeHalves(p + i0, p + i1, v);
-}
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f64x4 loadFourApart(const double* p) {
     return _mm256_set_m128d(loadPair<i2, i3>(p), loadPair<i0, i1>(p));

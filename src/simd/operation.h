@@ -3,3 +3,14 @@
 #pragma once
 
 #define KFM_OPERATION [[gnu::always_inline]] inline
+
+namespace kfm::simd {
+
+// Whether vectors move from and to any address as fast as from and to aligned ones.
+#ifdef __AVX2__
+inline constexpr bool movesAnywhere = true;
+#else
+inline constexpr bool movesAnywhere = false;
+#endif
+
+}   // namespace kfm::simd
