@@ -117,6 +117,7 @@ INSTANTIATE_TEST_SUITE_P(, Pairings,
                                          Case{"DFT_CToC", "32fc", 12}, Case{"DFT_CToC", "32fc", 17},
                                          Case{"DFTFwd_RToPacked", "64f", 15},
                                          Case{"DFTFwd_RToPacked", "32f", 16},
+                                         Case{"DFTInv_PackedToR", "32f", 5},   // in both precisions
                                          Case{"DFTInv_PackedToR", "32f", 15},
                                          Case{"Hartley", "64f", 16}));
 
@@ -124,7 +125,9 @@ TEST(PairingChoice, ReadsBackAsItPrints) {
     for (const PairingChoice& choice : choices)
         EXPECT_EQ(PairingChoice::parse(choice.text()).text(), choice.text());
     EXPECT_THROW(PairingChoice::parse("1:1"), std::invalid_argument);
-    EXPECT_EQ(ScheduleChoice::parse("24:0:1:sums:0/-12:2:60").text(), "24:0:1:sums:0/-12:2:60");
+    EXPECT_THROW(PairingChoice::parse("1:1:60:afar"), std::invalid_argument);
+    for (const char* text : {"24:0:1:sums:0/-12:2:60", "6:0:0:all:0/0:1:60:apart"})
+        EXPECT_EQ(ScheduleChoice::parse(text).text(), text);
 }
 
 }   // namespace
