@@ -12,12 +12,20 @@ namespace kfm::dct4 {
 
 using namespace simd;
 
-// Columns of a stage do not meet, so any width gives the same bits. Rows and tables come in fours.
+// Columns of a stage do not meet, so any width gives the same bits.
 template <class Real>
-using StageVector = VectorUpTo<Real, 4>;
+inline constexpr int lanes = vectorBytes / static_cast<int>(sizeof(Real));
 
+template <class Real, int L>
+using LanesOf = typename VectorWith<Real, L>::Type;
 template <class Real>
-inline constexpr int lanes = static_cast<int>(sizeof(StageVector<Real>) / sizeof(Real));
+using StageVector = LanesOf<Real, lanes<Real>>;
+
+// The lanes for a number of rows or columns that is a multiple of four.
+template <class Real>
+constexpr int lanesFor(int count) {
+    return count % lanes<Real> == 0 ? lanes<Real> : 4;
+}
 
 // A row of the generated constants, which fills 16 bytes.
 template <class Vector, class Real>
@@ -57,27 +65,38 @@ private:
     std::ptrdiff_t odd_[4];
 };
 
+// Two vectors of 16 bytes in one; only the first of them where that is all it holds.
+template <class Real, int L>
+LanesOf<Real, L> loadParts(const Real* low, const Real* high) {
+    using Part = VectorOf<Real>;
+    if constexpr (sizeof(LanesOf<Real, L>) == sizeof(Part)) return loadAligned<Part>(low);
+    else return join<0, 0>(asLower(loadAligned<Part>(low)), asLower(loadAligned<Part>(high)));
+}
+
 // Numbered slots as vectors a fixed distance apart; one behind the other where they are read.
-template <class Real>
+template <class Real, int L = lanes<Real>>
 struct RowReader {
     const Real* first;
 
-    StageVector<Real> load(int row) const { return loadAligned<StageVector<Real>>(first + row * lanes<Real>); }
+    LanesOf<Real, L> load(int row) const {
+        return loadAligned<LanesOf<Real, L>>(first + row * L);
+    }
 };
 
-template <class Real>
+template <class Real, int L = lanes<Real>>
 struct RowWriter {
     Real* first;
     std::ptrdiff_t distance;
 
-    void store(int row, StageVector<Real> v) const { storeAligned(first + row * distance, v); }
+    void store(int row, LanesOf<Real, L> v) const { storeAligned(first + row * distance, v); }
 };
 
 // Elements that lie side by side, between places of any alignment.
 template <class Real, int count>
 void copyElements(const Real* from, Real* to) {
 #pragma GCC unroll 16
-    for (int i = 0; i < count; i += lanes<Real>) storeUnaligned(to + i, loadUnaligned<StageVector<Real>>(from + i));
+    for (int i = 0; i < count; i += lanes<Real>)
+        storeUnaligned(to + i, loadUnaligned<StageVector<Real>>(from + i));
 }
 
 // The last of them first; the destination is aligned.

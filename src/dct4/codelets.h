@@ -49,7 +49,7 @@ void twiddleStageRoot(Real* rows, const Real* table, int blockRows);
 // where len/d > 64, and all of `table`
 // (len elements: element (block i, column c, j) at 8di + 4c + j is the cosine, for odd c the sine,
 // of pi (2q+1)(2r+1) / 4len with q = 4i+j, r = c/2) and writes all of `dst`, which is not w. `len`
-// is a multiple of 8d.
+// is a multiple of 8d, from d = 16 up of 16d.
 template <class Real, int d>
 void outputStage(const Real* w, const Real* table, Real* dst, int len);
 

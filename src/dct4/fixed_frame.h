@@ -9,13 +9,13 @@ template <class Real, int n>
 struct FixedTransformNetwork;
 
 // Slots are elements, or where a vector of them starts.
-template <class Network, class Real>
+template <class Real, int L>
 struct ElementReader {
     const Real* first;
 
-    typename Network::Vector load(int element) const {
-        if constexpr (sizeof(typename Network::Vector) == sizeof(Real)) return first[element];
-        else return loadUnaligned<typename Network::Vector>(first + element);
+    LanesOf<Real, L> load(int element) const {
+        if constexpr (L == 1) return first[element];
+        else return loadUnaligned<LanesOf<Real, L>>(first + element);
     }
 };
 
@@ -31,7 +31,8 @@ struct ElementWriter {
 template <class Real, int n>
 void fixedTransform(const Real* src, Real* dst) {
     using Network = FixedTransformNetwork<Real, n>;
-    Network::run(ElementReader<Network, Real>{src}, ElementWriter<Real>{dst});
+    constexpr int L = Network::lanes;
+    Network::template run<LanesOf<Real, L>>(ElementReader<Real, L>{src}, ElementWriter<Real>{dst});
 }
 
 }   // namespace kfm::dct4

@@ -11,14 +11,14 @@ template <class Real, int m>
 struct InputBlockNetwork;
 
 // Slots k and m/2 + k: a_k upwards from `front`, b_k downwards from `back`.
-template <class Real, int half, class Front, class Back>
+template <class Real, int L, int half, class Front, class Back>
 struct MirroredReader {
     Front front;
     Back back;
 
-    StageVector<Real> load(int slot) const {
-        if (slot < half) return loadUnaligned<StageVector<Real>>(front[slot]);
-        return reverse(loadUnaligned<StageVector<Real>>(back[slot - half]));
+    LanesOf<Real, L> load(int slot) const {
+        if (slot < half) return loadUnaligned<LanesOf<Real, L>>(front[slot]);
+        return reverse(loadUnaligned<LanesOf<Real, L>>(back[slot - half]));
     }
 };
 
@@ -32,23 +32,24 @@ struct ConstantStride {
 // All groups of columns, where the compiler knows the length of w's rows.
 template <class Real, int m, int d>
 void inputStageOfRows(const Real* src, Real* w) {
-    constexpr int L = lanes<Real>;
-    using Reader = MirroredReader<Real, m / 2, ConstantStride<const Real, 2 * d>,
+    constexpr int L = lanesFor<Real>(d);
+    using Reader = MirroredReader<Real, L, m / 2, ConstantStride<const Real, 2 * d>,
                                   ConstantStride<const Real, -2 * d>>;
     for (int r = 0; r < d; r += L)
-        InputStageNetwork<Real, m>::run(Reader{{src + r}, {src + (m * d - r - L)}},
-                                        RowWriter<Real>{w + r, d});
+        InputStageNetwork<Real, m>::template run<LanesOf<Real, L>>(
+            Reader{{src + r}, {src + (m * d - r - L)}}, RowWriter<Real, L>{w + r, d});
 }
 
 // And where it does not.
 template <class Real, int m>
 void inputStageOfAnyRows(const Real* src, Real* w, int d) {
-    constexpr int L = lanes<Real>;
+    constexpr int L = lanesFor<Real>(4);
     using Stride = Strided<const Real, m / 2>;
-    using Reader = MirroredReader<Real, m / 2, Stride, Stride>;
+    using Reader = MirroredReader<Real, L, m / 2, Stride, Stride>;
     for (int r = 0; r < d; r += L)
-        InputStageNetwork<Real, m>::run(Reader{{src + r, 2 * d}, {src + (m * d - r - L), -2 * d}},
-                                        RowWriter<Real>{w + r, d});
+        InputStageNetwork<Real, m>::template run<LanesOf<Real, L>>(
+            Reader{{src + r, 2 * d}, {src + (m * d - r - L), -2 * d}},
+            RowWriter<Real, L>{w + r, d});
 }
 
 // Lengths are planned with m from 8 up, and d is m or half of it.
@@ -65,7 +66,8 @@ struct PairedRowReader {
     const Real* first;
 
     StageVector<Real> load(int slot) const {
-        return loadAligned<StageVector<Real>>(first + (slot < half ? 2 * slot : 2 * (slot - half) + 1) * rowLength);
+        const int row = slot < half ? 2 * slot : 2 * (slot - half) + 1;
+        return loadAligned<StageVector<Real>>(first + row * rowLength);
     }
 };
 
@@ -81,8 +83,8 @@ void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* 
         copyReversed<Real, rowLength>(back - (rowLength - 1), row + rowLength);
     }
     for (int column = 0; column < rowLength; column += lanes<Real>)
-        InputBlockNetwork<Real, m>::run(PairedRowReader<Real, m / 2>{rows + column},
-                                        RowWriter<Real>{rows + column, rowLength});
+        InputBlockNetwork<Real, m>::template run<StageVector<Real>>(
+            PairedRowReader<Real, m / 2>{rows + column}, RowWriter<Real>{rows + column, rowLength});
 }
 
 }   // namespace kfm::dct4

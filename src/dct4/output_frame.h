@@ -31,31 +31,42 @@ struct FoldedRows {
     }
 };
 
-// The elements of as many rows as a vector has lanes, column by column.
-template <class Real>
+// The elements of as many rows as a vector has lanes, column by column: the columns that stand side
+// by side in 16 bytes.
+template <class Real, int L>
 struct Columns {
-    StageVector<Real> column[lanes<Real>];
+    static constexpr int count = static_cast<int>(16 / sizeof(Real));
+    LanesOf<Real, L> column[count];
 
     template <class Rows>
     Columns(const Rows& rows, int offset) {
 #pragma GCC unroll 4
-        for (int j = 0; j < lanes<Real>; ++j) column[j] = loadAligned<StageVector<Real>>(rows[j] + offset);
+        for (int j = 0; j < count; ++j)
+            column[j] = loadParts<Real, L>(rows[j] + offset, rows[j + count] + offset);
         transpose(column);
     }
 };
 
+// What the table has for as many rows as a vector has lanes: four of them to a group.
+template <class Real, int d, int L>
+LanesOf<Real, L> loadFactors(const Real* group) {
+    if constexpr (L <= 4) return loadAligned<LanesOf<Real, L>>(group);
+    else return loadParts<Real, L>(group, group + 8 * d);
+}
+
 // P_r = c C_r - s T_r to vector r, R_r = s C_r + c T_r to vector d + r, for as many rows as a
-// vector has lanes. Cosines and sines stand four to a group in the table.
-template <class Real, int d, class Rows>
+// vector has lanes.
+template <class Real, int d, int L, class Rows>
 void rotateRows(const Rows& rows, const Real* table, Real* rotated) {
-    constexpr int L = lanes<Real>;
-    for (int r = 0; r < d; r += L) {
-        const Columns<Real> cosinePart(rows, r), sinePart(rows, d + r);
+    using Vector = LanesOf<Real, L>;
+    constexpr int columns = Columns<Real, L>::count;
+    for (int r = 0; r < d; r += columns) {
+        const Columns<Real, L> cosinePart(rows, r), sinePart(rows, d + r);
 #pragma GCC unroll 4
-        for (int j = 0; j < L; ++j) {
-            const StageVector<Real> C = cosinePart.column[j], T = sinePart.column[j];
-            const StageVector<Real> c = loadAligned<StageVector<Real>>(table + 8 * (r + j));
-            const StageVector<Real> s = loadAligned<StageVector<Real>>(table + 8 * (r + j) + 4);
+        for (int j = 0; j < columns; ++j) {
+            const Vector C = cosinePart.column[j], T = sinePart.column[j];
+            const Vector c = loadFactors<Real, d, L>(table + 8 * (r + j));
+            const Vector s = loadFactors<Real, d, L>(table + 8 * (r + j) + 4);
             storeAligned(rotated + (r + j) * L, sub(mul(c, C), mul(s, T)));
             storeAligned(rotated + (d + r + j) * L, add(mul(s, C), mul(c, T)));
         }
@@ -67,17 +78,18 @@ template <class Real, int d>
 struct RunWriter {
     Strided<Real, d> low, high;
 
-    void store(int slot, StageVector<Real> v) const {
+    void store(int slot, auto v) const {
         if (slot < d) storeUnaligned(low[slot], v);
         else storeUnaligned(high[slot - d], reverse(v));
     }
 };
 
-template <class Real, int d, class Rows, class Writer>
+template <class Real, int d, int L, class Rows, class Writer>
 void outputRows(const Rows& rows, const Real* table, int q, Writer writer) {
-    alignas(16) Real rotated[2 * d * lanes<Real>];
-    rotateRows<Real, d>(rows, table + std::ptrdiff_t(q / 4) * 8 * d + q % 4, rotated);
-    OutputStageNetwork<Real, d>::run(RowReader<Real>{rotated}, writer);
+    using Vector = LanesOf<Real, L>;
+    alignas(Vector) Real rotated[2 * d * L];
+    rotateRows<Real, d, L>(rows, table + std::ptrdiff_t(q / 4) * 8 * d + q % 4, rotated);
+    OutputStageNetwork<Real, d>::template run<Vector>(RowReader<Real, L>{rotated}, writer);
 }
 
 template <class Real>
@@ -112,9 +124,9 @@ void outputByLines(const Real* w, const Real* table, Real* dst, std::ptrdiff_t r
     for (std::ptrdiff_t q = 0; q < run / 2; q += line) {
         for (int row = 0; row < line; row += L) {
             const std::ptrdiff_t first = (q + row) * d;
-            outputRows<Real, d>(FoldedRows<Real, d>{w + first, w + (run - 2) * d - first}, table,
-                                static_cast<int>(q) + row,
-                                LineWriter<Real, d>{lines + row, lines + line - L - row});
+            outputRows<Real, d, L>(FoldedRows<Real, d>{w + first, w + (run - 2) * d - first}, table,
+                                   static_cast<int>(q) + row,
+                                   LineWriter<Real, d>{lines + row, lines + line - L - row});
         }
         for (int k = 0; k < d; ++k) {
             writeLine<Real, streaming>(lines + k * line, dst + k * run + q);
@@ -136,15 +148,22 @@ void outputOfRecursion(const Real* w, const Real* table, Real* dst, std::ptrdiff
     finishStreaming();
 }
 
+template <class Real, int d, int L>
+[[gnu::always_inline]] inline void outputOfRows(const Real* w, const Real* table, Real* dst, std::ptrdiff_t run) {
+    for (int q = 0; q < run / 2; q += L)
+        outputRows<Real, d, L>(ConsecutiveRows<Real, d>{w + std::ptrdiff_t(q) * 2 * d}, table, q,
+                               RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});
+}
+
 template <class Real, int d>
 void outputStage(const Real* w, const Real* table, Real* dst, int len) {
     constexpr int L = lanes<Real>;
     const std::ptrdiff_t run = len / d;
     if constexpr (d == rowLength)
         if (run > 64) return outputOfRecursion<Real, d>(w, table, dst, run);
-    for (int q = 0; q < run / 2; q += L)
-        outputRows<Real, d>(ConsecutiveRows<Real, d>{w + std::ptrdiff_t(q) * 2 * d}, table, q,
-                            RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});
+    if constexpr (d < 16 && L > 4)   // longer runs are multiples of sixteen
+        if (run % (2 * L) != 0) return outputOfRows<Real, d, 4>(w, table, dst, run);
+    outputOfRows<Real, d, L>(w, table, dst, run);
 }
 
 }   // namespace kfm::dct4

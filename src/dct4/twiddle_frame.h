@@ -26,7 +26,8 @@ inline constexpr int joinedColumns =
 template <class Real, int columns>
 void multiplyRow(const Real* row, const Real* pair, Real* products, std::ptrdiff_t stride) {
     constexpr int L = lanes<Real>;
-    const StageVector<Real> c = loadEverywhere<StageVector<Real>>(pair), s = loadEverywhere<StageVector<Real>>(pair + 1);
+    const auto c = loadEverywhere<StageVector<Real>>(pair);
+    const auto s = loadEverywhere<StageVector<Real>>(pair + 1);
 #pragma GCC unroll 4
     for (int column = 0; column < columns; column += L, products += stride) {
         const StageVector<Real> re = loadAligned<StageVector<Real>>(row + column);
@@ -71,7 +72,8 @@ void joinRows(Real* rows, const Real* table, int blockRows) {
                 multiplyRow<Real, columns>(row, table + 2 * s, products + 2 * s * L, group);
             }
             for (int at = 0; at < slots * columns; at += group)
-                Network::run(RowReader<Real>{products + at}, RowWriter<Real>{results + at, L});
+                Network::template run<StageVector<Real>>(RowReader<Real>{products + at},
+                                                         RowWriter<Real>{results + at, L});
             for (int t = 0; t < divisor; ++t)
                 writeRow<Real, columns>(results + 2 * t * L, first + t * distance, group);
         }

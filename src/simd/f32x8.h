@@ -15,6 +15,22 @@ KFM_OPERATION f32x8 sub(f32x8 a, f32x8 b) { return _mm256_sub_ps(a, b); }
 KFM_OPERATION f32x8 mul(f32x8 a, f32x8 b) { return _mm256_mul_ps(a, b); }
 KFM_OPERATION f32x8 flip(f32x8 a, f32x8 mask) { return _mm256_xor_ps(a, mask); }
 
+KFM_OPERATION f32x8 reverse(f32x8 v) {
+    return _mm256_permutevar8x32_ps(v, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0));
+}
+
+// In either half.
+KFM_OPERATION void transpose(f32x8 (&rows)[4]) {
+    const f32x8 low01 = _mm256_unpacklo_ps(rows[0], rows[1]);
+    const f32x8 high01 = _mm256_unpackhi_ps(rows[0], rows[1]);
+    const f32x8 low23 = _mm256_unpacklo_ps(rows[2], rows[3]);
+    const f32x8 high23 = _mm256_unpackhi_ps(rows[2], rows[3]);
+    rows[0] = _mm256_shuffle_ps(low01, low23, 0b01000100);
+    rows[1] = _mm256_shuffle_ps(low01, low23, 0b11101110);
+    rows[2] = _mm256_shuffle_ps(high01, high23, 0b01000100);
+    rows[3] = _mm256_shuffle_ps(high01, high23, 0b11101110);
+}
+
 template <int distance>
 KFM_OPERATION f32x8 exchange(f32x8 v) {
     if constexpr (distance == 1) return _mm256_permute_ps(v, 0b10110001);

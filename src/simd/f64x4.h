@@ -25,15 +25,11 @@ KFM_OPERATION f64x4 exchange(f64x4 v) {
 
 KFM_OPERATION f64x4 reverse(f64x4 v) { return _mm256_permute4x64_pd(v, 0b00011011); }
 
-KFM_OPERATION void transpose(f64x4 (&rows)[4]) {
-    const f64x4 low01 = _mm256_unpacklo_pd(rows[0], rows[1]);
-    const f64x4 high01 = _mm256_unpackhi_pd(rows[0], rows[1]);
-    const f64x4 low23 = _mm256_unpacklo_pd(rows[2], rows[3]);
-    const f64x4 high23 = _mm256_unpackhi_pd(rows[2], rows[3]);
-    rows[0] = _mm256_permute2f128_pd(low01, low23, 0x20);
-    rows[1] = _mm256_permute2f128_pd(high01, high23, 0x20);
-    rows[2] = _mm256_permute2f128_pd(low01, low23, 0x31);
-    rows[3] = _mm256_permute2f128_pd(high01, high23, 0x31);
+// In either half.
+KFM_OPERATION void transpose(f64x4 (&rows)[2]) {
+    const f64x4 first = rows[0];
+    rows[0] = _mm256_unpacklo_pd(first, rows[1]);
+    rows[1] = _mm256_unpackhi_pd(first, rows[1]);
 }
 
 // Halves: vectors of 16 bytes that are one half of these.

@@ -17,6 +17,10 @@ namespace kfm::simd {
 
 template <class Real, int lanes>
 struct VectorWith;
+template <class Real>
+struct VectorWith<Real, 1> {
+    using Type = Real;
+};
 template <>
 struct VectorWith<float, 4> {
     using Type = f32x4;
@@ -82,12 +86,15 @@ KFM_OPERATION void finishStreaming() { _mm_sfence(); }
 #ifdef __AVX2__
 template <> KFM_OPERATION f32x8 loadUnaligned(const float* p) { return _mm256_loadu_ps(p); }
 template <> KFM_OPERATION f64x4 loadUnaligned(const double* p) { return _mm256_loadu_pd(p); }
+template <> KFM_OPERATION f32x8 loadAligned(const float* p) { return _mm256_loadu_ps(p); }
 template <> KFM_OPERATION f64x4 loadAligned(const double* p) { return _mm256_loadu_pd(p); }
 template <> KFM_OPERATION f32x8 loadEverywhere(const float* p) { return _mm256_broadcast_ss(p); }
 template <> KFM_OPERATION f64x4 loadEverywhere(const double* p) { return _mm256_broadcast_sd(p); }
 KFM_OPERATION void storeUnaligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
 KFM_OPERATION void storeUnaligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
+KFM_OPERATION void storeAligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
 KFM_OPERATION void storeAligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
+KFM_OPERATION void storeStreaming(float* p, f32x8 v) { _mm256_stream_ps(p, v); }
 KFM_OPERATION void storeStreaming(double* p, f64x4 v) { _mm256_stream_pd(p, v); }
 #endif
 

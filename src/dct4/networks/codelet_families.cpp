@@ -56,7 +56,6 @@ Graph outputGraph(int d, int lanes) {
 struct Kind {
     std::string_view function;
     std::string_view frame;        // the header that declares its network and defines the function
-    std::string_view vector;       // the template of its vectors
     std::string_view parameters;   // their types, R for the real type
     Graph (*graph)(int size, bool doublePrecision);
 };
@@ -64,16 +63,16 @@ struct Kind {
 int lanesOf(bool doublePrecision) { return doublePrecision ? 2 : 4; }
 
 const Kind kinds[] = {
-    {"fixedTransform", "fixed_frame.h", "VectorOf", "const R*, R*", fixedTransformGraph},
-    {"inputStage", "input_frame.h", "StageVector", "const R*, R*, int",
+    {"fixedTransform", "fixed_frame.h", "const R*, R*", fixedTransformGraph},
+    {"inputStage", "input_frame.h", "const R*, R*, int",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), mirroredRows); }},
-    {"inputBlock", "input_frame.h", "StageVector", "const R*, const R*, std::ptrdiff_t, R*",
+    {"inputBlock", "input_frame.h", "const R*, const R*, std::ptrdiff_t, R*",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), naturalRows); }},
-    {"twiddleStage", "twiddle_frame.h", "StageVector", "R*, const R*, int",
+    {"twiddleStage", "twiddle_frame.h", "R*, const R*, int",
      [](int divisor, bool wide) { return twiddleGraph(divisor, lanesOf(wide), false); }},
-    {"twiddleStageRoot", "twiddle_frame.h", "StageVector", "R*, const R*, int",
+    {"twiddleStageRoot", "twiddle_frame.h", "R*, const R*, int",
      [](int divisor, bool wide) { return twiddleGraph(divisor, lanesOf(wide), true); }},
-    {"outputStage", "output_frame.h", "StageVector", "const R*, const R*, R*, int",
+    {"outputStage", "output_frame.h", "const R*, const R*, R*, int",
      [](int d, bool wide) { return outputGraph(d, lanesOf(wide)); }},
 };
 
@@ -115,7 +114,7 @@ std::string emit(const Kind& kind, int size, const Element& element,
         << counts.shuffles << " shuffles\n"
         << "#include \"dct4/" << kind.frame << "\"\n\nnamespace kfm::dct4 {\n\n"
         << "template <>\nstruct " << network << "Network<" << real << ", " << size << "> {\n"
-        << printNetwork(g, element.doublePrecision, kind.vector, schedule) << "};\n\n"
+        << printNetwork(g, element.doublePrecision, schedule) << "};\n\n"
         << "template void " << kind.function << "<" << real << ", " << size << ">("
         << parameterTypes(kind, real) << ");\n\n}   // namespace kfm::dct4\n";
     return out.str();

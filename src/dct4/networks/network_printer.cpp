@@ -151,16 +151,15 @@ private:
 
 }   // namespace
 
-std::string printNetwork(const Graph& g, bool doublePrecision, std::string_view vector,
-                         const ScheduleChoice& choice) {
+std::string printNetwork(const Graph& g, bool doublePrecision, const ScheduleChoice& choice) {
     NetworkPrinter printer(g, doublePrecision, choice);
     const std::string body = printer.body();
     const std::string real = doublePrecision ? "double" : "float";
     std::ostringstream out;
-    out << "    using Vector = " << (g.lanes() == 1 ? real : std::string(vector) + "<" + real + ">") << ";\n"
+    out << "    static constexpr int lanes = " << g.lanes() << ";\n"
         << "    alignas(16) static constexpr " << real << " constants[] = {\n"
         << printer.constants() << "    };\n\n"
-        << "    template <class In, class Out>\n"
+        << "    template <class Vector, class In, class Out>\n"
         << "    [[gnu::always_inline]] static void run(const In& in, const Out& out) {\n"
         << "        [[maybe_unused]] const auto* k = constants;\n        launder(k);\n"
         << body << "    }\n";
