@@ -28,9 +28,10 @@ struct Selection {
         app.add_option("--element", element, "element type")
             ->check(CLI::IsMember(names(registry::elements(), &registry::Element::suffix)));
     }
-    void addFamily(CLI::App& app) {
-        app.add_option("--family", family, "family of functions")
-            ->check(CLI::IsMember(names(registry::families(), &registry::Family::name)));
+    void addFamily(CLI::App& app, const std::vector<std::string>& further = {}) {
+        std::vector<std::string> known = names(registry::families(), &registry::Family::name);
+        known.insert(known.end(), further.begin(), further.end());
+        app.add_option("--family", family, "family of functions")->check(CLI::IsMember(known));
     }
 
     bool hasFamily(std::string_view name) const { return family.empty() || family == name; }

@@ -6,6 +6,7 @@
 #include <functional>
 #include <set>
 
+#include "codelets.h"
 #include "contest.h"
 #include "schedule_table.h"
 #include "selection.h"
@@ -110,23 +111,24 @@ std::vector<KernelSource> kernels(const registry::Family& family, const registry
     for (int length = family.first; length <= family.last; ++length)
         if (selection.hasLength(length))
             result.push_back({std::string(family.kernelSource), std::string(element.suffix), length,
-                              std::string(family.name),
-                              registry::functionName(family, length, element)});
+                              length, std::string(family.name),
+                              registry::functionName(family, length, element), {}});
     return result;
 }
 
 void tune(const KernelSource& kernel, const registry::Element& element, const Workshop& workshop,
           ScheduleTable& table, const Options& options) {
-    const KernelName name{options.target, kernel.element, kernel.length};
+    const KernelName name{options.target, kernel.element, kernel.length,
+                          kernel.family.empty() ? kernel.source : ""};
     std::printf("%-18s ", kernel.stem().c_str());
     std::fflush(stdout);
     const CallPatterns patterns{
-        std::make_shared<const bench::Signals>(kernel.length, element),
-        std::make_shared<const bench::Signals>(kernel.length, element, false, true)};
+        std::make_shared<const bench::Signals>(kernel.arrayLength, element),
+        std::make_shared<const bench::Signals>(kernel.arrayLength, element, false, true)};
     std::vector<Candidate> candidates;
     const auto winnerWith = [&](const std::vector<std::string>& schedules) {
         std::ranges::move(workshop.make(kernel, schedules), std::back_inserter(candidates));
-        requireSameBits(candidates, *patterns.apart, kernel.length * element.bytes);
+        requireSameBits(candidates, *patterns.apart, kernel.arrayLength * element.bytes);
         return choose(candidates, table.find(name), patterns, options).schedule;
     };
     std::string winner = winnerWith(workshop.schedules(kernel));
@@ -138,11 +140,27 @@ void tune(const KernelSource& kernel, const registry::Element& element, const Wo
     table.write();
 }
 
+bool tuneCodelets(const Workshop& workshop, const Options& options) {
+    ScheduleTable table(options.sources / "dct4/networks/schedules.def");
+    bool some = false;
+    for (const std::string& function : codeletFunctions())
+        for (const char* suffix : {"32f", "64f"}) {
+            if (!options.selection.hasFamily(function) || !options.selection.hasElement(suffix))
+                continue;
+            const registry::Element& element = *registry::findElement(suffix);
+            for (const KernelSource& codelet : codelets(function, element, options.selection)) {
+                tune(codelet, element, workshop, table, options);
+                some = true;
+            }
+        }
+    return some;
+}
+
 void tuneAll(const Options& options) {
     const Workshop workshop(KFM_KERNELGEN, options.target, options.generated, KFM_COMPILE_COMMANDS,
                             KFM_WORK_FOLDER);
     std::set<std::string_view> seen;
-    bool some = false;
+    bool some = tuneCodelets(workshop, options);
     for (const registry::Family& family : registry::families()) {
         // Kernels of orders are templates without schedules.
         if (family.byOrder || !options.selection.hasFamily(family.name)) continue;
@@ -165,7 +183,7 @@ void tuneAll(const Options& options) {
 int main(int argc, char** argv) try {
     kfm::tune::Options options;
     CLI::App app("Chooses each kernel's schedule by measurement and writes it into its table.");
-    options.selection.addFamily(app);
+    options.selection.addFamily(app, kfm::tune::codeletFunctions());
     options.selection.addElement(app);
     options.selection.addLengths(app);
     app.add_option("--target", options.target, "row of the table")->capture_default_str();

@@ -8,12 +8,13 @@
 namespace kfm::tune {
 
 ScheduleTable::ScheduleTable(std::filesystem::path path) : file(std::move(path)) {
-    static const std::regex row(R"(KFM_SCHEDULE\(([^,]+), (\d+), ([^,]+), ([^)]+)\))");
+    static const std::regex row(
+        R"(KFM_SCHEDULE\(([^,]+), (?:([a-zA-Z]+), )?(\d+), ([^,]+), ([^)]+)\))");
     std::ifstream in(file);
     for (std::string line; std::getline(in, line);) {
         std::smatch match;
         if (std::regex_match(line, match, row))
-            rows[{match[1], match[3], std::stoi(match[2])}] = match[4];
+            rows[{match[1], match[4], std::stoi(match[3]), match[2]}] = match[5];
         else if (rows.empty())
             heading += line + '\n';
         else
@@ -34,8 +35,9 @@ void ScheduleTable::write() const {
     std::ofstream out(file);
     out << heading;
     for (const auto& [kernel, schedule] : rows)
-        out << "KFM_SCHEDULE(" << kernel.target << ", " << kernel.length << ", " << kernel.element
-            << ", " << schedule << ")\n";
+        out << "KFM_SCHEDULE(" << kernel.target << ", "
+            << (kernel.function.empty() ? "" : kernel.function + ", ") << kernel.length << ", "
+            << kernel.element << ", " << schedule << ")\n";
     if (!out.flush()) throw std::runtime_error("cannot write " + file.string());
 }
 

@@ -1,5 +1,6 @@
 // The committed choice of schedules of one kernel source: its _schedules.def, as text rows
-// KFM_SCHEDULE(target, length, element, schedule) below a comment that is kept as it stands.
+// KFM_SCHEDULE(target, length, element, schedule) below a comment that is kept as it stands. Codelets
+// share a table, whose rows name the function behind the target.
 #pragma once
 
 #include <filesystem>
@@ -12,6 +13,7 @@ namespace kfm::tune {
 struct KernelName {
     std::string target, element;
     int length;
+    std::string function = {};   // of a codelet
     auto operator<=>(const KernelName&) const = default;   // the order of the rows
 };
 

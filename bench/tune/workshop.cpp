@@ -105,12 +105,14 @@ std::vector<std::string> Workshop::schedules(const KernelSource& kernel,
 
 void Workshop::generate(const KernelSource& kernel,
                         const std::vector<std::string>& schedules) const {
-    const std::string command =
-        generating("kernel", kernel) + " --family " + kernel.family + " --schedule ";
+    const std::string family = kernel.family.empty() ? "" : " --family " + kernel.family;
+    const std::string command = generating("kernel", kernel) + family + " --schedule ";
     std::vector<std::string> commands;
     for (std::size_t i = 0; i < schedules.size(); ++i)
         commands.push_back(command + schedules[i] + " -o " + shellWord(path(i, ".cpp")));
     runAll(commands);
+    for (std::size_t i = 0; i < schedules.size(); ++i)
+        std::ofstream(path(i, ".cpp"), std::ios::app) << kernel.furtherText;
 }
 
 std::vector<std::size_t> Workshop::distinct(std::size_t count) const {

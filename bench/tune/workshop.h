@@ -12,11 +12,12 @@
 namespace kfm::tune {
 
 // A kernel source file, "DFT_CToC", 16, "32fc", and the one of its functions that is timed: those
-// of other families share its schedule.
+// of other families share its schedule. A codelet belongs to no family; the function that calls it
+// comes with the text that follows its source.
 struct KernelSource {
     std::string source, element;
-    int length;
-    std::string family, function;
+    int length, arrayLength;
+    std::string family, function, furtherText;
 
     std::string stem() const;   // "DFT_CToC_16_32fc"
 };

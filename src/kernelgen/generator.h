@@ -32,6 +32,8 @@ struct KernelFamily {
     std::function<std::string(int length, const registry::Element&, const Target&,
                               const ScheduleChoice&, std::span<const registry::Family* const>)>
         emit = {};
+    // Whether operations may be joined in pairs; not where a graph stands for vectors of any width.
+    bool inPairs = true;
 };
 
 }   // namespace kfm::kernelgen

@@ -103,7 +103,7 @@ std::vector<ScheduleChoice> candidates(std::string_view source, int length, cons
                                        const Target& target, std::string_view winner) {
     const KernelFamily& family = kernelFamily(source);
     if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no schedules");
-    const bool wide = target.vectorBytes > 16;
+    const bool wide = target.vectorBytes > 16 && family.inPairs;
     if (!winner.empty())
         return wide ? orderCandidates(ScheduleChoice::parse(winner)) : std::vector<ScheduleChoice>();
     if (!wide) return scheduleCandidates();

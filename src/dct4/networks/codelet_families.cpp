@@ -133,6 +133,7 @@ KernelFamily family(const Kind& kind) {
                           const ScheduleChoice& schedule, std::span<const registry::Family* const>) {
         return emit(kind, size, element, schedule);
     };
+    family.inPairs = false;
     return family;
 }
 

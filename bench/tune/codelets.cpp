@@ -1,0 +1,48 @@
+#include "codelets.h"
+
+namespace kfm::tune {
+namespace {
+
+struct Codelets {
+    std::string_view function;
+    int first, last;
+};
+
+constexpr Codelets all[] = {
+#define KFM_CODELET(function, first, last) {#function, first, last},
+#include "dct4/codelets.def"
+#undef KFM_CODELET
+};
+
+// The longest that calls use: results of the output stage of 32 and their table.
+constexpr int arrayLength = 2 * 2048;
+
+}   // namespace
+
+std::vector<std::string> codeletFunctions() {
+    std::vector<std::string> result;
+    for (const Codelets& row : all) result.emplace_back(row.function);
+    return result;
+}
+
+std::vector<KernelSource> codelets(std::string_view function, const registry::Element& element,
+                                   const bench::Selection& selection) {
+    std::vector<KernelSource> result;
+    const std::string real = element.doublePrecision ? "double" : "float";
+    for (const Codelets& row : all)
+        for (int size = row.first; row.function == function && size <= row.last; size *= 2)
+            if (selection.hasLength(size)) {
+                KernelSource& codelet = result.emplace_back();
+                codelet.source = function;
+                codelet.element = element.suffix;
+                codelet.length = size;
+                codelet.arrayLength = arrayLength;
+                codelet.function = "calledCodelet";
+                codelet.furtherText = "#include \"" KFM_CODELET_CALLS "\"\nKFM_CALL_CODELET(" +
+                                      codelet.source + ", " + real + ", " + std::to_string(size) +
+                                      ")\n";
+            }
+    return result;
+}
+
+}   // namespace kfm::tune
