@@ -56,14 +56,16 @@ void writeRow(const Real* results, Real* row, std::ptrdiff_t stride) {
 }
 
 // The products of a vector of columns stand behind the place of its results, which is that of the
-// vector before, used up by then.
+// vector before, used up by then. Of 32 they stand in that very place, to save stack: result t depends
+// on product t, because cos(2 pi t^2/32) is never zero.
 template <class Real, int divisor, class Network>
 void joinRows(Real* rows, const Real* table, int blockRows) {
     constexpr int L = lanes<Real>, slots = 2 * divisor, group = slots * L;
+    constexpr int lead = divisor == 32 ? 0 : group;
     constexpr int columns = joinedColumns<Real, divisor>;
     const std::ptrdiff_t distance = blockRows * complexRow;
-    alignas(64) Real results[group + slots * columns];
-    Real* products = results + group;
+    alignas(64) Real results[lead + slots * columns];
+    Real* products = results + lead;
     for (int p = 0; p < blockRows; ++p, rows += complexRow, table += slots)
         for (Real* first = rows; first < rows + rowLength; first += columns) {
             for (int s = 0; s < divisor; ++s) {
