@@ -1,5 +1,5 @@
-// The parts of the schedule tuner that decide what is committed: the rule for ties, and the table
-// that keeps all rows but the tuned ones.
+// The parts of the schedule tuner that decide what is committed: the rule for ties, the table that
+// keeps all rows but the tuned ones, and how codelets are called to be timed.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -7,6 +7,10 @@
 #include <fstream>
 #include <sstream>
 
+#include "support/buffer.h"
+#include "support/dct4_walk.h"
+#include "support/fault.h"
+#include "tune/codelet_calls.h"
 #include "tune/contest.h"
 #include "tune/schedule_table.h"
 
@@ -66,6 +70,18 @@ TEST_F(ScheduleTableTest, ReplacesOnlyChosenRowsAndSorts) {
                       "KFM_SCHEDULE(b, 10, 32fc, 2:0:0:none:0)\n");
 }
 
+TEST_F(ScheduleTableTest, KeepsCodeletsOfOneSizeApart) {
+    write("KFM_SCHEDULE(a, inputStage, 8, 32f, 1:0:0:none:0)\n"
+          "KFM_SCHEDULE(a, inputBlock, 8, 32f, 2:0:0:none:0)\n");
+    ScheduleTable table(file);
+    EXPECT_EQ(table.find({"a", "32f", 8, "inputBlock"}), "2:0:0:none:0");
+    EXPECT_EQ(table.find({"a", "32f", 8}), "");
+    table.choose({"a", "32f", 8, "inputBlock"}, "7:1:1:all:1");
+    table.write();
+    EXPECT_EQ(read(), "KFM_SCHEDULE(a, inputBlock, 8, 32f, 7:1:1:all:1)\n"
+                      "KFM_SCHEDULE(a, inputStage, 8, 32f, 1:0:0:none:0)\n");
+}
+
 TEST_F(ScheduleTableTest, RefusesToDropWhatItCannotRead) {
     write("KFM_SCHEDULE(b, 9, 32fc, 1:0:0:none:0)\nKFM_SCHEDULE(b, ten, 32fc, 2:0:0:none:0)\n");
     EXPECT_THROW(ScheduleTable{file}, std::runtime_error);
@@ -73,6 +89,34 @@ TEST_F(ScheduleTableTest, RefusesToDropWhatItCannotRead) {
 
 TEST_F(ScheduleTableTest, StartsEmptyWithoutAFile) {
     EXPECT_EQ(ScheduleTable(file).find({"a", "32fc", 2}), "");
+}
+
+template <class Real>
+class CodeletCalls : public testing::Test {
+protected:
+    // Arrays of whole pages: both ends are guarded.
+    static void expectInside(const char* codelet, int size, void (*call)(const Real*, Real*)) {
+        constexpr std::size_t bytes = codeletArrayLength * sizeof(Real);
+        tests::GuardedBuffer from(bytes), to(bytes);
+        auto* const source = reinterpret_cast<Real*>(from.data());
+        std::fill_n(source, codeletArrayLength, Real(1));
+        EXPECT_TRUE(tests::survives([&] { call(source, reinterpret_cast<Real*>(to.data())); }))
+            << codelet << ' ' << size;
+        EXPECT_FALSE(to.untouched()) << codelet << ' ' << size;
+        EXPECT_EQ(std::count(source, source + codeletArrayLength, Real(1)), codeletArrayLength);
+    }
+};
+using Reals = testing::Types<float, double>;
+TYPED_TEST_SUITE(CodeletCalls, Reals);
+
+TYPED_TEST(CodeletCalls, StayInsideTheirArrays) {
+#define KFM_CODELET(function, first, last)                                                       \
+    for (int size = first; size <= last; size *= 2)                                              \
+        tests::withSize<first, last>(size, [&]<int n>() {                                        \
+            this->expectInside(#function, n, function<TypeParam, n>);                            \
+        });
+#include "dct4/codelets.def"
+#undef KFM_CODELET
 }
 
 }   // namespace

@@ -10,6 +10,9 @@
 
 namespace kfm::tune {
 
+// Elements of either array: results of the longest output stage, and their table.
+inline constexpr int codeletArrayLength = 2 * 2048;
+
 template <class Real, int n>
 void fixedTransform(const Real* src, Real* dst) {
     dct4::fixedTransform<Real, n>(src, dst);

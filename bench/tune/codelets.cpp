@@ -1,5 +1,7 @@
 #include "codelets.h"
 
+#include "codelet_calls.h"
+
 namespace kfm::tune {
 namespace {
 
@@ -13,9 +15,6 @@ constexpr Codelets all[] = {
 #include "dct4/codelets.def"
 #undef KFM_CODELET
 };
-
-// The longest that calls use: results of the output stage of 32 and their table.
-constexpr int arrayLength = 2 * 2048;
 
 }   // namespace
 
@@ -36,7 +35,7 @@ std::vector<KernelSource> codelets(std::string_view function, const registry::El
                 codelet.source = function;
                 codelet.element = element.suffix;
                 codelet.length = size;
-                codelet.arrayLength = arrayLength;
+                codelet.arrayLength = codeletArrayLength;
                 codelet.function = "calledCodelet";
                 codelet.furtherText = "#include \"" KFM_CODELET_CALLS "\"\nKFM_CALL_CODELET(" +
                                       codelet.source + ", " + real + ", " + std::to_string(size) +
