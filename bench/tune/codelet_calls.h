@@ -1,5 +1,5 @@
-// How a codelet of the DCT-IV is called to be timed: from one array to another, like a kernel. What it
-// takes beside arrays are the row lengths and counts that lengths are planned with; a table of
+// How a codelet of the DCT-IV is called to be timed: from one array to another, like a kernel. What
+// it takes beside arrays are the row lengths and counts that lengths are planned with; a table of
 // cosines and sines may hold anything. The tuner puts this behind each candidate's source.
 #pragma once
 

@@ -1,6 +1,6 @@
 // The committed choice of schedules of one kernel source: its _schedules.def, as text rows
-// KFM_SCHEDULE(target, length, element, schedule) below a comment that is kept as it stands. Codelets
-// share a table, whose rows name the function behind the target.
+// KFM_SCHEDULE(target, length, element, schedule) below a comment that is kept as it stands.
+// Codelets share a table, whose rows name the function behind the target.
 #pragma once
 
 #include <filesystem>

@@ -56,8 +56,8 @@ void writeRow(const Real* results, Real* row, std::ptrdiff_t stride) {
 }
 
 // The products of a vector of columns stand behind the place of its results, which is that of the
-// vector before, used up by then. Of 32 they stand in that very place, to save stack: result t depends
-// on product t, because cos(2 pi t^2/32) is never zero.
+// vector before, used up by then. Of 32 they stand in that very place, to save stack: result t
+// depends on product t, because cos(2 pi t^2/32) is never zero.
 template <class Real, int divisor, class Network>
 void joinRows(Real* rows, const Real* table, int blockRows) {
     constexpr int L = lanes<Real>, slots = 2 * divisor, group = slots * L;

@@ -2,6 +2,8 @@
 // their graphs.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <random>
 
 #include "dct4/codelets.h"
@@ -47,6 +49,26 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) {
         return std::string(info.param.function) + "_" + std::to_string(info.param.size);
     });
+
+bool dependsOnSlot(const Graph& g, int node, int slot) {
+    const Node& n = g.nodes()[node];
+    if (n.op == Op::load) return n.first == slot;
+    return std::ranges::any_of(std::array{n.a, n.b}, [&](Ref operand) {
+        return !operand.isZero() && dependsOnSlot(g, operand.node(), slot);
+    });
+}
+
+// So that no order of the operations stores a result before its product is loaded.
+TEST(Dct4TwiddleStages, Of32MayLeaveResultsInThePlaceOfProducts) {
+    for (const char* function : {"twiddleStage", "twiddleStageRoot"})
+        for (const char* suffix : {"32f", "64f"}) {
+            const Graph graph = kernelFamily(function).graph(
+                32, *registry::findElement(suffix), *findTarget("sse2-x86-64"), false);
+            for (const Output& output : graph.outputs())
+                EXPECT_TRUE(dependsOnSlot(graph, output.node, output.first))
+                    << function << ' ' << output.first;
+        }
+}
 
 template <class Real, int n>
 void expectBitsOfTheGraph() {

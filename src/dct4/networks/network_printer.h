@@ -9,10 +9,10 @@
 
 namespace kfm::dct4 {
 
-// The members of a class: `lanes` of the graph, a table of constants, and run<Vector>(in, out), which
-// takes its values from in.load(slot) and hands its results to out.store(slot, value). Slots are the
-// first elements of the graph's loads and outputs. A graph of one lane works on scalars; one whose
-// lanes do not meet works on vectors of any width.
+// The members of a class: `lanes` of the graph, a table of constants, and run<Vector>(in, out),
+// which takes its values from in.load(slot) and hands its results to out.store(slot, value). Slots
+// are the first elements of the graph's loads and outputs. A graph of one lane works on scalars; one
+// whose lanes do not meet works on vectors of any width.
 std::string printNetwork(const kernelgen::Graph& g, bool doublePrecision,
                          const kernelgen::ScheduleChoice& choice);
 
