@@ -159,7 +159,7 @@ int main(int argc, char** argv) try {
         ->check(CLI::Range(1, 1000000))->capture_default_str();
     app.add_option("--fftw-folder", peerFolder, "folder of the FFTW libraries");
     CLI11_PARSE(app, argc, argv);
-    setPeerFolder(peerFolder);
+    if (!peerFolder.empty()) setPeerFolders({peerFolder});
     compareAll(selection, signals);
 } catch (const std::exception& error) {
     std::fprintf(stderr, "errorbench: %s\n", error.what());

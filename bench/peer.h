@@ -1,22 +1,28 @@
-// The peers that the functions are measured against: FFTW, and a plain loop for the transform that
-// FFTW does not have. FFTW's libraries are opened at run time, so the benchmark also builds and runs
-// where they are missing.
+// The peers that the functions are measured against: FFTW, and where it has no like transform or a
+// slower way to it than a user would write with it, plain code. FFTW's libraries are opened at run
+// time, so the benchmark also builds and runs where they are missing.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "registry/functions.h"
 
 namespace kfm::bench {
 
-// Where libfftw3.so.3 and libfftw3f.so.3 are searched; empty: the system's folders.
-void setPeerFolder(const std::string& folder);
+// Where libfftw3.so.3 and libfftw3f.so.3 are searched; none: the system's folders. Of several
+// builds of FFTW the one that is faster at a transform is the peer there.
+void setPeerFolders(const std::vector<std::string>& folders);
+
+// One line for each build of FFTW that was found: its version, with the instruction sets, and file.
+std::string describePeers();
 
 // A plan as a subject of the timer, and as a call on arrays aligned to 64 bytes.
 struct PeerPlan {
     std::function<void(long)> repeat;
     std::function<void(void* source, void* destination)> execute;
+    std::string name;   // FFTW's version
 
     explicit operator bool() const { return static_cast<bool>(repeat); }
 };
@@ -26,11 +32,16 @@ struct PeerPlan {
 // faster.
 PeerPlan fftwPlan(const registry::Function& function);
 
-// The same for the DCT-IV of a length. Beyond 8192 it is what FFTW_MEASURE finds.
+// The same for the DCT-IV of a length; unscaled it is twice the sum. Beyond 65536 it is what
+// FFTW_MEASURE finds.
 PeerPlan fftwDct4Plan(int length, const registry::Element& element);
+
+// The DCT-IV by FFTW's complex transform of half the length between two rotations; empty also where
+// the processor has no AVX2, for which the rotations are compiled.
+PeerPlan halfLengthDct4Plan(int length, const registry::Element& element);
 
 // The function's Walsh-Hadamard transform by the plain loop, unscaled: a copy of the source, then
 // in place.
-std::function<void(long)> plainLoop(const registry::Function& function);
+PeerPlan plainLoop(const registry::Function& function);
 
 }   // namespace kfm::bench

@@ -5,20 +5,22 @@
 #include <fftw3.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <memory>
+#include <numbers>
 #include <vector>
 
+#include "rotations.h"
 #include "signals.h"
 #include "timer.h"
 
 namespace kfm::bench {
 namespace {
 
-std::string peerFolder;
+std::vector<std::string> peerFolders;
 
-void* openLibrary(const std::string& name) {
-    const std::string path = peerFolder.empty() ? name : peerFolder + "/" + name;
+void* openLibrary(const std::string& path) {
     void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle) std::fprintf(stderr, "no comparison with FFTW: %s\n", dlerror());
     return handle;
@@ -31,6 +33,7 @@ void find(void* library, const std::string& name, Address& address) {
 
 // The fastest of several plans, timed as everything here is.
 PeerPlan fastest(const std::vector<PeerPlan>& plans) {
+    if (plans.size() < 2) return plans.empty() ? PeerPlan() : plans.front();
     std::vector<Subject> subjects;
     for (const PeerPlan& plan : plans) subjects.emplace_back(plan.repeat);
     std::vector<Subject*> inTurns;
@@ -46,12 +49,26 @@ using SourceRules = std::vector<unsigned>;
 const SourceRules keepSource = {FFTW_PRESERVE_INPUT};
 const SourceRules anyRule = {FFTW_PRESERVE_INPUT, FFTW_DESTROY_INPUT};
 
-// The part of FFTW's interface in use, for one precision.
+// A patient search for a length of millions takes minutes.
+unsigned effortFor(int length) { return length > 65536 ? FFTW_MEASURE : FFTW_PATIENT; }
+
+// The roots of rotateInputs and rotateOutputs.
+template <class Real>
+std::vector<Real> halfLengthRoots(int m) {
+    std::vector<Real> roots;
+    for (int k = 0; k < m; ++k) {
+        const double angle = std::numbers::pi * (8.0 * k + 1) / (16.0 * m);
+        roots.insert(roots.end(), {Real(std::cos(angle)), Real(std::sin(angle))});
+    }
+    return roots;
+}
+
+// The part of FFTW's interface in use, for one precision of one build.
 template <class Plan, class Complex, class Real>
 class Api {
 public:
-    Api(const std::string& libraryName, const std::string& prefix) {
-        void* library = openLibrary(libraryName);
+    Api(const std::string& path, const std::string& prefix) {
+        void* library = openLibrary(path);
         find(library, prefix + "plan_dft_1d", planDft);
         find(library, prefix + "execute_dft", executeDft);
         find(library, prefix + "plan_dft_r2c_1d", planForward);
@@ -60,13 +77,17 @@ public:
         find(library, prefix + "execute_dft_c2r", executeInverse);
         find(library, prefix + "plan_r2r_1d", planReal);
         find(library, prefix + "execute_r2r", executeReal);
-        complete = planDft && executeDft && planForward && executeForward && planInverse &&
-                   executeInverse && planReal && executeReal;
+        find(library, prefix + "version", version);
+    }
+    explicit operator bool() const {
+        return planDft && executeDft && planForward && executeForward && planInverse &&
+               executeInverse && planReal && executeReal && version;
     }
 
-    PeerPlan like(const registry::Family& family, int length,
-                                   const registry::Element& element) const {
-        if (!complete) return {};
+    const char* version = nullptr;   // "fftw-3.3.10-sse2-avx"
+
+    std::vector<PeerPlan> like(const registry::Family& family, int length,
+                               const registry::Element& element) const {
         const auto complexPlan = [&](Complex* from, Complex* to, unsigned flags) {
             return planDft(length, from, to, family.inverse() ? FFTW_BACKWARD : FFTW_FORWARD,
                            flags);
@@ -80,32 +101,54 @@ public:
         const auto inversePlan = [&](Complex* from, Real* to, unsigned flags) {
             return planInverse(length, from, to, flags);
         };
-        if (element.complex) return best(length, element, executeDft, complexPlan, keepSource);
+        if (element.complex)
+            return plans<Complex, Complex>(length, element, executeDft, complexPlan, keepSource);
         if (family.name == "Hartley")
-            return best(length, element, executeReal, hartleyPlan, anyRule);
+            return plans<Real, Real>(length, element, executeReal, hartleyPlan, anyRule);
         if (!family.name.starts_with("DFT")) return {};
-        return family.inverse() ? best(length, element, executeInverse, inversePlan, anyRule)
-                                : best(length, element, executeForward, forwardPlan, anyRule);
+        if (family.inverse())
+            return plans<Complex, Real>(length, element, executeInverse, inversePlan, anyRule);
+        return plans<Real, Complex>(length, element, executeForward, forwardPlan, anyRule);
     }
 
-    PeerPlan dct4(int length, const registry::Element& element) const {
-        if (!complete) return {};
+    std::vector<PeerPlan> dct4(int length, const registry::Element& element) const {
         const auto plan = [&](Real* from, Real* to, unsigned flags) {
             return planReal(length, from, to, FFTW_REDFT11, flags);
         };
-        // A patient search takes minutes for a length of millions.
-        const unsigned effort = length > 8192 ? FFTW_MEASURE : FFTW_PATIENT;
-        return best(length, element, executeReal, plan, anyRule, effort);
+        return plans<Real, Real>(length, element, executeReal, plan, anyRule, effortFor(length));
+    }
+
+    // Between the rotations stand arrays of its own, which the transform may overwrite.
+    std::vector<PeerPlan> halfLengthDct4(int length, const registry::Element& element) const {
+        const int m = length / 2;
+        const char* const complexSuffix = element.doublePrecision ? "64fc" : "32fc";
+        const auto between =
+            std::make_shared<const Signals>(m, *registry::findElement(complexSuffix));
+        const auto roots = std::make_shared<const std::vector<Real>>(halfLengthRoots<Real>(m));
+        const auto plan = [&](Real*, Real*, unsigned flags) {
+            return planDft(m, static_cast<Complex*>(between->source()),
+                           static_cast<Complex*>(between->destination()), FFTW_FORWARD, flags);
+        };
+        const auto execute = [=, transform = executeDft](Plan plan, Real* source,
+                                                         Real* destination) {
+            const auto from = static_cast<Complex*>(between->source());
+            const auto to = static_cast<Complex*>(between->destination());
+            rotateInputs(source, roots->data(), *from, m);
+            transform(plan, from, to);
+            rotateOutputs(*to, roots->data(), destination, m);
+        };
+        return plans<Real, Real>(length, element, execute, plan, {FFTW_DESTROY_INPUT},
+                                 effortFor(m));
     }
 
 private:
-    template <class Source, class Destination, class MakePlan>
-    static PeerPlan best(int length, const registry::Element& element,
-                         void (*execute)(Plan, Source*, Destination*), MakePlan makePlan,
-                         const SourceRules& rules, unsigned effort = FFTW_PATIENT) {
+    template <class Source, class Destination, class Execute, class MakePlan>
+    std::vector<PeerPlan> plans(int length, const registry::Element& element, Execute execute,
+                                MakePlan makePlan, const SourceRules& rules,
+                                unsigned effort = FFTW_PATIENT) const {
         // Planning overwrites its arrays; the timed calls work on fresh ones.
         const Signals scratch(length, element);
-        std::vector<PeerPlan> plans;
+        std::vector<PeerPlan> result;
         for (const unsigned rule : rules) {
             const Plan plan =
                 makePlan(static_cast<Source*>(scratch.source()),
@@ -118,12 +161,13 @@ private:
                 const auto destination = static_cast<Destination*>(signals->destination(placement));
                 for (long i = 0; i < calls; ++i) execute(plan, source, destination);
             };
-            plans.push_back({repeat, [=](void* source, void* destination) {
-                                 execute(plan, static_cast<Source*>(source),
-                                         static_cast<Destination*>(destination));
-                             }});
+            const auto once = [=](void* source, void* destination) {
+                execute(plan, static_cast<Source*>(source),
+                        static_cast<Destination*>(destination));
+            };
+            result.push_back({repeat, once, version});
         }
-        return plans.empty() ? PeerPlan() : fastest(plans);
+        return result;
     }
 
     Plan (*planDft)(int, Complex*, Complex*, int, unsigned) = nullptr;
@@ -134,37 +178,73 @@ private:
     void (*executeInverse)(Plan, Complex*, Real*) = nullptr;
     Plan (*planReal)(int, Real*, Real*, fftw_r2r_kind, unsigned) = nullptr;
     void (*executeReal)(Plan, Real*, Real*) = nullptr;
-    bool complete;
 };
 
-}   // namespace
+using DoubleApi = Api<fftw_plan, fftw_complex, double>;
+using SingleApi = Api<fftwf_plan, fftwf_complex, float>;
 
-void setPeerFolder(const std::string& folder) { peerFolder = folder; }
+struct Build {
+    std::string path;
+    DoubleApi twice;
+    SingleApi single;
+};
 
-namespace {
-
-const Api<fftw_plan, fftw_complex, double>& doubleApi() {
-    static const Api<fftw_plan, fftw_complex, double> api("libfftw3.so.3", "fftw_");
-    return api;
+const std::vector<Build>& builds() {
+    static const std::vector<Build> all = [] {
+        std::vector<Build> result;
+        std::vector<std::string> paths;
+        for (const std::string& folder : peerFolders) paths.push_back(folder + "/");
+        if (paths.empty()) paths.push_back("");
+        for (const std::string& path : paths)
+            result.push_back({path, {path + "libfftw3.so.3", "fftw_"},
+                              {path + "libfftw3f.so.3", "fftwf_"}});
+        return result;
+    }();
+    return all;
 }
 
-const Api<fftwf_plan, fftwf_complex, float>& singleApi() {
-    static const Api<fftwf_plan, fftwf_complex, float> api("libfftw3f.so.3", "fftwf_");
-    return api;
+// Of the plans that the builds have for a transform.
+template <class PlansOf>
+PeerPlan fastestOf(const registry::Element& element, PlansOf plansOf) {
+    std::vector<PeerPlan> all;
+    const auto add = [&](const auto& api) {
+        if (!api) return;
+        for (PeerPlan& plan : plansOf(api)) all.push_back(std::move(plan));
+    };
+    for (const Build& build : builds())
+        if (element.doublePrecision) add(build.twice);
+        else add(build.single);
+    return fastest(all);
 }
 
 }   // namespace
+
+void setPeerFolders(const std::vector<std::string>& folders) { peerFolders = folders; }
+
+std::string describePeers() {
+    std::string text;
+    for (const Build& build : builds()) {
+        if (build.twice) text += build.path + "libfftw3.so.3: " + build.twice.version + "\n";
+        if (build.single) text += build.path + "libfftw3f.so.3: " + build.single.version + "\n";
+    }
+    return text;
+}
 
 PeerPlan fftwPlan(const registry::Function& function) {
     const registry::Element& element = *registry::findElement(function.element);
     const registry::Family& family = *registry::findFamily(function.family);
-    return element.doublePrecision ? doubleApi().like(family, function.length, element)
-                                   : singleApi().like(family, function.length, element);
+    return fastestOf(element, [&](const auto& api) {
+        return api.like(family, function.length, element);
+    });
 }
 
 PeerPlan fftwDct4Plan(int length, const registry::Element& element) {
-    return element.doublePrecision ? doubleApi().dct4(length, element)
-                                   : singleApi().dct4(length, element);
+    return fastestOf(element, [&](const auto& api) { return api.dct4(length, element); });
+}
+
+PeerPlan halfLengthDct4Plan(int length, const registry::Element& element) {
+    if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma")) return {};
+    return fastestOf(element, [&](const auto& api) { return api.halfLengthDct4(length, element); });
 }
 
 }   // namespace kfm::bench

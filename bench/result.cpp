@@ -1,13 +1,21 @@
 // Formats the results.
 #include "result.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iomanip>
 #include <map>
 #include <ostream>
 
+#include "timer.h"
+
 namespace kfm::bench {
 namespace {
+
+std::optional<double> quotient(const std::optional<double>& a, const std::optional<double>& b) {
+    if (!a || !b) return std::nullopt;
+    return *a / *b;
+}
 
 template <class Value>
 void cell(std::ostream& out, const std::optional<Value>& value) {
@@ -15,64 +23,105 @@ void cell(std::ostream& out, const std::optional<Value>& value) {
     if (value) out << *value;
 }
 
-// The largest of a value that some results may lack.
-struct Worst {
-    double value = 0;
-    int length = 0;
-    void take(const std::optional<double>& candidate, int candidateLength) {
-        if (candidate && *candidate > value) *this = {*candidate, candidateLength};
+using Group = std::vector<const Result*>;
+using Ratio = std::optional<double> (Result::*)() const;
+
+// One ratio over the results that have it.
+class Ratios {
+public:
+    Ratios(const Group& group, Ratio ratio) {
+        for (const Result* result : group)
+            if (const auto value = (result->*ratio)())
+                rows.push_back({*value, result->function->length});
     }
+    bool empty() const { return rows.empty(); }
+
+    void printMean(std::ostream& out) const {
+        double logarithms = 0;
+        for (const Row& row : rows) logarithms += std::log(row.ratio);
+        out << "geometric mean " << std::exp(logarithms / rows.size()) << " of " << rows.size()
+            << " lengths, ";
+        printWorst(out);
+    }
+    void printWorst(std::ostream& out) const {
+        const Row& worst = *std::ranges::max_element(rows, {}, &Row::ratio);
+        out << "worst " << worst.ratio << " at " << worst.length;
+    }
+    void printBeyond(std::ostream& out, double limit) const {
+        bool none = true;
+        for (const Row& row : rows) {
+            if (row.ratio <= limit) continue;
+            out << ' ' << row.length << " (" << row.ratio << ')';
+            none = false;
+        }
+        if (none) out << " none";
+    }
+    int beyond(double limit) const {
+        return static_cast<int>(
+            std::ranges::count_if(rows, [&](const Row& row) { return row.ratio > limit; }));
+    }
+
+private:
+    struct Row {
+        double ratio;
+        int length;
+    };
+    std::vector<Row> rows;
 };
 
-void summarise(std::ostream& out, const std::vector<const Result*>& group) {
-    double logarithms = 0;
-    int compared = 0;
-    Worst ratio, boundRatio;
-    for (const Result* result : group) {
-        const int length = result->function->length;
-        ratio.take(result->ratio(), length);
-        // Shorter kernels are bound by the call itself.
-        if (length >= 8) boundRatio.take(result->boundRatio(), length);
-        if (!result->ratio()) continue;
-        logarithms += std::log(*result->ratio());
-        ++compared;
-    }
-    if (compared > 0) {
-        const std::string peer =
-            registry::findFamily(group.front()->function->family)->byOrder ? "plain loop" : "FFTW";
-        out << "  ours/" << peer << ": geometric mean " << std::exp(logarithms / compared) << " of "
-            << compared << " lengths, worst " << ratio.value << " at " << ratio.length
-            << "\n  slower than " << peer << ':';
-        for (const Result* result : group)
-            if (result->ratio().value_or(0) > 1)
-                out << ' ' << result->function->length << " (" << *result->ratio() << ')';
-        out << (ratio.value > 1 ? "\n" : " none\n");
-    }
-    if (boundRatio.length)
-        out << "  ours/bound of the additions: worst " << boundRatio.value << " at "
-            << boundRatio.length << " (from length 8 up)\n";
+void summarisePeer(std::ostream& out, const Group& group) {
+    const Ratios ratios(group, &Result::ratio);
+    if (ratios.empty()) return;
+    const std::string peer =
+        registry::findFamily(group.front()->function->family)->byOrder ? "plain loop" : "FFTW";
+    out << "  ours/" << peer << ": ";
+    ratios.printMean(out);
+    out << "\n  slower than " << peer << ':';
+    ratios.printBeyond(out, 1);
+    out << '\n';
+}
+
+void summariseOther(std::ostream& out, const Group& group, const std::string& manner, Ratio ratio) {
+    const Ratios ratios(group, ratio);
+    if (ratios.empty()) return;
+    out << "  ours/other file, " << manner << ": ";
+    ratios.printMean(out);
+    out << "; beyond " << levelRatio << ':';
+    ratios.printBeyond(out, levelRatio);
+    out << '\n';
+}
+
+void summarise(std::ostream& out, const Group& group) {
+    summarisePeer(out, group);
+    summariseOther(out, group, "apart", &Result::otherRatio);
+    summariseOther(out, group, "in place", &Result::inPlaceRatio);
+    Group bound;   // shorter kernels are bound by the call itself
+    for (const Result* result : group)
+        if (result->function->length >= 8) bound.push_back(result);
+    const Ratios ratios(bound, &Result::boundRatio);
+    if (ratios.empty()) return;
+    out << "  ours/bound of the additions: ";
+    ratios.printWorst(out);
+    out << " (from length 8 up)\n";
 }
 
 }   // namespace
 
-std::optional<double> Result::ratio() const {
-    if (!peerNs) return std::nullopt;
-    return ns / *peerNs;
-}
+std::optional<double> Result::ratio() const { return quotient(ns, peerNs); }
+std::optional<double> Result::otherRatio() const { return quotient(ns, otherNs); }
+std::optional<double> Result::inPlaceRatio() const { return quotient(inPlaceNs, otherInPlaceNs); }
 
 std::optional<double> Result::boundNs() const {
     if (!counts) return std::nullopt;
-    return counts->additions / 2.0 * cycleNs;
+    // Counted are operations on vectors of 16 bytes.
+    return counts->additions / 2.0 * 128 / vectorBits * cycleNs;
 }
 
-std::optional<double> Result::boundRatio() const {
-    if (!counts) return std::nullopt;
-    return ns / *boundNs();
-}
+std::optional<double> Result::boundRatio() const { return quotient(ns, boundNs()); }
 
 void writeCsv(std::ostream& out, const std::vector<Result>& results) {
     out << "function,ns,median_ns,peer_ns,ratio,additions,multiplies,shuffles,bound_ns,"
-           "bound_ratio\n"
+           "bound_ratio,peer,other_ns,other_ratio,in_place_ns,other_in_place_ns,in_place_ratio\n"
         << std::fixed << std::setprecision(3);
     for (const Result& result : results) {
         out << result.function->name << ',' << result.ns << ',' << result.medianNs;
@@ -83,20 +132,34 @@ void writeCsv(std::ostream& out, const std::vector<Result>& results) {
             cell(out, result.counts ? std::optional(*result.counts.*count) : std::nullopt);
         cell(out, result.boundNs());
         cell(out, result.boundRatio());
+        out << ',' << result.peer;
+        cell(out, result.otherNs);
+        cell(out, result.otherRatio());
+        cell(out, result.inPlaceNs);
+        cell(out, result.otherInPlaceNs);
+        cell(out, result.inPlaceRatio());
         out << '\n';
     }
 }
 
 void writeSummary(std::ostream& out, const std::vector<Result>& results) {
-    std::map<std::string, std::vector<const Result*>> groups;
-    for (const Result& result : results)
+    std::map<std::string, Group> groups;
+    Group all;
+    for (const Result& result : results) {
         groups[std::string(result.function->family) + " " + result.function->element].push_back(
             &result);
+        all.push_back(&result);
+    }
     out << std::fixed << std::setprecision(2);
     for (const auto& [name, group] : groups) {
         out << name << '\n';
         summarise(out, group);
     }
+    const Ratios apart(all, &Result::otherRatio), inPlace(all, &Result::inPlaceRatio);
+    if (!apart.empty())
+        out << "all functions: beyond " << levelRatio << " of the other file's time "
+            << apart.beyond(levelRatio) << " apart, " << inPlace.beyond(levelRatio)
+            << " in place\n";
 }
 
 }   // namespace kfm::bench

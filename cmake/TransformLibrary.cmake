@@ -61,7 +61,9 @@ function(kfm_add_transform_library name)
         # The loader would take a variant that is older than the library it stands for.
         add_dependencies(${name} kfmgenw7)
         add_custom_command(TARGET kfmgenw7 POST_BUILD
-            COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER} VERBATIM)
+            COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER}
+            COMMAND ${CMAKE_COMMAND} -E make_directory
+                ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER} VERBATIM)
         set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS $<TARGET_FILE:kfmgenw7>)
     endif()
     # The loader looks for the companion beside a variant, and finds it where the folder hangs.

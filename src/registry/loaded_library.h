@@ -14,4 +14,7 @@ struct LoadedLibrary {
 
 const LoadedLibrary& loadedLibrary();
 
+// The file that an address belongs to, for programs that load another one beside it.
+LoadedLibrary libraryOf(const void* address);
+
 }   // namespace kfm::registry

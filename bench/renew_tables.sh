@@ -1,0 +1,30 @@
+#!/bin/sh
+# renew_tables.sh [folder of builds]: writes the tables of docs/measurements.md again from what
+# `make bench` measured. Above each table stands the script and the CSV it comes from:
+#   <!-- table: measurements.awk x86-64/bench.csv family=DFTFwd_CToC -->
+# Where that CSV is not there the table stays; figures within the text are for its author.
+set -eu
+cd "$(dirname "$0")/.."
+document=docs/measurements.md
+renewed=$(mktemp)
+trap 'rm -f "$renewed"' EXIT
+awk -v build="${1:-build}" '
+    /^<!-- table: / {
+        option = $5 == "-->" ? "" : "-v " $5
+        command = "awk -F, " option " -f bench/" $3 " \047" build "\047/" $4 " 2>/dev/null"
+        table = ""
+        while ((command | getline row) > 0) table = table row "\n"
+        missing = close(command)
+        print
+        print ""
+        if (!missing) printf "%s", table
+        skipping = !missing
+        blank = 1
+        next
+    }
+    blank && /^$/ { blank = 0; next }   # between the marker and its table
+    { blank = 0 }
+    skipping && /^\|/ { next }
+    { skipping = 0; print }
+' "$document" >"$renewed"
+cp "$renewed" "$document"
