@@ -1,5 +1,7 @@
 #include "hartley/fixed_sums.h"
 
+#include <map>
+
 namespace kfm::hartley {
 
 using namespace kernelgen;
@@ -27,8 +29,10 @@ void oddOutputs(Graph& g, Ref d02, Ref d46, Ref d13, Ref d57, std::vector<LaneOu
     const Ref sums = g.add(d13, d75), differences = g.sub(d13, d75);
     const Ref first = lows(g, differences, sums), second = highs(g, differences, sums);
     const auto rotated = [&](Ref a, Ref b) { return g.settle(g.add(a, b), Border::rotation); };
-    const Ref near = rotated(g.mul(LaneConstant{c, s}, first), g.mul(LaneConstant{s, c}, second));
-    const Ref far = rotated(g.mul(LaneConstant{s, c}, first), -g.mul(LaneConstant{c, s}, second));
+    const Ref near2 = g.mul(LaneConstant{s, c}, second), near1 = g.mul(LaneConstant{c, s}, first);
+    const Ref near = rotated(near1, near2);
+    const Ref far2 = -g.mul(LaneConstant{c, s}, second), far1 = g.mul(LaneConstant{s, c}, first);
+    const Ref far = rotated(far1, far2);
 
     const Ref d04 = lows(g, d02, d46), d26 = highs(g, d02, d46);
     const Ref turned = g.add(d26, g.flip(swapped(g, d26), {1, 0}));   // (d2 - d6, d2 + d6)
@@ -51,13 +55,16 @@ void oddOutputs(Graph& g, Ref d02, Ref d46, Ref d13, Ref d57, std::vector<LaneOu
 
 std::vector<LaneOutput> eightPoints(Graph& g, std::span<const Lane> x) {
     const auto pairs = [&](int i, int j) { return pack(g, x[i], x[j]); };
-    const Ref ef0 = g.add(pairs(0, 2), pairs(4, 6)), ef1 = g.sub(pairs(0, 2), pairs(4, 6));
-    const Ref gh = g.add(pairs(1, 3), pairs(5, 7));
-    const Ref pq = product(g, Constant::cosTurn(1, 8), g.sub(pairs(1, 3), pairs(5, 7)));
+    const Ref x46 = pairs(4, 6), x02 = pairs(0, 2);
+    const Ref ef0 = g.add(x02, x46), ef1 = g.sub(x02, x46);
+    const Ref x57 = pairs(5, 7), x13 = pairs(1, 3);
+    const Ref gh = g.add(x13, x57);
+    const Ref pq = product(g, Constant::cosTurn(1, 8), g.sub(x13, x57));
     const auto twice = [&](Lane a) { return pack(g, a, a); };
     std::vector<LaneOutput> outputs;
 
-    const Ref evenOdd = g.add(swapped(g, ef0), g.flip(ef0, {0, 1}));   // (e0 + f0, e0 - f0)
+    const Ref conjugate = g.flip(ef0, {0, 1});
+    const Ref evenOdd = g.add(swapped(g, ef0), conjugate);   // (e0 + f0, e0 - f0)
     const Ref gg = twice(low(gh)), h = g.flip(twice(high(gh)), {0, 1});
     place(outputs, 0, 2, g.add(g.add(evenOdd, gg), h));
     place(outputs, 4, 6, g.sub(g.sub(evenOdd, gg), h));
@@ -74,16 +81,20 @@ std::vector<LaneOutput> eightPoints(Graph& g, std::span<const Lane> x) {
 std::vector<LaneOutput> sixteenPoints(Graph& g, std::span<const Lane> x) {
     const auto left = [&](int i) { return pack(g, x[i], x[i + 2]); };
     const auto right = [&](int i) { return pack(g, x[i + 8], x[i + 10]); };
-    const auto difference = [&](int i) { return g.sub(left(i), right(i)); };
     std::vector<Lane> sums(8);
     for (const int i : {0, 1, 4, 5}) {
-        const Ref sum = g.add(left(i), right(i));
+        const Ref r = right(i), sum = g.add(left(i), r);
         sums[i] = low(sum);
         sums[i + 2] = high(sum);
     }
     std::vector<LaneOutput> outputs = eightPoints(g, sums);
     for (LaneOutput& output : outputs) output.element *= 2;
-    oddOutputs(g, difference(0), difference(4), difference(1), difference(5), outputs);
+    std::map<int, Ref> differences;
+    for (const int i : {5, 1, 4, 0}) {
+        const Ref r = right(i);
+        differences[i] = g.sub(left(i), r);
+    }
+    oddOutputs(g, differences[0], differences[4], differences[1], differences[5], outputs);
     return outputs;
 }
 

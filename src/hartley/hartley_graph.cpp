@@ -58,13 +58,15 @@ private:
 
     void pair(int k, int l) {
         const ComplexLanes a = bins_[k], b = bins_[l];
-        sums(pack(g_, a.re, b.re), pack(g_, a.im.magnitude(), b.im.magnitude()), {k, l});
+        const Ref im = pack(g_, a.im.magnitude(), b.im.magnitude());
+        sums(pack(g_, a.re, b.re), im, {k, l});
         std::erase(waiting_, k);
         std::erase(waiting_, l);
     }
 
     void single(int k) {
-        sums(alone(g_, bins_[k].re), alone(g_, bins_[k].im.magnitude()), {k});
+        const Ref im = alone(g_, bins_[k].im.magnitude());
+        sums(alone(g_, bins_[k].re), im, {k});
     }
 
     // re - im and re + im; `im` comes with either sign.

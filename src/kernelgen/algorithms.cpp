@@ -83,9 +83,11 @@ HalfSpectrum factoredFive(Graph& g, std::span<const Ref> x) {
     const Ref centre = g.add(x[0], g.mul(half * (cosine(1, 5) + cosine(2, 5)), sum));
     const Ref spread = g.mul(half * (cosine(1, 5) - cosine(2, 5)), g.sub(a1, a2));
     const Constant s1 = sine(1, 5), s2 = sine(2, 5);
-    return {{g.add(x[0], sum), {}},
-            {g.add(centre, spread), -g.add(g.mul(s1, b1), g.mul(s2, b2))},
-            {g.sub(centre, spread), -g.sub(g.mul(s2, b1), g.mul(s1, b2))}};
+    const Ref re0 = g.add(x[0], sum), re1 = g.add(centre, spread);
+    const Ref near2 = g.mul(s2, b2), near1 = g.mul(s1, b1), im1 = -g.add(near1, near2);
+    const Ref re2 = g.sub(centre, spread);
+    const Ref far2 = g.mul(s1, b2), far1 = g.mul(s2, b1), im2 = -g.sub(far1, far2);
+    return {{re0, {}}, {re1, im1}, {re2, im2}};
 }
 
 // Conjugate-pair split radix: the even half U and the quarters Z = x[4m+1], Z' = x[4m-1] give
@@ -216,7 +218,9 @@ HalfSpectrum raderStep(Graph& g, const Plan& plan, std::span<const Ref> x) {
 }   // namespace
 
 Complex scaleLanes(Graph& g, Complex z, const LaneConstant& re, const LaneConstant& im) {
-    return {g.sub(g.mul(re, z.re), g.mul(im, z.im)), g.add(g.mul(im, z.re), g.mul(re, z.im))};
+    const Ref b = g.mul(im, z.im), a = g.mul(re, z.re), difference = g.sub(a, b);
+    const Ref d = g.mul(re, z.im), c = g.mul(im, z.re), sum = g.add(c, d);
+    return {difference, sum};
 }
 
 Complex scaleBy(Graph& g, Complex z, ComplexConstant c) {

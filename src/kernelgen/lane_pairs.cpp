@@ -41,7 +41,8 @@ BinVector rotated(Graph& g, BinVector bin, long numerator, long denominator) {
     const Constant c = Constant::cosTurn(numerator, denominator);
     const Constant s = Constant::sinTurn(bin.conjugated ? -numerator : numerator, denominator);
     const Ref z = g.settle(bin.value, Border::rotation);
-    const Ref product = g.add(g.mul(c, z), g.mul(LaneConstant{s, -s}, swapped(g, z)));
+    const Ref turned = g.mul(LaneConstant{s, -s}, swapped(g, z));
+    const Ref product = g.add(g.mul(c, z), turned);
     return {g.settle(product, Border::rotation), bin.conjugated};
 }
 

@@ -49,7 +49,7 @@ std::string NodeText::expression(const Node& node, const std::string& a, const s
         return "select<" + lanes + ">(" + a + ", " + b + ")";
     }
     case Op::subtract:
-        return subtracted(node, a);
+        return subtracted(tableOf(node), node.pattern, a);
     case Op::widen:
         return "widen(" + a + ")";
     case Op::round:
@@ -66,11 +66,12 @@ std::string NodeText::product(const Node& node, const std::string& a) {
 }
 
 // In the lanes that are kept -0.0 is added, which changes nothing.
-std::string NodeText::subtracted(const Node& node, const std::string& a) {
-    if (std::ranges::all_of(node.pattern, [](int lane) { return lane; }))
+std::string NodeText::subtracted(ConstantTable& table, const LanePattern& lanes,
+                                 const std::string& a) {
+    if (std::ranges::all_of(lanes, [](int lane) { return lane; }))
         return "subtractFromZero(" + a + ")";
-    return "add(flip(" + a + ", " + tableOf(node).zeros(node.pattern) + "), " +
-           tableOf(node).zeros(node.pattern, 0) + ")";
+    const std::string kept = table.zeros(lanes, 0);
+    return "add(flip(" + a + ", " + table.zeros(lanes) + "), " + kept + ")";
 }
 
 std::string NodeText::address(Packed side, int element) const {

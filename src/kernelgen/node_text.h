@@ -27,11 +27,12 @@ public:
 
     // Numbers of elements in memory, after packing; of those -1 is none.
     std::string addresses(Packed side, std::initializer_list<int> elements) const;
+    static std::string subtracted(ConstantTable& table, const LanePattern& lanes,
+                                  const std::string& a);
 
 private:
     ConstantTable& tableOf(const Node& node) { return tables_[node.wide]; }
     std::string product(const Node& node, const std::string& a);
-    std::string subtracted(const Node& node, const std::string& a);
     std::string address(Packed side, int element) const;   // after "src + " or "dst + "
     std::string load(const Node& node) const;
     bool wholeVector(int first, int second) const;

@@ -17,7 +17,8 @@ Ref sumOf(Graph& g, std::span<const Ref> terms) {
     if (terms.empty()) return {};
     if (terms.size() == 1) return terms[0];
     const std::size_t half = terms.size() / 2;
-    return g.add(sumOf(g, terms.first(half)), sumOf(g, terms.subspan(half)));
+    const Ref last = sumOf(g, terms.subspan(half));
+    return g.add(sumOf(g, terms.first(half)), last);
 }
 
 }   // namespace

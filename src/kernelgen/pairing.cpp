@@ -112,18 +112,24 @@ private:
 
     void proposeAny(int item) {
         const int other = anyOf(state_.items());
-        if (state_.compatible(item, other)) cascade(item, other, reach(), random(2), random(2));
+        if (!state_.compatible(item, other)) return;
+        const bool upwards = random(2), downwards = random(2);
+        cascade(item, other, reach(), downwards, upwards);
     }
 
     void proposeOperands(int low, int high) {
         const auto [a, b] = state_.asked(low, high, static_cast<int>(random(2)));
-        if (a >= 0 && b >= 0 && state_.compatible(a, b)) cascade(a, b, reach(), true, random(2));
+        if (a < 0 || b < 0 || !state_.compatible(a, b)) return;
+        const bool upwards = random(2);
+        cascade(a, b, reach(), true, upwards);
     }
 
     void proposeUsers(int low, int high) {
         if (state_.users(low).empty() || state_.users(high).empty()) return;
         const int a = anyOf(state_.users(low)), b = anyOf(state_.users(high));
-        if (state_.compatible(a, b)) cascade(a, b, reach(), random(2), true);
+        if (!state_.compatible(a, b)) return;
+        const bool downwards = random(2);
+        cascade(a, b, reach(), downwards, true);
     }
 
     // Joins a and b, then what they take and what takes them, up to so many pairs.

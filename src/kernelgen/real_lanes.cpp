@@ -40,8 +40,10 @@ MirroredPairs mirroredPairs(Graph& g, std::span<const Lane> x) {
         sums.push_back(sum);
     }
     Ref total = alone(g, x[0]);
-    if (const Ref all = balancedSum(g, sums); !all.isZero())
-        total = g.add(g.add(total, all), alone(g, high(all)));
+    if (const Ref all = balancedSum(g, sums); !all.isZero()) {
+        const Ref upper = alone(g, high(all));
+        total = g.add(g.add(total, all), upper);
+    }
     if (half % 2 == 1) {
         const Ref left = alone(g, x[half]), right = alone(g, x[half + 1]);
         const Ref sum = g.settle(g.add(left, right), Border::module);

@@ -18,8 +18,10 @@ void radixTwoBins(Graph& g, const TwoSpectra& rows, int n, int k, int l, Spectru
     const Ref im = g.settle(packIm(g, rows.second[k], rows.second[l]), Border::rotation);
     const LaneConstant c{Constant::cosTurn(k, n), Constant::cosTurn(l, n)};
     const LaneConstant s{Constant::sinTurn(k, n), Constant::sinTurn(l, n)};
-    const Complex o{g.settle(g.add(g.mul(c, re), g.mul(s, im)), Border::rotation),
-                    g.settle(g.sub(g.mul(c, im), g.mul(s, re)), Border::rotation)};
+    const Ref sIm = g.mul(s, im), cRe = g.mul(c, re);
+    const Ref oRe = g.settle(g.add(cRe, sIm), Border::rotation);
+    const Ref sRe = g.mul(s, re), cIm = g.mul(c, im);
+    const Complex o{oRe, g.settle(g.sub(cIm, sRe), Border::rotation)};
     const Complex sum{g.add(e.re, o.re), g.add(e.im, o.im)};
     const Complex difference{g.sub(e.re, o.re), g.sub(e.im, o.im)};
     for (const int lane : {0, 1}) {
@@ -93,8 +95,8 @@ private:
         const Ref z = g_.settle(g_.mul(Constant::cosTurn(1, 8), z_[k].re), Border::rotation);
         const BinVector even = binVector(g_, u_[k]);
         // (Z + Z', Z' - Z), or conjugated (Z + Z', Z - Z')
-        const Ref odd = even.conjugated ? g_.add(swapped(g_, z), g_.flip(z, {0, 1}))
-                                        : g_.add(z, g_.flip(swapped(g_, z), {0, 1}));
+        const Ref flipped = g_.flip(even.conjugated ? z : swapped(g_, z), {0, 1});
+        const Ref odd = g_.add(even.conjugated ? swapped(g_, z) : z, flipped);
         const Ref sum = g_.add(even.value, odd), difference = g_.sub(even.value, odd);
         const auto im = [&](Ref bin) { return even.conjugated ? -high(bin) : high(bin); };
         place(k, {low(sum), im(sum)});

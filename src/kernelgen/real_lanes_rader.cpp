@@ -90,7 +90,10 @@ public:
 private:
     Lane z(int i, int r) const { return x_[order_.input[chineseRemainder(i, 4, r, q_)]]; }
 
-    Ref sumAndDifference(Ref v) { return g_.add(swapped(g_, v), g_.flip(v, {0, 1})); }
+    Ref sumAndDifference(Ref v) {
+        const Ref flipped = g_.flip(v, {0, 1});
+        return g_.add(swapped(g_, v), flipped);
+    }
 
     std::vector<Constant> rootsOf(const std::vector<Constant>& roots, int i) const {
         std::vector<Constant> row;
@@ -129,7 +132,8 @@ private:
             const auto weighted = [&](Constant real, Constant imaginary, Ref z) {
                 const Constant weight = Constant::ratio(1, q_);
                 const Constant c = weight * real, s = weight * imaginary;
-                return g_.add(g_.mul(c, z), g_.mul(LaneConstant{-s, s}, swapped(g_, z)));
+                const Ref other = g_.mul(LaneConstant{-s, s}, swapped(g_, z));
+                return g_.add(g_.mul(c, z), other);
             };
             if (k == 0) {
                 products[0].re = weighted(p.re, q.re, bins[0].re);
@@ -188,8 +192,8 @@ private:
         const bool conjugated = bin.re.negative() != bin.im.negative();
         if (conjugated) c.im = -c.im;
         const Ref z = pack(g_, bin.re, conjugated ? -bin.im : bin.im);
-        const Ref y = g_.add(g_.mul(c.re, z),
-                             g_.mul(LaneConstant{-c.im, c.im}, swapped(g_, z)));
+        const Ref other = g_.mul(LaneConstant{-c.im, c.im}, swapped(g_, z));
+        const Ref y = g_.add(g_.mul(c.re, z), other);
         return {{y, 0}, {conjugated ? -y : y, 1}};
     }
 

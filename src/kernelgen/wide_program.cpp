@@ -218,9 +218,7 @@ private:
         case Op::select:
             return selected(low, high, a, b);
         case Op::subtract:
-            if (std::ranges::count(low.pattern, 0) == 0) return "subtractFromZero(" + a + ")";
-            return "add(flip(" + a + ", " + table(low.wide).zeros(patterns(low, high)) + "), " +
-                   table(low.wide).zeros(patterns(low, high), 0) + ")";
+            return NodeText::subtracted(table(low.wide), patterns(low, high), a);
         case Op::widen:
             return "widenHalves(" + a + ")";
         case Op::round:

@@ -67,8 +67,10 @@ void twoStages(Graph& g, int n, int d) {
             for (int j = 0; j < L; ++j) {
                 const LaneConstant c = kernelAngles(L, n, q, r + j, false);
                 const LaneConstant s = kernelAngles(L, n, q, r + j, true);
-                p.push_back(g.sub(g.mul(c, cosines[j]), g.mul(s, sines[j])));
-                rotated.push_back(g.add(g.mul(s, cosines[j]), g.mul(c, sines[j])));
+                const Ref sine = g.mul(s, sines[j]), cosine = g.mul(c, cosines[j]);
+                p.push_back(g.sub(cosine, sine));
+                const Ref ofSine = g.mul(c, sines[j]), ofCosine = g.mul(s, cosines[j]);
+                rotated.push_back(g.add(ofCosine, ofSine));
             }
         }
         const Rows D = dct2(g, p), E = dst2(g, rotated);
@@ -92,7 +94,8 @@ void sixteen(Graph& g) {
         const Constant sign = r % 2 ? -1 : 1;
         const LaneConstant direct = {cosine(0), sign * cosine(0), cosine(1), sign * cosine(1)};
         const LaneConstant crossed = {-sine(0), sign * sine(0), -sine(1), sign * sine(1)};
-        z.push_back(g.add(g.mul(direct, v[r]), g.mul(crossed, g.select(v[r], {1, 0, 3, 2}))));
+        const Ref other = g.mul(crossed, g.select(v[r], {1, 0, 3, 2}));
+        z.push_back(g.add(g.mul(direct, v[r]), other));
     }
     // Lanes of x[k]: D_k and E_{4-k} of row 0, of row 1.
     const Rows x = dct2(g, z);

@@ -20,7 +20,8 @@ Complex scale(Graph& g, const LaneConstant& c, Complex z) {
 
 // (u, u', v, v') -> (u + v, u' + v', u - v, u' - v').
 Complex halfButterfly(Graph& g, Complex z) {
-    return add(g, flip(g, z, {0, 0, 1, 1}), select(g, z, {2, 3, 0, 1}));
+    const Complex exchanged = select(g, z, {2, 3, 0, 1});
+    return add(g, flip(g, z, {0, 0, 1, 1}), exchanged);
 }
 
 // One column by sums and differences of the positions 2t+1, 2t+2 in vector t.
@@ -31,8 +32,8 @@ public:
         for (int t = 0; t < half / 2; ++t) pairs_.push_back(halfButterfly(g, groups[t]));
         const Complex rest = groups[half / 2];
         if (half % 2 == 1) {
-            odd_ = add(g, select(g, rest, {0, 0, 0, 0}),
-                       flip(g, select(g, rest, {1, 1, 1, 1}), {0, 0, 1, 1}));
+            const Complex mirror = flip(g, select(g, rest, {1, 1, 1, 1}), {0, 0, 1, 1});
+            odd_ = add(g, select(g, rest, {0, 0, 0, 0}), mirror);
             x0_ = lowerHalf(g, select(g, rest, {2, 2, 2, 2}));
         } else {
             x0_ = lowerHalf(g, select(g, rest, {0, 0, 0, 0}));
@@ -179,16 +180,18 @@ std::vector<LaneVector> joinColumns(Graph& g, int p, std::span<const Complex> pa
         for (const LaneVector& vector : twoPoint(g, p, even, odd, numbers))
             result.push_back(vector);
     };
+    const auto joinLanes = [&](Complex a, Complex b, const Elements& numbers) {
+        const Complex odd = select(g, a, b, oddLanes);
+        join(select(g, a, b, evenLanes), odd, numbers);
+    };
     for (const SignedOutputs& y : combineParts(g, parts, sign)) {
         const int k = outputs[y.first];
         if (y.second >= 0) {
             const int l = outputs[y.second];
-            join(select(g, y.plus, y.minus, evenLanes), select(g, y.plus, y.minus, oddLanes),
-                 {k, l, p - k, p - l});
+            joinLanes(y.plus, y.minus, {k, l, p - k, p - l});
         } else {
             const Complex both = select(g, y.plus, y.minus, lowHalves);
-            join(select(g, both, first, evenLanes), select(g, both, first, oddLanes),
-                 {k, p - k, 0, -1});
+            joinLanes(both, first, {k, p - k, 0, -1});
         }
     }
     if (parts.size() % 2 == 0)

@@ -76,7 +76,8 @@ public:
 private:
     // (u, v) -> (u + v, u - v) in both halves.
     Ref butterfly(Ref a) {
-        return g_.add(g_.flip(a, {0, 1, 0, 1}), g_.select(a, neighbours));
+        const Ref exchanged = g_.select(a, neighbours);
+        return g_.add(g_.flip(a, {0, 1, 0, 1}), exchanged);
     }
 
     LaneConstant factors(int exponent, Sign sign) const {

@@ -60,7 +60,8 @@ Complex twiddleRows(Graph& g, const TwoStep& step, Sign sign, Complex z, const E
 
 // A 4-point step across the lanes of one column: lanes y0, y2, y1, y3.
 LaneVector singleColumn(Graph& g, const TwoStep& step, Sign sign, Complex z, int k1) {
-    const Complex t = add(g, flip(g, z, {0, 0, 1, 1}), select(g, z, {2, 3, 0, 1}));
+    const Complex exchanged = select(g, z, {2, 3, 0, 1});
+    const Complex t = add(g, flip(g, z, {0, 0, 1, 1}), exchanged);
     const bool minus = sign == Sign::minus;
     const Ref oddRe = g.flip(g.select(t.re, t.im, {1, 1, 7, 7}),
                              minus ? LanePattern{0, 1, 0, 1} : LanePattern{0, 1, 1, 0});
@@ -192,8 +193,8 @@ private:
     void columnPair(int ka, int kb) {
         const int p = step_.rows;
         Complex first;
-        const std::vector<Complex> t =
-            mirroredSums(g_, p, mirroredColumn(ka), mirroredColumn(kb), first);
+        const std::vector<Complex> b = mirroredColumn(kb), a = mirroredColumn(ka);
+        const std::vector<Complex> t = mirroredSums(g_, p, a, b, first);
         for (const SignedOutputs& y : combineParts(g_, directParts(g_, p, t, first), sign_)) {
             const int k = y.first + 1, l = y.second + 1;
             const auto elements = [&](int one, int other) {
@@ -263,8 +264,10 @@ void rowPairGraph(Graph& g, const Plan& plan, Sign sign) {
     const auto column = [&](int k1) {
         return twiddleRows(g, step, sign, rows[k1], {0, 1, 2, 3}, k1);
     };
-    for (int k1 = 0; k1 + 1 < step.columns; k1 += 2)
-        storeColumnPair(g, step, sign, column(k1), column(k1 + 1), k1, k1 + 1);
+    for (int k1 = 0; k1 + 1 < step.columns; k1 += 2) {
+        const Complex b = column(k1 + 1), a = column(k1);
+        storeColumnPair(g, step, sign, a, b, k1, k1 + 1);
+    }
     if (step.columns % 2 == 1)
         store4(g, singleColumn(g, step, sign, column(step.columns - 1), step.columns - 1));
 }

@@ -35,9 +35,11 @@ std::vector<ComplexLanes> eightPoints(Graph& g, std::span<const Lane> x) {
     const Ref p = product(sub(1, 5)), q = product(sub(3, 7));
     const Ref u = g.add(p, q), v = g.sub(p, q), d = sub(0, 4), f = sub(2, 6);
     const auto bin = [](Ref re, Ref im) { return ComplexLanes{{re, 0}, {im, 0}}; };
-    return {bin(g.add(even, odd), {}), bin(g.add(d, v), -g.add(f, u)),
-            bin(g.sub(e0, e1), -g.sub(o0, o1)), bin(g.sub(d, v), -g.sub(u, f)),
-            bin(g.sub(even, odd), {})};
+    const Ref re0 = g.add(even, odd);
+    const Ref im1 = -g.add(f, u), re1 = g.add(d, v);
+    const Ref im2 = -g.sub(o0, o1), re2 = g.sub(e0, e1);
+    const Ref im3 = -g.sub(u, f), re3 = g.sub(d, v);
+    return {bin(re0, {}), bin(re1, im1), bin(re2, im2), bin(re3, im3), bin(g.sub(even, odd), {})};
 }
 
 std::vector<LaneOutput> packed(std::span<const ComplexLanes> spectrum, int n) {
