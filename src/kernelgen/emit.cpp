@@ -3,17 +3,25 @@
 #include <algorithm>
 #include <sstream>
 
+#include "kernelgen/program.h"
+
 namespace kfm::kernelgen {
 namespace {
 
 constexpr int operationsPerLaundering = 12;
 
-class TransformPrinter {
+class BodyPrinter {
 public:
-    TransformPrinter(Program& program, const ScheduleChoice& choice)
-        : program_(program), choice_(choice) {}
+    BodyPrinter(Program& program, const ScheduleChoice& choice, bool overlapping)
+        : program_(program), choice_(choice), overlapping_(overlapping) {}
 
-    std::string body() {
+    Body print() {
+        const std::string operations = text();   // fills the tables
+        return {tables(), pointers() + operations};
+    }
+
+private:
+    std::string text() {
         out_ << program_.scales();
         const std::vector<Operation>& operations = program_.operations();
         int count = 0;
@@ -25,12 +33,11 @@ public:
             print(operation, number);
             ready.insert(ready.end(), operation.outputs.begin(), operation.outputs.end());
             loads -= operation.isLoad;
-            // The arrays may overlap, and some outputs do not depend on all of the source.
-            if (loads > 0) continue;
+            if (overlapping_ && loads > 0) continue;
             for (const int output : ready) out_ << "        " << program_.store(output);
             ready.clear();
         }
-        return "        const auto scale = broadcast(factor);\n" + pointers() + out_.str();
+        return out_.str();
     }
 
     std::string tables() const {
@@ -40,7 +47,6 @@ public:
         return result;
     }
 
-private:
     std::vector<std::vector<int>> operands() const {
         std::vector<std::vector<int>> result;
         for (const Operation& operation : program_.operations()) result.push_back(operation.operands);
@@ -72,27 +78,33 @@ private:
 
     Program& program_;
     const ScheduleChoice& choice_;
+    bool overlapping_;
     std::ostringstream out_;
 };
 
 }   // namespace
 
+Body emitBody(const Graph& g, const registry::Element& element, const ScheduleChoice& choice,
+              const Ports& ports) {
+    const bool paired = choice.pairing && g.lanes() > 1;
+    const Pairing pairing = paired ? pairOperations(g, *choice.pairing) : Pairing();
+    const std::unique_ptr<Program> program = paired ? wideProgram(g, element, ports, pairing)
+                                                    : narrowProgram(g, element, ports);
+    return BodyPrinter(*program, choice, ports.overlapping()).print();
+}
+
 std::string emitTransform(const Graph& g, std::string_view name,
                           const registry::Element& element, const ScheduleChoice& choice,
                           Packed packed) {
-    const bool paired = choice.pairing && g.lanes() > 1;
-    const Pairing pairing = paired ? pairOperations(g, *choice.pairing) : Pairing();
-    const std::unique_ptr<Program> program = paired ? wideProgram(g, element, packed, pairing)
-                                                    : narrowProgram(g, element, packed);
-    TransformPrinter printer(*program, choice);
-    const std::string body = printer.body();
+    const Body body = emitBody(g, element, choice, ArrayPorts(g.lanes(), element, packed));
     const std::string type(element.type);
     std::ostringstream out;
-    out << "struct " << name << " {\n" << printer.tables() << "\n"
+    out << "struct " << name << " {\n" << body.tables << "\n"
         << "    template <class Memory, class Factor>\n"
         << "    [[gnu::always_inline]] static void transform(const " << type << "* src, " << type
         << "* dst, const Factor* factor) {\n"
-        << body << "    }\n};\n";
+        << "        const auto scale = broadcast(factor);\n"
+        << body.statements << "    }\n};\n";
     return out.str();
 }
 

@@ -11,12 +11,19 @@
 #include <string>
 #include <string_view>
 
+#include "kernelgen/array_ports.h"
 #include "kernelgen/graph.h"
-#include "kernelgen/program.h"
 #include "kernelgen/schedule.h"
 #include "registry/registry.h"
 
 namespace kfm::kernelgen {
+
+// What comes in by ports and goes out by them: the statements, and the tables that they refer to.
+struct Body {
+    std::string tables, statements;
+};
+Body emitBody(const Graph& g, const registry::Element& element, const ScheduleChoice& choice,
+              const Ports& ports);
 
 // A struct `name` with the constants and a static function transform<Memory>(src, dst, scale),
 // where `scale` points to the factor.

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 
+#include "kernelgen/array_ports.h"
 #include "kernelgen/graph.h"
 #include "kernelgen/plan.h"
 #include "kernelgen/schedule.h"
@@ -32,6 +34,11 @@ struct KernelFamily {
     std::function<std::string(int length, const registry::Element&, const Target&,
                               const ScheduleChoice&, std::span<const registry::Family* const>)>
         emit = {};
+    // Where its values come from and go to in dumps.
+    std::function<std::unique_ptr<Ports>(int lanes, const registry::Element&)> ports =
+        [](int lanes, const registry::Element& element) {
+            return std::make_unique<ArrayPorts>(lanes, element);
+        };
     // Whether operations may be joined in pairs; not where a graph stands for vectors of any width.
     bool inPairs = true;
 };

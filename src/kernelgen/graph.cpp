@@ -194,4 +194,19 @@ void Graph::store(int first, int second, Ref value, LanePattern negated) {
     outputs_.push_back({first, second, value.node(), negated});
 }
 
+void Graph::turnDifferences() {
+    const LanePattern all(lanes_, 1);
+    std::vector<char> turned(nodes_.size());
+    for (const Output& output : outputs_) turned[output.node] = nodes_[output.node].op == Op::sub;
+    for (const Output& output : outputs_)
+        if (output.negated != all) turned[output.node] = false;
+    for (const int node : liveNodes())
+        for (const Ref operand : {nodes_[node].a, nodes_[node].b})
+            if (!operand.isZero()) turned[operand.node()] = false;
+    for (std::size_t node = 0; node < nodes_.size(); ++node)
+        if (turned[node]) std::swap(nodes_[node].a, nodes_[node].b);
+    for (Output& output : outputs_)
+        if (turned[output.node]) output.negated.assign(lanes_, 0);
+}
+
 }   // namespace kfm::kernelgen

@@ -86,7 +86,7 @@ struct Node {
 };
 
 // What a kernel writes: the elements `first` and `second` (-1: half not stored) from a node,
-// with the sign changed in the lanes whose entry is 1; the scale factor takes the signs along.
+// with the sign changed in the lanes whose entry is 1; a scale factor takes the signs along.
 struct Output {
     int first, second;
     int node;
@@ -124,6 +124,9 @@ public:
 
     void store(int first, int second, Ref value, LanePattern negated = {});
     const std::vector<Output>& outputs() const { return outputs_; }
+    // A difference that only goes out, and with the other sign, is taken the other way round: the
+    // last step where no factor takes signs along.
+    void turnDifferences();
     // The nodes that an output depends on, operands before their users.
     std::vector<int> liveNodes() const;
 

@@ -45,10 +45,10 @@ constexpr std::array columns = {
     std::pair{"conversions", &OperationCounts::conversions},
 };
 
-std::string explainPairing(const Graph& graph, const Element& element,
+std::string explainPairing(const Graph& graph, const Element& element, const Ports& ports,
                            const PairingChoice& choice) {
     const Pairing pairing = pairOperations(graph, choice);
-    const auto program = wideProgram(graph, element, Packed::neither, pairing);
+    const auto program = wideProgram(graph, element, ports, pairing);
     const std::vector<int> live = graph.liveNodes();
     const auto isAlone = [&](int node) {
         return graph.nodes()[node].op != Op::load && pairing.alone(node);
@@ -59,11 +59,11 @@ std::string explainPairing(const Graph& graph, const Element& element,
 }
 
 // The operations as they are printed, in execution order.
-std::string dumpProgram(const Graph& graph, const Element& element, const ScheduleChoice& choice) {
+std::string dumpProgram(const Graph& graph, const Element& element, const Ports& ports,
+                        const ScheduleChoice& choice) {
     const Pairing pairing = choice.pairing ? pairOperations(graph, *choice.pairing) : Pairing();
-    const auto program = choice.pairing
-                             ? wideProgram(graph, element, Packed::neither, pairing)
-                             : narrowProgram(graph, element, Packed::neither);
+    const auto program = choice.pairing ? wideProgram(graph, element, ports, pairing)
+                                        : narrowProgram(graph, element, ports);
     std::vector<std::vector<int>> operands;
     for (const Operation& operation : program->operations()) operands.push_back(operation.operands);
     program->scales();   // names what stores refer to
@@ -125,8 +125,11 @@ std::string explain(std::string_view source, int length, const Element& element)
             << "  reloads          " << countReloads(graph, schedule(graph, choice),
                                                      target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
-        if (choice.pairing && graph.lanes() > 1)
-            out << "  pairing          " << explainPairing(graph, element, *choice.pairing) << '\n';
+        if (choice.pairing && graph.lanes() > 1) {
+            const auto ports = family.ports(graph.lanes(), element);
+            out << "  pairing          "
+                << explainPairing(graph, element, *ports, *choice.pairing) << '\n';
+        }
         const OperationCounts counts = countOperations(graph);
         for (const auto& [name, member] : columns)
             out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
@@ -140,7 +143,8 @@ std::string dump(std::string_view stage, std::string_view source, int length,
     if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no stages");
     const Graph graph = family.graph(length, element, target, false);
     const ScheduleChoice choice = family.choice(length, element, target);
-    if (stage == "program") return dumpProgram(graph, element, choice);
+    if (stage == "program")
+        return dumpProgram(graph, element, *family.ports(graph.lanes(), element), choice);
     const std::vector<int> scheduled = schedule(graph, choice);
     if (stage == "schedule") return dumpText(graph, scheduled);
     if (stage == "dot") return dumpDot(graph, scheduled);

@@ -8,9 +8,9 @@ namespace {
 
 class NarrowProgram : public Program {
 public:
-    NarrowProgram(const Graph& g, const registry::Element& element, Packed packed)
-        : g_(g), nodes_(g.liveNodes()), text_(g, element, packed, tables_) {
-        tables_ = NodeText::tables(g, element);
+    NarrowProgram(const Graph& g, const registry::Element& element, const Ports& ports)
+        : g_(g), nodes_(g.liveNodes()), text_(g, ports, tables_) {
+        tables_ = NodeText::tables(g, element, ports);
         std::map<int, int> operationOf;
         for (const int number : nodes_) {
             const Node& node = g.nodes()[number];
@@ -46,8 +46,8 @@ private:
 }   // namespace
 
 std::unique_ptr<Program> narrowProgram(const Graph& g, const registry::Element& element,
-                                       Packed packed) {
-    return std::make_unique<NarrowProgram>(g, element, packed);
+                                       const Ports& ports) {
+    return std::make_unique<NarrowProgram>(g, element, ports);
 }
 
 }   // namespace kfm::kernelgen

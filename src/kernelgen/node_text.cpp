@@ -4,9 +4,10 @@
 
 namespace kfm::kernelgen {
 
-std::vector<ConstantTable> NodeText::tables(const Graph& g, const registry::Element& element) {
+std::vector<ConstantTable> NodeText::tables(const Graph& g, const registry::Element& element,
+                                            const Ports& ports) {
     const int lanes = g.lanes();
-    const std::string access = lanes == 1 ? "lane" : "constant";
+    const std::string access = lanes == 1 ? "lane" : ports.rowAccess();
     const bool wide = element.doublePrecision || lanes == 1;
     return {{"constants", element.doublePrecision, access, lanes, wide ? lanes : 4},
             {"wideConstants", true, access, lanes, lanes}};
@@ -14,6 +15,7 @@ std::vector<ConstantTable> NodeText::tables(const Graph& g, const registry::Elem
 
 std::string NodeText::scales(const std::vector<Output>& outputs) {
     std::string text;
+    if (!ports_.scaled()) return text;
     for (const Output& output : outputs) {
         const Node& node = g_.nodes()[output.node];
         const bool plain = std::ranges::none_of(output.negated, [](int lane) { return lane; });
@@ -33,7 +35,7 @@ std::string NodeText::scales(const std::vector<Output>& outputs) {
 std::string NodeText::expression(const Node& node, const std::string& a, const std::string& b) {
     switch (node.op) {
     case Op::load:
-        return load(node);
+        return ports_.load(node);
     case Op::add:
         return "add(" + a + ", " + b + ")";
     case Op::sub:
@@ -74,49 +76,19 @@ std::string NodeText::subtracted(ConstantTable& table, const LanePattern& lanes,
     return "add(flip(" + a + ", " + table.zeros(lanes) + "), " + kept + ")";
 }
 
-std::string NodeText::address(Packed side, int element) const {
-    const std::string index = std::to_string(element);
-    return packed_ == side ? "Memory::at(" + index + ")" : index;
-}
-
-std::string NodeText::addresses(Packed side, std::initializer_list<int> elements) const {
-    std::string result;
-    for (const int element : elements)
-        result += (result.empty() ? "" : ", ") + (element < 0 ? "-1" : address(side, element));
-    return result;
-}
-
-std::string NodeText::load(const Node& node) const {
-    const std::string first = "src + " + address(Packed::source, node.first);
-    const std::string second = "src + " + address(Packed::source, node.second);
-    if (complex_ && !single_) return "Memory::load(" + first + ")";
-    if (g_.lanes() == 1) return "load(" + first + ")";
-    if (!complex_)
-        return "loadPair<" + addresses(Packed::source, {node.first, node.second}) + ">(src)";
-    if (node.second < 0) return "loadLow(" + first + ")";
-    if (wholeVector(node.first, node.second)) return "Memory::loadPair(" + first + ")";
-    return "loadHalves(" + first + ", " + second + ")";
-}
-
-// An aligned vector of two neighbours starts at an even element.
-bool NodeText::wholeVector(int first, int second) const {
-    return first % 2 == 0 && second == first + 1;
+// With the factor or, where there is none, the signs that it would bring along.
+std::string NodeText::outgoing(const Output& output, const std::string& value) {
+    const Node& node = g_.nodes()[output.node];
+    if (ports_.scaled())
+        return "mul(" + value + ", " + scales_.at({node.wide, output.negated}) + ")";
+    if (std::ranges::count(output.negated, 1) == 0) return value;
+    return "flip(" + value + ", " + tableOf(node).zeros(output.negated) + ")";
 }
 
 std::string NodeText::store(const Output& output, const std::string& name) {
+    const std::string value = outgoing(output, name);
     const bool wide = g_.nodes()[output.node].wide;
-    const std::string first = "dst + " + address(Packed::destination, output.first);
-    const std::string second = "dst + " + address(Packed::destination, output.second);
-    const std::string product = "mul(" + name + ", " + scales_.at({wide, output.negated}) + ")";
-    const std::string value = wide ? "narrow(" + product + ")" : product;
-    std::string call;
-    if (complex_ && !single_) call = "Memory::store(" + first;
-    else if (!complex_ && g_.lanes() == 2)
-        call = "storePair<" + addresses(Packed::destination, {output.first, output.second}) + ">(dst";
-    else if (output.second < 0) call = "storeLow(" + first;
-    else if (wholeVector(output.first, output.second)) call = "Memory::storePair(" + first;
-    else call = "storeHalves(" + first + ", " + second;
-    return call + ", " + value + ");\n";
+    return ports_.store(output, wide ? "narrow(" + value + ")" : value);
 }
 
 }   // namespace kfm::kernelgen

@@ -9,12 +9,10 @@
 #include "kernelgen/constant_table.h"
 #include "kernelgen/graph.h"
 #include "kernelgen/pairing.h"
+#include "kernelgen/ports.h"
 #include "registry/registry.h"
 
 namespace kfm::kernelgen {
-
-// Which side of a kernel on real data is a packed spectrum.
-enum class Packed { neither, source, destination };
 
 struct Operation {
     std::string name;
@@ -34,7 +32,8 @@ public:
     virtual std::string expression(int operation) = 0;
     // The statement that stores an output.
     virtual std::string store(int output) = 0;
-    // Scale factors in other precisions and with other signs than `scale`, made once.
+    // Scale factors in other precisions and with other signs than `scale`, made once; empty where
+    // nothing is scaled.
     virtual std::string scales() = 0;
 
 protected:
@@ -44,9 +43,9 @@ protected:
 
 // An operation for each live node of a graph.
 std::unique_ptr<Program> narrowProgram(const Graph& g, const registry::Element& element,
-                                       Packed packed);
+                                       const Ports& ports);
 // An operation for each pair of nodes, and for what is left alone.
 std::unique_ptr<Program> wideProgram(const Graph& g, const registry::Element& element,
-                                     Packed packed, const Pairing& pairing);
+                                     const Ports& ports, const Pairing& pairing);
 
 }   // namespace kfm::kernelgen

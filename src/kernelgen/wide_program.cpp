@@ -28,11 +28,11 @@ struct Value {
 
 class WideProgram : public Program {
 public:
-    WideProgram(const Graph& g, const registry::Element& element, Packed packed,
+    WideProgram(const Graph& g, const registry::Element& element, const Ports& ports,
                 const Pairing& pairing)
-        : g_(g), pairing_(pairing), mixed_(g.arithmetic().mixed), complex_(element.complex),
-          doublePrecision_(element.doublePrecision), rows_(g), text_(g, element, packed, tables_) {
-        tables_ = NodeText::tables(g, element);
+        : g_(g), ports_(ports), pairing_(pairing), mixed_(g.arithmetic().mixed),
+          doublePrecision_(element.doublePrecision), rows_(g), text_(g, ports, tables_) {
+        tables_ = NodeText::tables(g, element, ports);
         const int lanes = 2 * g.lanes();
         tables_.emplace_back("pairedConstants", element.doublePrecision,
                              fourSingles() ? "constant" : "constantHalves", lanes, lanes);
@@ -68,11 +68,12 @@ public:
         for (const auto& [number, store] : stores_)
             if (store.high < 0) lone.push_back(g_.outputs()[number]);
         std::string result = text_.scales(lone);
+        if (!ports_.scaled()) return result;
         for (const auto& [signs, name] : pairedScales_) {
             const auto& [isWide, negated] = signs;
             std::string value = "scale";
             if (isWide && !doublePrecision_) value = "twice(widen(scale))";
-            else if (doublePrecision_ || complex_) value = "twice(scale)";
+            else if (!fourSingles()) value = "twice(scale)";
             if (std::ranges::count(negated, 1) > 0)
                 value = "flip(" + value + ", " + table(isWide).zeros(negated) + ")";
             result += "        const auto " + name + " = " + value + ";\n";
@@ -84,12 +85,9 @@ public:
         const Store& what = stores_.at(output);
         if (what.high < 0) return text_.store(g_.outputs()[what.low], what.value.text);
         const Output &a = g_.outputs()[what.low], &b = g_.outputs()[what.high];
-        const bool isWide = wide(a.node);
-        const std::string product =
-            "mul(" + what.value.text + ", " + pairedScales_.at(signsOf(what)) + ")";
-        const std::string value = isWide && !doublePrecision_ ? "narrow(" + product + ")" : product;
-        return (wholeElements() ? "storeTwo<" : "storeFour<") +
-               elements(Packed::destination, a, b) + ">(dst, " + value + ");\n";
+        const std::string value = outgoing(what);
+        const bool narrowed = wide(a.node) && !doublePrecision_;
+        return ports_.store(a, b, narrowed ? "narrow(" + value + ")" : value);
     }
 
 private:
@@ -105,13 +103,15 @@ private:
     int high(int item) const { return half(item) ? item : pairing_.partner[item]; }
     ConstantTable& table(bool isWide) { return tables_[isWide && !doublePrecision_ ? 3 : 2]; }
     // Two single-precision lanes and two more fill a vector of 16 bytes.
-    bool fourSingles() const { return !doublePrecision_ && !complex_; }
-    bool wholeElements() const { return complex_ && doublePrecision_; }
+    bool fourSingles() const { return !doublePrecision_ && g_.lanes() == 2; }
 
-    template <class Access>
-    std::string elements(Packed side, const Access& a, const Access& b) const {
-        if (wholeElements()) return text_.addresses(side, {a.first, b.first});
-        return text_.addresses(side, {a.first, a.second, b.first, b.second});
+    // With the factor or, where there is none, the signs that it would bring along.
+    std::string outgoing(const Store& store) {
+        const auto signs = signsOf(store);
+        if (ports_.scaled())
+            return "mul(" + store.value.text + ", " + pairedScales_.at(signs) + ")";
+        if (std::ranges::count(signs.second, 1) == 0) return store.value.text;
+        return "flip(" + store.value.text + ", " + table(signs.first).zeros(signs.second) + ")";
     }
 
     int add(WideOperation what, std::vector<Value> values) {
@@ -200,9 +200,7 @@ private:
         const Node &low = g_.nodes()[what.low], &high = g_.nodes()[what.high];
         switch (low.op) {
         case Op::load:
-            return std::string(wholeElements() ? "loadTwo" : "loadFour") +
-                   (pairing_.loadsApart ? "Apart<" : "<") +
-                   elements(Packed::source, low, high) + ">(src)";
+            return ports_.load(low, high, pairing_.loadsApart);
         case Op::add:
         case Op::sub:
             return (low.op == Op::sub && high.op == Op::sub ? "sub(" : "add(") + a + ", " + b + ")";
@@ -273,8 +271,9 @@ private:
     }
 
     const Graph& g_;
+    const Ports& ports_;
     const Pairing& pairing_;
-    bool mixed_, complex_, doublePrecision_;
+    bool mixed_, doublePrecision_;
     PairingState rows_;
     NodeText text_;
     std::vector<WideOperation> what_;
@@ -287,8 +286,8 @@ private:
 }   // namespace
 
 std::unique_ptr<Program> wideProgram(const Graph& g, const registry::Element& element,
-                                     Packed packed, const Pairing& pairing) {
-    return std::make_unique<WideProgram>(g, element, packed, pairing);
+                                     const Ports& ports, const Pairing& pairing) {
+    return std::make_unique<WideProgram>(g, element, ports, pairing);
 }
 
 }   // namespace kfm::kernelgen

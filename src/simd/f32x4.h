@@ -38,6 +38,9 @@ KFM_OPERATION f32x4 select(f32x4 a, f32x4 b) {
         return _mm_castpd_ps(_mm_move_sd(_mm_castps_pd(a), _mm_castps_pd(b)));
     else if constexpr (is(0, 1, 6, 7))
         return _mm_castpd_ps(_mm_move_sd(_mm_castps_pd(b), _mm_castps_pd(a)));
+    // Not the integer shuffle: compilers fetch its operand from memory, by way of the stack when it
+    // came from an address without alignment.
+    else if constexpr (is(3, 2, 1, 0)) return _mm_shuffle_ps(a, a, order);
     else if constexpr (lowA && highA)
         return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a), order));
     else {

@@ -98,9 +98,7 @@ KFM_OPERATION void storeStreaming(float* p, f32x8 v) { _mm256_stream_ps(p, v); }
 KFM_OPERATION void storeStreaming(double* p, f64x4 v) { _mm256_stream_pd(p, v); }
 #endif
 
-// Not the integer shuffle that select would take: compilers fetch its operand from memory, by way
-// of the stack when it came from an address without alignment.
-KFM_OPERATION f32x4 reverse(f32x4 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3)); }
+KFM_OPERATION f32x4 reverse(f32x4 v) { return select<3, 2, 1, 0>(v, v); }
 KFM_OPERATION f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }
 
 // One lane in all lanes.

@@ -28,6 +28,19 @@ TEST_F(GraphTest, SignsAndZerosNeverBecomeNodes) {
     EXPECT_EQ(g.nodes().size(), 5u);   // two loads, a sum, a difference, a product
 }
 
+TEST_F(GraphTest, DifferencesTurnRoundWhereNothingElseNeedsThem) {
+    const Ref used = g.sub(x, y), both = g.sub(g.mul(2, x), y), alone = g.sub(g.mul(3, x), y);
+    const Ref values[] = {-used, g.mul(5, used), both, -both, -alone, -alone};
+    for (int i = 0; i < 6; ++i) g.store(i, -1, values[i]);
+    const std::vector<double> source = {1, 2, 30, 40, 0, 0, 0, 0, 0, 0, 0, 0};
+    const std::vector<double> before = evaluate<double>(g, 2, source);
+    g.turnDifferences();
+    EXPECT_EQ(evaluate<double>(g, 2, source), before);
+    const auto negated = [&](int output) { return g.outputs()[output].negated; };
+    for (const int output : {0, 3}) EXPECT_EQ(negated(output), (LanePattern{1, 1})) << output;
+    for (const int output : {4, 5}) EXPECT_EQ(negated(output), (LanePattern{0, 0})) << output;
+}
+
 TEST_F(GraphTest, ProductsMergeAndCommonFactorsLeaveTheSum) {
     EXPECT_EQ(g.mul(2, g.mul(3, x)), g.mul(6, x));
     EXPECT_EQ(g.add(x, x), g.mul(2, x));

@@ -99,7 +99,8 @@ TEST_P(Pairings, CostsDependOnThePairsAlone) {
 TEST_P(Pairings, ProgramsHaveOperandsBeforeTheirUsers) {
     const Graph g = graph();
     const Pairing pairing = pairOperations(g, choices[1]);
-    const auto program = wideProgram(g, element(), Packed::neither, pairing);
+    const auto ports = kernelFamily(GetParam().source).ports(g.lanes(), element());
+    const auto program = wideProgram(g, element(), *ports, pairing);
     std::multiset<int> stored;
     for (int i = 0; i < static_cast<int>(program->operations().size()); ++i) {
         const Operation& operation = program->operations()[i];
@@ -119,7 +120,9 @@ INSTANTIATE_TEST_SUITE_P(, Pairings,
                                          Case{"DFTFwd_RToPacked", "32f", 16},
                                          Case{"DFTInv_PackedToR", "32f", 5},   // in both precisions
                                          Case{"DFTInv_PackedToR", "32f", 15},
-                                         Case{"Hartley", "64f", 16}));
+                                         Case{"Hartley", "64f", 16},
+                                         Case{"fixedTransform", "64f", 16},
+                                         Case{"fixedTransform", "32f", 32}));
 
 TEST(PairingChoice, ReadsBackAsItPrints) {
     for (const PairingChoice& choice : choices)

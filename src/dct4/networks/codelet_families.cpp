@@ -58,12 +58,13 @@ struct Kind {
     std::string_view frame;        // the header that declares its network and defines the function
     std::string_view parameters;   // their types, R for the real type
     Graph (*graph)(int size, bool doublePrecision);
+    bool inPairs = false;   // whether lanes meet, so that wide vectors hold two of 16 bytes
 };
 
 int lanesOf(bool doublePrecision) { return doublePrecision ? 2 : 4; }
 
 const Kind kinds[] = {
-    {"fixedTransform", "fixed_frame.h", "const R*, R*", fixedTransformGraph},
+    {"fixedTransform", "fixed_frame.h", "const R*, R*", fixedTransformGraph, true},
     {"inputStage", "input_frame.h", "const R*, R*, int",
      [](int m, bool wide) { return inputGraph(m, lanesOf(wide), mirroredRows); }},
     {"inputBlock", "input_frame.h", "const R*, const R*, std::ptrdiff_t, R*",
@@ -100,9 +101,15 @@ std::string parameterTypes(const Kind& kind, const std::string& real) {
     return result;
 }
 
+Graph graph(const Kind& kind, int size, const Element& element) {
+    Graph g = kind.graph(size, element.doublePrecision);
+    g.turnDifferences();
+    return g;
+}
+
 std::string emit(const Kind& kind, int size, const Element& element,
                  const ScheduleChoice& schedule) {
-    const Graph g = kind.graph(size, element.doublePrecision);
+    const Graph g = graph(kind, size, element);
     const OperationCounts counts = countOperations(g);
     const std::string real = element.doublePrecision ? "double" : "float";
     std::string network(kind.function);
@@ -114,7 +121,7 @@ std::string emit(const Kind& kind, int size, const Element& element,
         << counts.shuffles << " shuffles\n"
         << "#include \"dct4/" << kind.frame << "\"\n\nnamespace kfm::dct4 {\n\n"
         << "template <>\nstruct " << network << "Network<" << real << ", " << size << "> {\n"
-        << printNetwork(g, element.doublePrecision, schedule) << "};\n\n"
+        << printNetwork(g, element, schedule) << "};\n\n"
         << "template void " << kind.function << "<" << real << ", " << size << ">("
         << parameterTypes(kind, real) << ");\n\n}   // namespace kfm::dct4\n";
     return out.str();
@@ -123,7 +130,7 @@ std::string emit(const Kind& kind, int size, const Element& element,
 KernelFamily family(const Kind& kind) {
     KernelFamily family{.source = kind.function};
     family.graph = [&kind](int size, const Element& element, const Target&, bool) {
-        return kind.graph(size, element.doublePrecision);
+        return graph(kind, size, element);
     };
     family.describe = [](int size, const Element&) { return std::to_string(size) + " points"; };
     family.choice = [&kind](int size, const Element& element, const Target& target) {
@@ -133,7 +140,8 @@ KernelFamily family(const Kind& kind) {
                           const ScheduleChoice& schedule, std::span<const registry::Family* const>) {
         return emit(kind, size, element, schedule);
     };
-    family.inPairs = false;
+    family.ports = slotPorts;
+    family.inPairs = kind.inPairs;
     return family;
 }
 

@@ -27,12 +27,16 @@ Rows transposed(Graph& g, const Rows& x) {
             g.select(high01, high23, {0, 1, 4, 5}), g.select(high01, high23, {2, 3, 6, 7})};
 }
 
+// Of a vector that starts at this element; all start at multiples of their length.
+int slot(const Graph& g, int element) { return element / g.lanes(); }
+
 // The rows C_q, T_q of the sub-transforms r = first .. first+lanes-1 of n = d*m.
 Rows inputRows(Graph& g, int n, int d, int first) {
     std::vector<Complex> u;
     for (int k = 0; k < n / d / 2; ++k) {
         const int front = 2 * d * k + first;
-        u.push_back({g.load(front), -reversed(g, g.load(n - front - g.lanes()))});
+        const int mirrored = n - front - g.lanes();
+        u.push_back({g.load(slot(g, front)), -reversed(g, g.load(slot(g, mirrored)))});
     }
     return mirroredRows(skewDft(g, u));
 }
@@ -75,9 +79,9 @@ void twoStages(Graph& g, int n, int d) {
         }
         const Rows D = dct2(g, p), E = dst2(g, rotated);
         for (int k = 0; k < d; ++k) {
-            g.store(k * m + q, -1, k == 0 ? D[0] : g.sub(D[k], E[k - 1]));
+            g.store(slot(g, k * m + q), -1, k == 0 ? D[0] : g.sub(D[k], E[k - 1]));
             const Ref mirrored = k == d - 1 ? E[k] : g.add(D[k + 1], E[k]);
-            g.store((k + 1) * m - L - q, -1, reversed(g, mirrored));
+            g.store(slot(g, (k + 1) * m - L - q), -1, reversed(g, mirrored));
         }
     }
 }
@@ -106,7 +110,7 @@ void sixteen(Graph& g) {
                             : g.mul(lower, g.select(x[3], {0, 2, 2, 0}));
         const Ref E = k > 0 ? g.select(x[4 - k], x[3 - k], {1, 3, 7, 5})
                             : g.mul(upper, g.select(x[3], {1, 3, 3, 1}));
-        g.store(4 * k, -1, g.add(D, g.flip(E, firstHalf)));
+        g.store(k, -1, g.add(D, g.flip(E, firstHalf)));
     }
 }
 

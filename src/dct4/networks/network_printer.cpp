@@ -1,168 +1,56 @@
 #include "dct4/networks/network_printer.h"
 
-#include <algorithm>
-#include <functional>
-#include <map>
-#include <set>
 #include <sstream>
-#include <stdexcept>
-#include <vector>
+
+#include "kernelgen/emit.h"
 
 namespace kfm::dct4 {
 namespace {
 
 using namespace kernelgen;
 
-constexpr int nodesPerLaundering = 12;
-
-// Rows of lanes in the order of their first use.
-class ConstantTable {
+// Frames see to it that no result is stored in the place of an input that is still to be read.
+class SlotPorts : public Ports {
 public:
-    int index(const std::string& row) {
-        const auto [found, inserted] = indices_.try_emplace(row, static_cast<int>(rows_.size()));
-        if (inserted) rows_.push_back(row);
-        return found->second;
+    std::string load(const Node& node) const override {
+        return "in.load(" + std::to_string(node.first) + ")";
     }
-
-    std::string text() const {
-        std::string result;
-        for (const std::string& row : rows_) result += "        " + row + "\n";
-        return rows_.empty() ? "        0\n" : result;
+    std::string load(const Node& low, const Node& high, bool apart) const override {
+        return (apart ? "in.loadApart(" : "in.load(") + slots(low, high) + ")";
     }
+    std::string store(const Output& output, const std::string& value) const override {
+        return "out.store(" + std::to_string(output.first) + ", " + value + ");\n";
+    }
+    std::string store(const Output& low, const Output& high,
+                      const std::string& value) const override {
+        return "out.store(" + slots(low, high) + ", " + value + ");\n";
+    }
+    std::string rowAccess() const override { return "constantRow<Vector>"; }
+    bool scaled() const override { return false; }
+    bool overlapping() const override { return false; }
 
 private:
-    std::vector<std::string> rows_;
-    std::map<std::string, int> indices_;
-};
-
-class NetworkPrinter {
-public:
-    NetworkPrinter(const Graph& g, bool doublePrecision, const ScheduleChoice& choice)
-        : g_(g), choice_(choice), doublePrecision_(doublePrecision) {
-        for (const Output& output : g.outputs()) outputs_[output.node].push_back(output);
-        for (const int node : g.liveNodes())
-            for (const Ref operand : {g.nodes()[node].a, g.nodes()[node].b})
-                if (!operand.isZero()) operands_.insert(operand.node());
+    template <class Access>
+    static std::string slots(const Access& low, const Access& high) {
+        return std::to_string(low.first) + ", " + std::to_string(high.first);
     }
-
-    std::string body() {
-        int count = 0;
-        for (const int node : schedule(g_, choice_)) {
-            if (choice_.relaunder && ++count % nodesPerLaundering == 0)
-                out_ << "        launder(k);\n";
-            printNode(node);
-            for (const Output& output : outputs_[node]) printStore(output);
-        }
-        return out_.str();
-    }
-
-    std::string constants() const { return table_.text(); }
-
-private:
-    static std::string name(Ref ref) { return "t" + std::to_string(ref.node()); }
-
-    std::string tableEntry(const std::string& row) {
-        const std::string at = std::to_string(table_.index(row));
-        return g_.lanes() == 1 ? "k[" + at + "]" : "constantRow<Vector>(k, " + at + ")";
-    }
-
-    std::string constant(const LaneConstant& lanes) {
-        std::string row;
-        for (const Constant& lane : lanes)
-            row += (doublePrecision_ ? lane.asDouble() : lane.asFloat()) + ", ";
-        return tableEntry(row);
-    }
-
-    std::string signs(const LanePattern& lanes) {
-        std::string row;
-        for (const int lane : lanes) row += lane ? "-0.0, " : "0.0, ";
-        return tableEntry(row);
-    }
-
-    static std::string binary(const char* operation, const Node& node) {
-        return std::string(operation) + "(" + name(node.a) + ", " + name(node.b) + ")";
-    }
-
-    std::string expression(const Node& node) {
-        switch (node.op) {
-        case Op::load:
-            return "in.load(" + std::to_string(node.first) + ")";
-        case Op::add:
-            return binary("add", node);
-        case Op::sub:
-            return binary("sub", node);
-        case Op::mul:
-            return "mul(" + name(node.a) + ", " + constant(g_.constant(node.constant)) + ")";
-        case Op::flip:
-            return "flip(" + name(node.a) + ", " + signs(node.pattern) + ")";
-        case Op::select:
-            return selection(node);
-        case Op::subtract:
-        case Op::widen:
-        case Op::round:
-            break;
-        }
-        throw std::logic_error("a network is of one precision and keeps its signs");
-    }
-
-    static std::string selection(const Node& node) {
-        if (node.a == node.b && std::ranges::is_sorted(node.pattern, std::greater()))
-            return "reverse(" + name(node.a) + ")";
-        std::string lanes;
-        for (const int lane : node.pattern)
-            lanes += (lanes.empty() ? "" : ", ") + std::to_string(lane);
-        return binary(("select<" + lanes + ">").c_str(), node);
-    }
-
-    // A difference that only goes out, and with the other sign, is taken the other way round.
-    bool turnsRound(int index) {
-        return g_.nodes()[index].op == Op::sub && !operands_.contains(index) &&
-               std::ranges::all_of(outputs_[index], [&](const Output& output) {
-                   return output.negated == LanePattern(g_.lanes(), 1);
-               });
-    }
-
-    void printNode(int index) {
-        Node node = g_.nodes()[index];
-        if (turnsRound(index)) std::swap(node.a, node.b);
-        const bool isSum = node.op == Op::add || node.op == Op::sub;
-        const bool pinned = choice_.pin == Pin::all || (choice_.pin == Pin::sums && isSum);
-        out_ << "        " << (pinned ? "" : "const ") << "Vector t" << index << " = "
-             << expression(node) << ";\n";
-        if (pinned) out_ << "        pin(t" << index << ");\n";
-    }
-
-    void printStore(const Output& output) {
-        std::string value = "t" + std::to_string(output.node);
-        if (output.negated != LanePattern(g_.lanes(), 0) && !turnsRound(output.node))
-            value = g_.lanes() == 1 ? "-" + value
-                                    : "flip(" + value + ", " + signs(output.negated) + ")";
-        out_ << "        out.store(" << output.first << ", " << value << ");\n";
-    }
-
-    const Graph& g_;
-    const ScheduleChoice& choice_;
-    bool doublePrecision_;
-    ConstantTable table_;
-    std::map<int, std::vector<Output>> outputs_;
-    std::set<int> operands_;
-    std::ostringstream out_;
 };
 
 }   // namespace
 
-std::string printNetwork(const Graph& g, bool doublePrecision, const ScheduleChoice& choice) {
-    NetworkPrinter printer(g, doublePrecision, choice);
-    const std::string body = printer.body();
-    const std::string real = doublePrecision ? "double" : "float";
+std::unique_ptr<Ports> slotPorts(int, const registry::Element&) {
+    return std::make_unique<SlotPorts>();
+}
+
+std::string printNetwork(const Graph& g, const registry::Element& element,
+                         const ScheduleChoice& choice) {
+    const Body body = emitBody(g, element, choice, SlotPorts());
     std::ostringstream out;
     out << "    static constexpr int lanes = " << g.lanes() << ";\n"
-        << "    alignas(16) static constexpr " << real << " constants[] = {\n"
-        << printer.constants() << "    };\n\n"
+        << body.tables << "\n"
         << "    template <class Vector, class In, class Out>\n"
         << "    [[gnu::always_inline]] static void run(const In& in, const Out& out) {\n"
-        << "        [[maybe_unused]] const auto* k = constants;\n        launder(k);\n"
-        << body << "    }\n";
+        << body.statements << "    }\n";
     return out.str();
 }
 
