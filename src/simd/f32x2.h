@@ -47,11 +47,10 @@ KFM_OPERATION void storeHalves(float* low, float* high, f32x2 v) {
 }
 
 
-// Elements by their numbers; -1 is left out. Neighbours move as one where any address will do.
+// As of two double-precision lanes.
 template <int i0, int i1>
 KFM_OPERATION f32x2 loadPair(const float* p) {
     if constexpr (i1 < 0) return loadLow(p + i0);
-    else if constexpr (movesAnywhere && i1 == i0 + 1) return HalfSingle::load(p + i0);
     else return loadHalves(p + i0, p + i1);
 }
 template <int i0, int i1>

@@ -40,9 +40,14 @@ KFM_OPERATION f32x4 selectHalves(f32x4 a) {
     else return _mm_shuffle_ps(a, a, i0 | i1 << 2 | (2 + j0) << 4 | (2 + j1) << 6);
 }
 
+template <int i0, int i1>
+KFM_OPERATION f32x2 loadHalf(const float* p) {
+    if constexpr (i1 == i0 + 1) return HalfSingle::load(p + i0);
+    else return loadPair<i0, i1>(p);
+}
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f32x4 loadFourApart(const float* p) {
-    return _mm_movelh_ps(loadPair<i0, i1>(p), loadPair<i2, i3>(p));
+    return _mm_movelh_ps(loadHalf<i0, i1>(p), loadHalf<i2, i3>(p));
 }
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f32x4 loadFour(const float* p) {

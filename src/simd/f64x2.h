@@ -55,11 +55,11 @@ KFM_OPERATION void storeHalves(double* low, double* high, f64x2 v) {
     storeHigh(high, v);
 }
 
-// Elements by their numbers; -1 is left out. Neighbours move as one where any address will do.
+// Elements by their numbers; -1 is left out. Neighbours are stored as one where any address will do,
+// but not loaded: where they were stored one by one just before, that would wait for both.
 template <int i0, int i1>
 KFM_OPERATION f64x2 loadPair(const double* p) {
     if constexpr (i1 < 0) return loadLow(p + i0);
-    else if constexpr (movesAnywhere && i1 == i0 + 1) return _mm_loadu_pd(p + i0);
     else return loadHalves(p + i0, p + i1);
 }
 template <int i0, int i1>

@@ -93,9 +93,14 @@ KFM_OPERATION void storeTwo(Kfm64fc* p, f64x4 v) {
     }
 }
 
+template <int i0, int i1>
+KFM_OPERATION f64x2 loadHalf(const double* p) {
+    if constexpr (i1 == i0 + 1) return _mm_loadu_pd(p + i0);
+    else return loadPair<i0, i1>(p);
+}
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f64x4 loadFourApart(const double* p) {
-    return _mm256_set_m128d(loadPair<i2, i3>(p), loadPair<i0, i1>(p));
+    return _mm256_set_m128d(loadHalf<i2, i3>(p), loadHalf<i0, i1>(p));
 }
 template <int i0, int i1, int i2, int i3>
 KFM_OPERATION f64x4 loadFour(const double* p) {
