@@ -24,7 +24,7 @@ test-sanitized: export BUILD := $(BUILD)/sanitized
 test-sanitized:
 	@tools/install-dependencies.sh test
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON \
-		-DKFM_SANITIZE=address,undefined
+		-DKFM_SANITIZE=address,undefined -DKFM_VARIANTS=OFF
 	@ctest --test-dir "$$BUILD" --output-on-failure --no-tests=error --parallel "$(JOBS)"
 
 memcheck:

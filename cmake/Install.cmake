@@ -1,11 +1,21 @@
 # Installation: libraries with their development links, headers, pkg-config files, CMake package.
 include(CMakePackageConfigHelpers)
 
+# The loader prefers any variant to the base library: one that is there already is of another build.
+install(CODE "
+    cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX NORMALIZE OUTPUT_VARIABLE libraries)
+    cmake_path(APPEND libraries [[${CMAKE_INSTALL_LIBDIR}]])
+    file(GLOB variants \"\$ENV{DESTDIR}\${libraries}/glibc-hwcaps/*/$<TARGET_FILE_NAME:kfmgenw7>\")
+    if(variants)
+        file(REMOVE \${variants})
+    endif()")
 install(TARGETS kfmgenw7 kfmcore EXPORT kfmgen-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-if(TARGET kfmgenw7-v3)
-    install(TARGETS kfmgenw7-v3
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/x86-64-v3 NAMELINK_SKIP)
-endif()
+get_property(variants GLOBAL PROPERTY KFM_VARIANTS)
+foreach(variant IN LISTS variants)
+    get_target_property(folder ${variant} KFM_FOLDER)
+    install(TARGETS ${variant}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
+endforeach()
 install(FILES include/kfmgen.h include/kfmcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 # In a folder that CMake searches for every target: lib32 it does not search on Debian.

@@ -58,6 +58,8 @@ function(kfm_add_transform_library name)
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmgenw7
         LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER})
     if(arg_FOLDER)
+        set_property(GLOBAL APPEND PROPERTY KFM_VARIANTS ${name})
+        set_property(TARGET ${name} PROPERTY KFM_FOLDER ${arg_FOLDER})
         # The loader would take a variant that is older than the library it stands for.
         add_dependencies(${name} kfmgenw7)
         add_custom_command(TARGET kfmgenw7 POST_BUILD
@@ -68,6 +70,7 @@ function(kfm_add_transform_library name)
     endif()
     # The loader looks for the companion beside a variant, and finds it where the folder hangs.
     file(RELATIVE_PATH up /${arg_FOLDER} /)
+    string(REGEX REPLACE "/$" "" up "${up}")
     kfm_public_library(${name} "$ORIGIN$<$<BOOL:${up}>::$ORIGIN/${up}>")
 endfunction()
 

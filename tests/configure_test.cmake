@@ -17,7 +17,13 @@ execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/install/co
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${scratch}/around --target kfmcore
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 
+# Without variants the loader must not find one that was built before.
+set(variant ${scratch}/folder/lib/glibc-hwcaps/x86-64-v3/libkfmgenw7.so.6.1)
+file(TOUCH ${variant})
 execute_process(COMMAND ${configure} -B ${scratch}/folder -D CMAKE_CXX_FLAGS=${flags}
-    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    -D KFM_VARIANTS=OFF OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+if(EXISTS ${variant})
+    message(FATAL_ERROR "A folder without variants has ${variant}")
+endif()
 set(ENV{CXX} ${CMAKE_COMMAND})   # any other program
 refused("is configured for .*, not for" -B ${scratch}/folder)

@@ -1,19 +1,14 @@
 // Which status answers which arguments, also when several are wrong at once, and that a refused
 // call writes nothing; and the version record.
 #include <climits>
-#include <cstdlib>
 #include <cstring>
-#include <filesystem>
 
-#include "registry/loaded_library.h"
 #include "support/arguments.h"
 #include "support/buffer.h"
 #include "support/signal.h"
 
 namespace kfm::tests {
 namespace {
-
-using registry::loadedLibrary;
 
 enum class Pointer { null, aligned, misaligned };
 using enum Pointer;
@@ -169,13 +164,6 @@ TEST_P(GenericStatus, ArgumentsAreTheLowerHalvesOfTheirRegisters) {
 }
 
 #endif
-
-// The environment of a run chooses the variant, and says which one that has to be.
-TEST(Library, IsTheOneThatTheRunIsAbout) {
-    const char* wanted = std::getenv("KFM_LIBRARY");
-    if (wanted == nullptr) GTEST_SKIP() << "any will do: KFM_LIBRARY is not set";
-    EXPECT_EQ(loadedLibrary().file, std::filesystem::canonical(wanted));
-}
 
 TEST(Version, NamesTheLibraryFile) {
     const KfmLibraryVersion* version = kfmgenGetLibVersion();
