@@ -35,6 +35,7 @@ endif()
 
 # Over another build of the same version: no variant of that one is left, and nothing else is gone.
 set(folders ${libraries}/glibc-hwcaps)
+file(MAKE_DIRECTORY ${folders}/x86-64-v9)
 file(TOUCH ${folders}/x86-64-v9/libkfmgenw7.so.6.1 ${folders}/x86-64-v9/libkfmgenw7.so.5.0)
 run(${CMAKE_COMMAND} --install ${binary_dir} --prefix ${prefix})
 file(GLOB_RECURSE now RELATIVE ${prefix} ${prefix}/*)

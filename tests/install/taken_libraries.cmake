@@ -3,6 +3,8 @@
 # The command names the files that a program takes, as ldd does.
 #
 # `variant` is the folder below where the loader has to look on this machine; empty: none.
+cmake_policy(SET CMP0057 NEW)   # if(... IN_LIST ...)
+
 function(takes folder)
     foreach(tunables IN ITEMS "" glibc.cpu.hwcaps=-AVX2)
         if(variant AND NOT tunables)
