@@ -36,7 +36,7 @@ std::vector<KernelSource> codelets(std::string_view function, const registry::El
                 codelet.element = element.suffix;
                 codelet.length = size;
                 codelet.arrayLength = codeletArrayLength;
-                codelet.function = "calledCodelet";
+                codelet.functions = {"calledCodelet"};
                 codelet.furtherText = "#include \"" KFM_CODELET_CALLS "\"\nKFM_CALL_CODELET(" +
                                       codelet.source + ", " + real + ", " + std::to_string(size) +
                                       ")\n";

@@ -29,12 +29,15 @@ void requireSameBits(const std::vector<Candidate>& candidates, const bench::Sign
                      std::size_t bytes) {
     const auto output = static_cast<char*>(signals.destination());
     std::vector<char> expected;
-    for (const Candidate& candidate : candidates) {
-        std::memset(output, 0x99, bytes);
-        candidate.function(signals.source(), output, kfmScaleNone);
-        if (expected.empty()) expected.assign(output, output + bytes);
-        if (std::memcmp(output, expected.data(), bytes) != 0)
-            throw std::runtime_error("schedule " + candidate.schedule + " changes results");
+    for (std::size_t i = 0; i < candidates.front().functions.size(); ++i) {
+        expected.clear();
+        for (const Candidate& candidate : candidates) {
+            std::memset(output, 0x99, bytes);
+            candidate.functions[i](signals.source(), output, kfmScaleNone);
+            if (expected.empty()) expected.assign(output, output + bytes);
+            if (std::memcmp(output, expected.data(), bytes) != 0)
+                throw std::runtime_error("schedule " + candidate.schedule + " changes results");
+        }
     }
 }
 
@@ -48,25 +51,29 @@ int indexOf(const std::vector<Candidate>& candidates, const std::string& schedul
 struct CallPatterns {
     std::shared_ptr<const bench::Signals> apart, inPlace;
 
-    bench::Subject both(bench::Transform function) const {
-        return bench::Subject([first = bench::repeatCall(function, apart, kfmScaleNone),
-                               second = bench::repeatCall(function, inPlace, kfmScaleNone)](
-                                  long calls) mutable {
-            first(calls);
-            second(calls);
+    bench::Subject all(const Candidate& candidate) const {
+        std::vector<std::function<void(long)>> calls;
+        for (const bench::Transform function : candidate.functions)
+            for (const auto& signals : {apart, inPlace})
+                calls.push_back(bench::repeatCall(function, signals, kfmScaleNone));
+        return bench::Subject([calls](long times) mutable {
+            for (const auto& call : calls) call(times);
         });
     }
 
-    // Whether a function is slower than another in neither pattern.
-    bool worthwhile(bench::Transform function, bench::Transform reference, int batches) const {
+    // Whether no function is slower than its like, in either pattern.
+    bool worthwhile(const Candidate& candidate, const Candidate& reference, int batches) const {
         constexpr double tolerance = 1.03;
-        for (const auto& signals : {apart, inPlace}) {
-            bench::Subject ours(bench::repeatCall(function, signals, kfmScaleNone));
-            bench::Subject theirs(bench::repeatCall(reference, signals, kfmScaleNone));
-            bench::Subject* const turns[] = {&ours, &theirs};
-            bench::runInterleaved(turns, batches);
-            if (ours.minimum() > tolerance * theirs.minimum()) return false;
-        }
+        for (std::size_t i = 0; i < candidate.functions.size(); ++i)
+            for (const auto& signals : {apart, inPlace}) {
+                bench::Subject ours(
+                    bench::repeatCall(candidate.functions[i], signals, kfmScaleNone));
+                bench::Subject theirs(
+                    bench::repeatCall(reference.functions[i], signals, kfmScaleNone));
+                bench::Subject* const turns[] = {&ours, &theirs};
+                bench::runInterleaved(turns, batches);
+                if (ours.minimum() > tolerance * theirs.minimum()) return false;
+            }
         return true;
     }
 };
@@ -75,19 +82,19 @@ bool isPaired(const Candidate& candidate) {
     return candidate.schedule.find('/') != std::string::npos;
 }
 
-// The fastest over both patterns.
+// The fastest over all functions and both patterns.
 Candidate fastest(const std::vector<Candidate>& field, const std::string& current,
                   const CallPatterns& patterns, int batches) {
     std::vector<bench::Subject> contestants;
     for (const Candidate& candidate : field)
-        contestants.push_back(patterns.both(candidate.function));
+        contestants.push_back(patterns.all(candidate));
     const int winner = findFastest(contestants, indexOf(field, current), batches);
     std::printf("%-24s %8.2f ns, first %8.2f; ", field[winner].schedule.c_str(),
                 contestants[winner].minimum(), contestants[0].minimum());
     return field[winner];
 }
 
-// With its operations in pairs only where that costs in neither pattern.
+// With its operations in pairs only where that costs nowhere.
 Candidate choose(std::vector<Candidate> field, const std::string& current,
                  const CallPatterns& patterns, const Options& options) {
     const bench::PinnedToCore pinned(options.core);
@@ -98,7 +105,7 @@ Candidate choose(std::vector<Candidate> field, const std::string& current,
     while (field.size() > alone.size()) {
         const Candidate winner = fastest(field, current, patterns, options.batches);
         if (!isPaired(winner) ||
-            patterns.worthwhile(winner.function, reference.function, batches))
+            patterns.worthwhile(winner, reference, batches))
             return winner;
         std::erase_if(field, [&](const Candidate& each) { return each.schedule == winner.schedule; });
     }
@@ -108,18 +115,22 @@ Candidate choose(std::vector<Candidate> field, const std::string& current,
 std::vector<KernelSource> kernels(const registry::Family& family, const registry::Element& element,
                                   const bench::Selection& selection) {
     std::vector<KernelSource> result;
-    for (int length = family.first; length <= family.last; ++length)
-        if (selection.hasLength(length))
-            result.push_back({std::string(family.kernelSource), std::string(element.suffix), length,
-                              length, std::string(family.name),
-                              registry::functionName(family, length, element), {}});
+    for (int length = family.first; length <= family.last; ++length) {
+        if (!selection.hasLength(length)) continue;
+        KernelSource kernel{std::string(family.kernelSource), std::string(element.suffix), length,
+                            length};
+        for (const registry::Family& member : registry::families())
+            if (member.kernelSource == family.kernelSource)
+                kernel.functions.push_back(registry::functionName(member, length, element));
+        result.push_back(std::move(kernel));
+    }
     return result;
 }
 
 void tune(const KernelSource& kernel, const registry::Element& element, const Workshop& workshop,
           ScheduleTable& table, const Options& options) {
     const KernelName name{options.target, kernel.element, kernel.length,
-                          kernel.family.empty() ? kernel.source : ""};
+                          kernel.isCodelet() ? kernel.source : ""};
     std::printf("%-18s ", kernel.stem().c_str());
     std::fflush(stdout);
     const CallPatterns patterns{

@@ -52,9 +52,11 @@ Candidate load(const KernelSource& kernel, const std::string& schedule,
                const std::filesystem::path& object) {
     Candidate candidate{schedule, {dlopen(object.c_str(), RTLD_NOW | RTLD_LOCAL), &dlclose}, {}};
     if (!candidate.library) throw std::runtime_error(dlerror());
-    candidate.function = reinterpret_cast<bench::Transform>(
-        dlsym(candidate.library.get(), kernel.function.c_str()));
-    if (!candidate.function) throw std::runtime_error(dlerror());
+    for (const std::string& name : kernel.functions) {
+        void* const function = dlsym(candidate.library.get(), name.c_str());
+        if (!function) throw std::runtime_error(dlerror());
+        candidate.functions.push_back(reinterpret_cast<bench::Transform>(function));
+    }
     return candidate;
 }
 
@@ -105,8 +107,7 @@ std::vector<std::string> Workshop::schedules(const KernelSource& kernel,
 
 void Workshop::generate(const KernelSource& kernel,
                         const std::vector<std::string>& schedules) const {
-    const std::string family = kernel.family.empty() ? "" : " --family " + kernel.family;
-    const std::string command = generating("kernel", kernel) + family + " --schedule ";
+    const std::string command = generating("kernel", kernel) + " --schedule ";
     std::vector<std::string> commands;
     for (std::size_t i = 0; i < schedules.size(); ++i)
         commands.push_back(command + schedules[i] + " -o " + shellWord(path(i, ".cpp")));

@@ -11,21 +11,23 @@
 
 namespace kfm::tune {
 
-// A kernel source file, "DFT_CToC", 16, "32fc", and the one of its functions that is timed: those
-// of other families share its schedule. A codelet belongs to no family; the function that calls it
-// comes with the text that follows its source.
+// A kernel source file, "DFT_CToC", 16, "32fc", and the functions of all families in it: they share
+// a schedule. The function that calls a codelet comes with the text that follows its source.
 struct KernelSource {
     std::string source, element;
     int length, arrayLength;
-    std::string family, function, furtherText;
+    std::vector<std::string> functions = {};
+    std::string furtherText = {};
+
+    bool isCodelet() const { return !furtherText.empty(); }
 
     std::string stem() const;   // "DFT_CToC_16_32fc"
 };
 
 struct Candidate {
     std::string schedule;
-    std::shared_ptr<void> library;   // keeps the function loaded
-    bench::Transform function;
+    std::shared_ptr<void> library;   // keeps the functions loaded
+    std::vector<bench::Transform> functions;
 };
 
 class Workshop {
