@@ -1,7 +1,8 @@
 // Every function of both libraries runs on any processor with SSE2, every function of the variant
-// on any with AVX2, and none multiplies and adds at once. Which instructions those have is not listed
-// here: the assembler is told the processor and given the machine code again.
+// on any with AVX2, and none multiplies and adds at once. Which instructions those have is not
+// listed here: the assembler is told the processor and given the machine code again.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
 #include <set>
@@ -27,7 +28,9 @@ const std::string processor =
 
 // What the assembler has to say against the text.
 std::vector<std::string> complaints(const std::string& text) {
-    const std::string file = testing::TempDir() + "instruction_set_" + KFM_TARGET + ".s";
+    // The base library and its variant are tested at the same time.
+    const std::string file =
+        testing::TempDir() + "instruction_set_" + std::to_string(getpid()) + ".s";
     std::ofstream(file) << text;
     // Padding has forms with an index register that does not exist.
     const std::string command =
