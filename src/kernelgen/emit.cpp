@@ -25,14 +25,15 @@ private:
         out_ << program_.scales();
         const std::vector<Operation>& operations = program_.operations();
         int count = 0;
-        auto loads = std::ranges::count(operations, true, &Operation::isLoad);
+        auto loads = std::ranges::count_if(operations, &Operation::isLoad);
         std::vector<int> ready;
-        for (const int number : schedule(operands(), choice_)) {
+        for (const int number : schedule(program_.operands(), choice_)) {
             const Operation& operation = operations[number];
-            if (choice_.relaunder && ++count % operationsPerLaundering == 0) out_ << launderTables();
+            if (choice_.relaunder && ++count % operationsPerLaundering == 0)
+                out_ << launderTables();
             print(operation, number);
             ready.insert(ready.end(), operation.outputs.begin(), operation.outputs.end());
-            loads -= operation.isLoad;
+            loads -= operation.isLoad();
             if (overlapping_ && loads > 0) continue;
             for (const int output : ready) out_ << "        " << program_.store(output);
             ready.clear();
@@ -44,12 +45,6 @@ private:
         std::string result;
         for (const ConstantTable& table : program_.tables())
             if (!table.empty()) result += table.text();
-        return result;
-    }
-
-    std::vector<std::vector<int>> operands() const {
-        std::vector<std::vector<int>> result;
-        for (const Operation& operation : program_.operations()) result.push_back(operation.operands);
         return result;
     }
 
@@ -70,7 +65,7 @@ private:
 
     void print(const Operation& operation, int number) {
         const bool pinned =
-            choice_.pin == Pin::all || (choice_.pin == Pin::sums && operation.isSum);
+            choice_.pin == Pin::all || (choice_.pin == Pin::sums && operation.isSum());
         out_ << "        " << (pinned ? "" : "const ") << "auto " << operation.name << " = "
              << program_.expression(number) << ";\n";
         if (pinned) out_ << "        pin(" << operation.name << ");\n";
@@ -86,11 +81,8 @@ private:
 
 Body emitBody(const Graph& g, const registry::Element& element, const ScheduleChoice& choice,
               const Ports& ports) {
-    const bool paired = choice.pairing && g.lanes() > 1;
-    const Pairing pairing = paired ? pairOperations(g, *choice.pairing) : Pairing();
-    const std::unique_ptr<Program> program = paired ? wideProgram(g, element, ports, pairing)
-                                                    : narrowProgram(g, element, ports);
-    return BodyPrinter(*program, choice, ports.overlapping()).print();
+    const std::unique_ptr<Program> operations = program(g, element, ports, choice.pairing);
+    return BodyPrinter(*operations, choice, ports.overlapping()).print();
 }
 
 std::string emitTransform(const Graph& g, std::string_view name,

@@ -45,33 +45,22 @@ constexpr std::array columns = {
     std::pair{"conversions", &OperationCounts::conversions},
 };
 
-std::string explainPairing(const Graph& graph, const Element& element, const Ports& ports,
-                           const PairingChoice& choice) {
-    const Pairing pairing = pairOperations(graph, choice);
-    const auto program = wideProgram(graph, element, ports, pairing);
-    const std::vector<int> live = graph.liveNodes();
-    const auto isAlone = [&](int node) {
-        return graph.nodes()[node].op != Op::load && pairing.alone(node);
-    };
-    return std::to_string(program->operations().size()) + " instead of " +
-           std::to_string(live.size()) + " operations, " +
-           std::to_string(std::ranges::count_if(live, isAlone)) + " on one half";
-}
+// And what there is besides where operations are joined in pairs.
+constexpr std::array pairedColumns = {
+    std::pair{"moves", &OperationCounts::moves},
+    std::pair{"pairs", &OperationCounts::pairs},
+};
 
 // The operations as they are printed, in execution order.
 std::string dumpProgram(const Graph& graph, const Element& element, const Ports& ports,
                         const ScheduleChoice& choice) {
-    const Pairing pairing = choice.pairing ? pairOperations(graph, *choice.pairing) : Pairing();
-    const auto program = choice.pairing ? wideProgram(graph, element, ports, pairing)
-                                        : narrowProgram(graph, element, ports);
-    std::vector<std::vector<int>> operands;
-    for (const Operation& operation : program->operations()) operands.push_back(operation.operands);
-    program->scales();   // names what stores refer to
+    const auto printed = program(graph, element, ports, choice.pairing);
+    printed->scales();   // names what stores refer to
     std::string text;
-    for (const int number : schedule(operands, choice)) {
-        const Operation& operation = program->operations()[number];
-        text += operation.name + " = " + program->expression(number) + "\n";
-        for (const int output : operation.outputs) text += program->store(output);
+    for (const int number : schedule(printed->operands(), choice)) {
+        const Operation& operation = printed->operations()[number];
+        text += operation.name + " = " + printed->expression(number) + "\n";
+        for (const int output : operation.outputs) text += printed->store(output);
     }
     return text;
 }
@@ -85,13 +74,11 @@ const KernelFamily& kernelFamily(std::string_view source) {
 }
 
 std::string kernelSource(std::string_view source, int length, const Element& element,
-                         const Target& target, std::string_view choice,
-                         std::string_view onlyFamily) {
+                         const Target& target, std::string_view choice) {
     const KernelFamily& family = kernelFamily(source);
     std::vector<const registry::Family*> members;
     for (const registry::Family& member : registry::families())
-        if (member.kernelSource == source && (onlyFamily.empty() || onlyFamily == member.name))
-            members.push_back(&member);
+        if (member.kernelSource == source) members.push_back(&member);
     return family.emit(length, element, target,
                        !family.choice   ? ScheduleChoice()
                        : choice.empty() ? family.choice(length, element, target)
@@ -102,11 +89,11 @@ std::string kernelSource(std::string_view source, int length, const Element& ele
 std::vector<ScheduleChoice> candidates(std::string_view source, int length, const Element& element,
                                        const Target& target, std::string_view winner) {
     const KernelFamily& family = kernelFamily(source);
-    if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no schedules");
-    const bool wide = target.vectorBytes > 16 && family.inPairs;
-    if (!winner.empty())
-        return wide ? orderCandidates(ScheduleChoice::parse(winner)) : std::vector<ScheduleChoice>();
-    if (!wide) return scheduleCandidates();
+    if (!family.graph)
+        throw std::invalid_argument(std::string(source) + " kernels have no schedules");
+    const bool paired = target.vectorBytes > 16 && family.inPairs;
+    if (!paired) return winner.empty() ? scheduleCandidates() : std::vector<ScheduleChoice>();
+    if (!winner.empty()) return orderCandidates(ScheduleChoice::parse(winner));
     return pairingCandidates(family.graph(length, element, target, false),
                              family.choice(length, element, target));
 }
@@ -120,19 +107,24 @@ std::string explain(std::string_view source, int length, const Element& element)
     for (const Target& target : targets()) {
         const Graph graph = family.graph(length, element, target, false);
         const ScheduleChoice choice = family.choice(length, element, target);
+        const auto ports = family.ports(graph.lanes(), element);
+        const auto printed = program(graph, element, *ports, choice.pairing);
+        const auto operands = printed->operands();
         out << target.name << '\n'
             << "  schedule         " << choice.text() << '\n'
-            << "  reloads          " << countReloads(graph, schedule(graph, choice),
+            << "  reloads          " << countReloads(operands, schedule(operands, choice),
                                                      target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
-        if (choice.pairing && graph.lanes() > 1) {
-            const auto ports = family.ports(graph.lanes(), element);
-            out << "  pairing          "
-                << explainPairing(graph, element, *ports, *choice.pairing) << '\n';
-        }
-        const OperationCounts counts = countOperations(graph);
-        for (const auto& [name, member] : columns)
-            out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
+        const OperationCounts counts = printed->counts();
+        const auto print = [&](const auto& column) {
+            out << "  " << std::left << std::setw(17) << column.first << counts.*column.second
+                << '\n';
+        };
+        std::ranges::for_each(columns, print);
+        if (counts.pairs == 0) continue;
+        std::ranges::for_each(pairedColumns, print);
+        out << "  in all           " << printed->operations().size() << " operations instead of "
+            << graph.liveNodes().size() << ", and stores\n";
     }
     return out.str();
 }
@@ -154,26 +146,38 @@ std::string dump(std::string_view stage, std::string_view source, int length,
     return dumpText(graph, built);
 }
 
-std::string operationCountTable() {
+std::string operationCountTable(const Target& target) {
+    const bool wide = target.vectorBytes > 16;
     std::ostringstream out;
     out << "# Vector operations of each kernel: `kernelgen counts` writes this table.\n"
         << "kernels length element";
     for (const auto& [name, member] : columns) out << ' ' << name;
+    if (wide)
+        for (const auto& [name, member] : pairedColumns) out << ' ' << name;
     out << '\n';
+    const auto row = [&](std::string_view source, int length, const Element& element) {
+        const KernelFamily& family = kernelFamily(source);
+        if (!family.graph) return;
+        const Graph graph = family.graph(length, element, target, false);
+        const auto ports = family.ports(graph.lanes(), element);
+        const ScheduleChoice choice = family.choice(length, element, target);
+        const OperationCounts counts = program(graph, element, *ports, choice.pairing)->counts();
+        out << source << ' ' << length << ' ' << element.suffix;
+        for (const auto& [name, member] : columns) out << ' ' << counts.*member;
+        if (wide)
+            for (const auto& [name, member] : pairedColumns) out << ' ' << counts.*member;
+        out << '\n';
+    };
     std::set<std::string_view> done;
-    for (const registry::Family& family : registry::families()) {
-        const bool isNew = done.insert(family.kernelSource).second;
-        if (!isNew || !kernelFamily(family.kernelSource).graph) continue;
-        for (const Element* element : family.elements)
-            for (int length = family.first; length <= family.last; ++length) {
-                const OperationCounts counts = countOperations(
-                    kernelFamily(family.kernelSource)
-                        .graph(length, *element, *findTarget("sse2-x86-64"), false));
-                out << family.kernelSource << ' ' << length << ' ' << element->suffix;
-                for (const auto& [name, member] : columns) out << ' ' << counts.*member;
-                out << '\n';
-            }
-    }
+    for (const registry::Family& family : registry::families())
+        if (done.insert(family.kernelSource).second)
+            for (const Element* element : family.elements)
+                for (int length = family.first; length <= family.last; ++length)
+                    row(family.kernelSource, length, *element);
+    for (const dct4::CodeletRange& range : dct4::codeletRanges())
+        for (const char* suffix : {"32f", "64f"})
+            for (int size = range.first; size <= range.last; size *= 2)
+                row(range.function, size, *registry::findElement(suffix));
     return out.str();
 }
 

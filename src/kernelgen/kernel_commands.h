@@ -11,11 +11,9 @@ namespace kfm::kernelgen {
 // The family whose generated files are called `source`_<N>_<element>.cpp; throws for others.
 const KernelFamily& kernelFamily(std::string_view source);
 
-// The source of one kernel; an empty schedule takes the one on record, and a named family leaves
-// out the functions of the others with the same source.
+// The source of one kernel; an empty schedule takes the one on record.
 std::string kernelSource(std::string_view source, int length, const registry::Element& element,
-                         const Target& target, std::string_view schedule = {},
-                         std::string_view family = {});
+                         const Target& target, std::string_view schedule = {});
 
 // The schedules, and where vectors are wide enough the pairings, from which the tuner chooses; then
 // what may be better than the winner of those.
@@ -26,12 +24,12 @@ std::vector<ScheduleChoice> candidates(std::string_view source, int length,
 // Factor tree, lane mapping, operation counts.
 std::string explain(std::string_view source, int length, const registry::Element& element);
 
-// One stage of a kernel as text: "graph" as built, "schedule" in execution order, "dot"; "program" has
-// the operations as they are printed, joined in pairs where the target has the width.
+// One stage of a kernel as text: "graph" as built, "schedule" in execution order, "dot"; "program"
+// has the operations as they are printed, joined in pairs where the target has the width.
 std::string dump(std::string_view stage, std::string_view source, int length,
                  const registry::Element& element, const Target& target);
 
-// The operation counts of all kernels, a row each.
-std::string operationCountTable();
+// The operation counts of all kernels as they are printed for a target, a row each.
+std::string operationCountTable(const Target& target);
 
 }   // namespace kfm::kernelgen

@@ -171,8 +171,7 @@ void printDeclarations(const Arguments& arguments) {
 void printKernel(const Arguments& arguments) {
     const KernelName kernel(arguments);
     writeResult(arguments, kernelSource(kernel.source, kernel.length, *kernel.element,
-                                        target(arguments), arguments.option("--schedule", ""),
-                                        arguments.option("--family", "")));
+                                        target(arguments), arguments.option("--schedule", "")));
 }
 
 void printExplanation(const Arguments& arguments) {
@@ -197,7 +196,9 @@ void printErrors(const Arguments& arguments) {
                                       std::stoi(arguments.option("--tries", "200"))));
 }
 
-void printCounts(const Arguments& arguments) { writeResult(arguments, operationCountTable()); }
+void printCounts(const Arguments& arguments) {
+    writeResult(arguments, operationCountTable(target(arguments)));
+}
 
 void printCandidates(const Arguments& arguments) {
     const KernelName kernel(arguments);
@@ -218,15 +219,16 @@ struct Command {
 
 constexpr Command commands[] = {
     {"build", "--target <target> --output <folder>", "write all generated sources", build},
-    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [--family <name>]\n         [-o <file>]",
+    {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [-o <file>]",
      "write the source of one kernel", printKernel},
     {"explain", "<N> <element>", "factor tree, lane mapping and operation counts of a kernel",
      printExplanation},
     {"dump", "<N> <element> --stage graph|schedule|dot|program [--target <target>]",
      "show a kernel between two stages", printStage},
-    {"errors", "<N> <element> [--signals <count>] \n         [--by mean|impulses] [--tries <count>]",
+    {"errors", "<N> <element> [--signals <count>] [--by mean|impulses] [--tries <count>]",
      "search for a factor tree with smaller errors", printErrors},
-    {"counts", "[-o <file>]", "the operation counts of all kernels", printCounts},
+    {"counts", "[--target <target>] [-o <file>]", "the operation counts of all kernels",
+     printCounts},
     {"candidates", "<N> <element> [--target <target>] [--after <winner>]",
      "the schedules and pairings from which the tuner chooses", printCandidates},
     {"declarations", "[--into <header>]", "print the C declarations, or renew them in a header",

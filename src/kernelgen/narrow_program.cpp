@@ -15,9 +15,7 @@ public:
         for (const int number : nodes_) {
             const Node& node = g.nodes()[number];
             operationOf[number] = static_cast<int>(operations_.size());
-            Operation operation{name(number), {}};
-            operation.isSum = node.op == Op::add || node.op == Op::sub;
-            operation.isLoad = node.op == Op::load;
+            Operation operation{name(number), {}, node.op};
             for (const Ref operand : {node.a, node.b == node.a ? Ref() : node.b})
                 if (!operand.isZero()) operation.operands.push_back(operationOf.at(operand.node()));
             operations_.push_back(std::move(operation));

@@ -1,8 +1,9 @@
-// A kernel as a list of vector operations, of whatever width: what is scheduled and printed. Texts are
-// made when they are printed, so that constants stand in the order of their use.
+// A kernel as a list of vector operations, of whatever width: what is scheduled and printed. Texts
+// are made when they are printed, so that constants stand in the order of their use.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "kernelgen/graph.h"
 #include "kernelgen/pairing.h"
 #include "kernelgen/ports.h"
+#include "kernelgen/report.h"
 #include "registry/registry.h"
 
 namespace kfm::kernelgen {
@@ -17,8 +19,12 @@ namespace kfm::kernelgen {
 struct Operation {
     std::string name;
     std::vector<int> operands;   // operations by number, all smaller than its own
-    bool isSum = false, isLoad = false;
+    std::optional<Op> op = {};       // none: a move between halves
+    bool paired = false;             // works on both halves
     std::vector<int> outputs = {};   // what is stored from it, by number
+
+    bool isSum() const { return op == Op::add || op == Op::sub; }
+    bool isLoad() const { return op == Op::load; }
 };
 
 class Program {
@@ -36,6 +42,9 @@ public:
     // nothing is scaled.
     virtual std::string scales() = 0;
 
+    std::vector<std::vector<int>> operands() const;   // of all operations
+    OperationCounts counts() const;
+
 protected:
     std::vector<Operation> operations_;
     std::vector<ConstantTable> tables_;
@@ -46,6 +55,10 @@ std::unique_ptr<Program> narrowProgram(const Graph& g, const registry::Element& 
                                        const Ports& ports);
 // An operation for each pair of nodes, and for what is left alone.
 std::unique_ptr<Program> wideProgram(const Graph& g, const registry::Element& element,
-                                     const Ports& ports, const Pairing& pairing);
+                                     const Ports& ports, Pairing pairing);
+// The one that a choice asks for. A graph of one lane fills no vector that could be half of
+// another.
+std::unique_ptr<Program> program(const Graph& g, const registry::Element& element,
+                                 const Ports& ports, const std::optional<PairingChoice>& choice);
 
 }   // namespace kfm::kernelgen

@@ -1,7 +1,6 @@
 #include "kernelgen/report.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <sstream>
 
@@ -48,35 +47,35 @@ std::string label(const Graph& g, const Node& node) {
 
 }   // namespace
 
+void OperationCounts::add(Op op) {
+    switch (op) {
+    case Op::load:
+        ++loads;
+        break;
+    case Op::add:
+    case Op::sub:
+    case Op::subtract:
+        ++additions;
+        break;
+    case Op::mul:
+        ++multiplications;
+        break;
+    case Op::select:
+        ++shuffles;
+        break;
+    case Op::flip:
+        ++signChanges;
+        break;
+    case Op::widen:
+    case Op::round:
+        ++conversions;
+        break;
+    }
+}
+
 OperationCounts countOperations(const Graph& g) {
     OperationCounts counts;
-    for (const int index : g.liveNodes()) {
-        switch (g.nodes()[index].op) {
-        case Op::load:
-            ++counts.loads;
-            break;
-        case Op::add:
-        case Op::sub:
-            ++counts.additions;
-            break;
-        case Op::mul:
-            ++counts.multiplications;
-            break;
-        case Op::select:
-            ++counts.shuffles;
-            break;
-        case Op::flip:
-            ++counts.signChanges;
-            break;
-        case Op::subtract:
-            ++counts.additions;
-            break;
-        case Op::widen:
-        case Op::round:
-            ++counts.conversions;
-            break;
-        }
-    }
+    for (const int index : g.liveNodes()) counts.add(g.nodes()[index].op);
     counts.stores = static_cast<int>(g.outputs().size());
     return counts;
 }
@@ -119,31 +118,26 @@ int countScalarProducts(const Graph& g) {
     return products;
 }
 
-int countReloads(const Graph& g, const std::vector<int>& order, int registers) {
-    std::map<int, std::vector<int>> uses;   // positions, the next one last
+int countReloads(const std::vector<std::vector<int>>& operands, const std::vector<int>& order,
+                 int registers) {
+    std::vector<std::vector<int>> uses(operands.size());   // positions, the next one last
     for (int at = static_cast<int>(order.size()) - 1; at >= 0; --at)
-        for (const Ref operand : {g.nodes()[order[at]].a, g.nodes()[order[at]].b})
-            if (!operand.isZero()) uses[operand.node()].push_back(at);
+        for (const int operand : operands[order[at]]) uses[operand].push_back(at);
     std::set<int> held;
     int reloads = 0;
-    const auto hold = [&](int node) {
-        held.insert(node);
+    const auto hold = [&](int value) {
+        held.insert(value);
         if (static_cast<int>(held.size()) <= registers) return;
         held.erase(*std::ranges::max_element(held, {}, [&](int other) {
-            return other == node ? -1 : uses[other].back();
+            return other == value ? -1 : uses[other].back();
         }));
     };
     for (const int index : order) {
-        const Node& node = g.nodes()[index];
-        for (const Ref operand : {node.a, node.b}) {
-            if (operand.isZero()) continue;
-            if (!held.contains(operand.node())) ++reloads, hold(operand.node());
-        }
-        for (const Ref operand : {node.a, node.b}) {
-            if (operand.isZero()) continue;
-            std::vector<int>& left = uses[operand.node()];
-            left.pop_back();
-            if (left.empty()) held.erase(operand.node());
+        for (const int operand : operands[index])
+            if (!held.contains(operand)) ++reloads, hold(operand);
+        for (const int operand : operands[index]) {
+            uses[operand].pop_back();
+            if (uses[operand].empty()) held.erase(operand);
         }
         if (!uses[index].empty()) hold(index);
     }

@@ -12,6 +12,10 @@ namespace kfm::kernelgen {
 struct OperationCounts {
     int additions = 0, multiplications = 0, shuffles = 0, signChanges = 0, loads = 0, stores = 0;
     int conversions = 0;   // between single and double precision
+    int moves = 0;         // between the halves of vectors of 32 bytes
+    int pairs = 0;         // those of all but moves and stores that work on both halves
+
+    void add(Op op);
 };
 
 OperationCounts countOperations(const Graph& g);
@@ -20,8 +24,10 @@ OperationCounts countOperations(const Graph& g);
 int countScalarProducts(const Graph& g);
 
 // How many values an order must fetch again with so many registers, when the register whose value
-// is needed latest is given up (L. Belady, 1966). Compilers need more.
-int countReloads(const Graph& g, const std::vector<int>& order, int registers);
+// is needed latest is given up (L. Belady, 1966). Compilers need more. What each operation is
+// computed from comes as its operands' numbers.
+int countReloads(const std::vector<std::vector<int>>& operands, const std::vector<int>& order,
+                 int registers);
 
 // The nodes in the given order, a line each.
 std::string dumpText(const Graph& g, const std::vector<int>& order);

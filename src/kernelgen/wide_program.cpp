@@ -1,6 +1,6 @@
 // A graph of vectors of 16 bytes as operations on twice the width. What the pairing joins is one
-// operation on both halves; operands that are not a pair in their order are brought together by a move,
-// made once for all who want the same two.
+// operation on both halves; operands that are not a pair in their order are brought together by a
+// move, made once for all who want the same two.
 #include <algorithm>
 #include <array>
 #include <map>
@@ -29,8 +29,8 @@ struct Value {
 class WideProgram : public Program {
 public:
     WideProgram(const Graph& g, const registry::Element& element, const Ports& ports,
-                const Pairing& pairing)
-        : g_(g), ports_(ports), pairing_(pairing), mixed_(g.arithmetic().mixed),
+                Pairing pairing)
+        : g_(g), ports_(ports), pairing_(std::move(pairing)), mixed_(g.arithmetic().mixed),
           doublePrecision_(element.doublePrecision), rows_(g), text_(g, ports, tables_) {
         tables_ = NodeText::tables(g, element, ports);
         const int lanes = 2 * g.lanes();
@@ -38,7 +38,7 @@ public:
                              fourSingles() ? "constant" : "constantHalves", lanes, lanes);
         tables_.emplace_back("quadruples", true, "constantHalves", lanes, lanes);
         for (const int item : rows_.items())
-            if (pairing.partner[item] >= 0) rows_.join(low(item), high(item));
+            if (!pairing_.alone(item)) rows_.join(low(item), high(item));
         rows_.commit();
         for (std::size_t i = 0; i < g.outputs().size(); ++i) addOutput(static_cast<int>(i));
     }
@@ -119,10 +119,9 @@ private:
         for (const Value& value : values)
             if (std::ranges::find(operation.operands, value.operation) == operation.operands.end())
                 operation.operands.push_back(value.operation);
-        const bool computes = what.kind == Kind::single || what.kind == Kind::pair;
-        const Op op = g_.nodes()[what.low].op;
-        operation.isSum = computes && (op == Op::add || op == Op::sub);
-        operation.isLoad = computes && op == Op::load;
+        operation.paired = what.kind == Kind::pair;
+        if (operation.paired || what.kind == Kind::single) operation.op = g_.nodes()[what.low].op;
+        if (what.kind == Kind::negated) operation.op = Op::flip;
         operations_.push_back(std::move(operation));
         what_.push_back(std::move(what));
         values_.push_back(std::move(values));
@@ -160,7 +159,8 @@ private:
         const int operation = computed(node);
         if (pairing_.alone(node)) return named(operation);
         if (!half(node)) return {operation, "lower(" + operations_[operation].name + ")"};
-        return named(once({Kind::upperHalf, node, -1}, [&] { return std::vector{named(operation)}; }));
+        return named(
+            once({Kind::upperHalf, node, -1}, [&] { return std::vector{named(operation)}; }));
     }
 
     // Two nodes as the halves of a vector.
@@ -272,7 +272,7 @@ private:
 
     const Graph& g_;
     const Ports& ports_;
-    const Pairing& pairing_;
+    const Pairing pairing_;
     bool mixed_, doublePrecision_;
     PairingState rows_;
     NodeText text_;
@@ -286,8 +286,8 @@ private:
 }   // namespace
 
 std::unique_ptr<Program> wideProgram(const Graph& g, const registry::Element& element,
-                                     const Ports& ports, const Pairing& pairing) {
-    return std::make_unique<WideProgram>(g, element, ports, pairing);
+                                     const Ports& ports, Pairing pairing) {
+    return std::make_unique<WideProgram>(g, element, ports, std::move(pairing));
 }
 
 }   // namespace kfm::kernelgen

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 
 #include "kernelgen/kernel_commands.h"
 #include "kernelgen/pairing_state.h"
@@ -100,10 +101,10 @@ TEST_P(Pairings, ProgramsHaveOperandsBeforeTheirUsers) {
     const Graph g = graph();
     const Pairing pairing = pairOperations(g, choices[1]);
     const auto ports = kernelFamily(GetParam().source).ports(g.lanes(), element());
-    const auto program = wideProgram(g, element(), *ports, pairing);
+    const auto paired = wideProgram(g, element(), *ports, pairing);
     std::multiset<int> stored;
-    for (int i = 0; i < static_cast<int>(program->operations().size()); ++i) {
-        const Operation& operation = program->operations()[i];
+    for (int i = 0; i < static_cast<int>(paired->operations().size()); ++i) {
+        const Operation& operation = paired->operations()[i];
         for (const int operand : operation.operands) EXPECT_LT(operand, i);
         stored.insert(operation.outputs.begin(), operation.outputs.end());
     }
@@ -123,6 +124,35 @@ INSTANTIATE_TEST_SUITE_P(, Pairings,
                                          Case{"Hartley", "64f", 16},
                                          Case{"fixedTransform", "64f", 16},
                                          Case{"fixedTransform", "32f", 32}));
+
+// By whatever compiler the generator was built. What the search is told to weigh may change them.
+TEST(PairedOperations, AreAsMany) {
+    struct Row {
+        Case kernel;
+        const char* choice;
+        int operations, pairs, moves;
+    };
+    const Row rows[] = {
+        {{"DFT_CToC", "64fc", 15}, "1:1:60", 103, 60, 12},
+        {{"DFT_CToC", "64fc", 31}, "-12:1:20", 396, 289, 26},
+        {{"DFT_CToC", "32fc", 31}, "0:1:20", 340, 242, 59},
+        {{"DFTFwd_RToPacked", "32f", 32}, "2:5:20", 147, 78, 18},
+        {{"DFTInv_PackedToR", "64f", 24}, "2:5:20", 86, 41, 12},
+        {{"Hartley", "64f", 31}, "1:1:60", 252, 98, 34},
+    };
+    for (const auto& [kernel, choice, operations, pairs, moves] : rows) {
+        const kfm::registry::Element& element = *kfm::registry::findElement(kernel.element);
+        const KernelFamily& family = kernelFamily(kernel.source);
+        const Graph g = family.graph(kernel.length, element, *findTarget("avx2-x86-64"), false);
+        const auto ports = family.ports(g.lanes(), element);
+        const auto paired = program(g, element, *ports, PairingChoice::parse(choice));
+        const OperationCounts counts = paired->counts();
+        EXPECT_EQ(std::tuple(static_cast<int>(paired->operations().size()), counts.pairs,
+                             counts.moves),
+                  std::tuple(operations, pairs, moves))
+            << testing::PrintToString(kernel) << ' ' << choice;
+    }
+}
 
 TEST(PairingChoice, ReadsBackAsItPrints) {
     for (const PairingChoice& choice : choices)
