@@ -12,8 +12,8 @@
 namespace kfm::kernelgen {
 namespace {
 
-// Temperatures in 1024ths of an instruction: from one down to an eighth in the first half of a search,
-// to a fiftieth in the second.
+// Temperatures in 1024ths of an instruction: from one down to an eighth in the first half of a
+// search, to a fiftieth in the second.
 constexpr int temperatureSteps = 64, hottest = 1024;
 
 constexpr const char* apart = ":apart";
@@ -29,7 +29,7 @@ public:
 
     Pairing run() {
         pairOutputs();
-        const long moves = static_cast<long>(choice_.moves) * static_cast<long>(state_.items().size());
+        const long moves = choice_.moves * static_cast<long>(state_.items().size());
         int temperature = hottest;
         for (int step = 0; step < temperatureSteps; ++step) {
             for (long i = 0; i < moves / temperatureSteps; ++i) tryMove(temperature);

@@ -1,8 +1,8 @@
-// Pairs what a graph does: two operations of one kind become the halves of an operation on a vector of
-// twice the width. No operation changes, so no bit of a result does; what a pairing costs is the moves
-// that bring operands together. They are few where paired operations have paired operands, and a local
-// search finds such pairings better than any rule: simulated annealing (S. Kirkpatrick, C. D. Gelatt,
-// M. P. Vecchi, "Optimization by simulated annealing", 1983) from pairs of outputs.
+// Pairs what a graph does: two operations of one kind become the halves of an operation on a vector
+// of twice the width. No operation changes, so no bit of a result does; what a pairing costs is the
+// moves that bring operands together. They are few where paired operations have paired operands,
+// and a local search finds such pairings better than any rule: simulated annealing (S. Kirkpatrick,
+// C. D. Gelatt, M. P. Vecchi, "Optimization by simulated annealing", 1983) from pairs of outputs.
 //
 // The search computes in integers with random numbers of its own: a choice gives the same pairing
 // on every machine.
@@ -40,7 +40,8 @@ struct PairingChoice {
 
 Pairing pairOperations(const Graph& g, const PairingChoice& choice);
 
-// The choices of least cost, best first, among all starts that pay somewhere: what is worth a measurement.
+// The choices of least cost, best first, among all starts that pay somewhere: what is worth a
+// measurement.
 std::vector<PairingChoice> cheapestPairings(const Graph& g, std::size_t count);
 
 }   // namespace kfm::kernelgen

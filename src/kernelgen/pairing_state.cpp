@@ -41,6 +41,7 @@ PairingState::PairingState(const Graph& g) : graph_(g) {
     findLevels();
     pairing_ = {std::vector<int>(count, -1), std::vector<char>(count, 0)};
     counted_.resize(count);
+    asks_.resize(count);
     touched_ = items_;
     settle();
 }
@@ -100,11 +101,13 @@ bool PairingState::swapsOperands(int low, int high) const {
     return moveCost(a0, b1) + moveCost(a1, b0) < moveCost(a0, b0) + moveCost(a1, b1);
 }
 
-// Of two sums the upper one exchanges its operands, or the lower one where the upper is a difference.
+// Of two sums the upper one exchanges its operands, or the lower one where the upper is a
+// difference.
 std::array<int, 2> PairingState::asked(int low, int high, int which) const {
     if (high < 0) return {operands_[low][which], -1};
     if (!swapsOperands(low, high)) return {operands_[low][which], operands_[high][which]};
-    if (graph_.nodes()[high].op == Op::add) return {operands_[low][which], operands_[high][1 - which]};
+    if (graph_.nodes()[high].op == Op::add)
+        return {operands_[low][which], operands_[high][1 - which]};
     return {operands_[low][1 - which], operands_[high][which]};
 }
 
@@ -153,10 +156,21 @@ void PairingState::countIn(int item, int sign) {
         const auto [a, b] = asked(low, high, which);
         const int move = moveCost(a, b);
         if (move == 0) continue;
-        const std::uint64_t key = static_cast<std::uint64_t>(a) << 32 | static_cast<std::uint32_t>(b);
-        int& wanted = asks_[key];
-        if (sign > 0 ? wanted++ == 0 : --wanted == 0) cost_ += sign * move;
+        if (ask(a, b, sign)) cost_ += sign * move;
     }
+}
+
+// Whether this vector is the first to want a move, or the last.
+bool PairingState::ask(int low, int high, int sign) {
+    std::vector<Ask>& asks = asks_[low];
+    auto found = std::ranges::find(asks, high, &Ask::high);
+    if (found == asks.end()) found = asks.insert(found, {high, 0});
+    const bool first = found->vectors == 0;
+    found->vectors += sign;
+    if (found->vectors > 0) return first;
+    *found = asks.back();
+    asks.pop_back();
+    return true;
 }
 
 void PairingState::touch(int item) {

@@ -1,10 +1,8 @@
-// A pairing under search, and what it costs: kept up to date while pairs are made and dissolved, and
-// taken back as a whole when a move does not pay.
+// A pairing under search, and what it costs: kept up to date while pairs are made and dissolved,
+// and taken back as a whole when a move does not pay.
 #pragma once
 
 #include <array>
-#include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 #include "kernelgen/pairing.h"
@@ -43,12 +41,17 @@ private:
         int item, partner;
         char upper;
     };
+    // A move, and how many vectors want it.
+    struct Ask {
+        int high, vectors;
+    };
     void numberKinds(const Graph& g);
     void collectOperands(const Graph& g);
     void findLevels();
     void set(int item, int partner, char upper);
     void touch(int item);
     void countIn(int item, int sign);
+    bool ask(int low, int high, int sign);
     int ownCost(int low, int high) const;
     int moveCost(int low, int high) const;
     int loadCost(int low, int high) const;
@@ -64,7 +67,7 @@ private:
     std::vector<char> counted_;   // whether the vector of an item is part of the cost
     std::vector<int> touched_;
     std::vector<Change> changes_;
-    std::unordered_map<std::uint64_t, int> asks_;   // moves, by how many vectors want them
+    std::vector<std::vector<Ask>> asks_;   // by the lower half
 };
 
 }   // namespace kfm::kernelgen
