@@ -13,8 +13,8 @@ function(kfm_add_transform_library name)
     set(entries ${generated}/core/generic_entries.cpp)
     set(map ${generated}/kfmgenw7.map)
 
-    # The stamp is what depends on the generator: kernelgen leaves files that would not change alone,
-    # so their objects are not compiled again.
+    # The stamp is what depends on the generator: kernelgen leaves files that would not change
+    # alone, so their objects are not compiled again.
     set(stamp ${generated}.stamp)
     add_custom_command(
         OUTPUT ${stamp}

@@ -1,5 +1,5 @@
-# The package that find_package(kfmgen) finds, one for all targets in this prefix: each has a file of
-# its own libraries beside this one.
+# The package that find_package(kfmgen) finds, one for all targets in this prefix: each has a file
+# of its own libraries beside this one.
 set(kfmgen_target x86-64)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     set(kfmgen_target i386)

@@ -1,5 +1,5 @@
-// The environment of a run chooses the variant, and says which one that has to be: part of each program
-// that is run with both.
+// The environment of a run chooses the variant, and says which one that has to be: part of each
+// program that is run with both.
 #include "registry/loaded_library.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,8 @@
 // are. Plain functions of pointers and sizes; nothing here knows a plan or allocates.
 //
 // Real is float or double. Only the instantiations that a comment names exist. Work arrays and
-// tables are aligned to 16 bytes; the caller's arrays (`src`, `dst`, `front`, `back`) to an element.
+// tables are aligned to 16 bytes; the caller's arrays (`src`, `dst`, `front`, `back`) to an
+// element.
 #pragma once
 
 #include <cstddef>
@@ -36,8 +37,8 @@ void inputBlock(const Real* front, const Real* back, std::ptrdiff_t step, Real* 
 // Joins d' = 2, 4, 8, 16, 32 interleaved sub-transforms of M' = `blockRows` complex rows to one of
 // M'd', in place, in all columns. Block s is complex rows sM' .. sM'+M'-1 of `rows` (real part,
 // then imaginary part). `table` holds M' groups of d' pairs cos, sin, of the angle
-// pi s (4p'+1) / (2 M'd') for pair s of group p'. Reads complex rows sM'+p', multiplies by the pairs
-// and writes to complex row M't+p' the sum over s of each with exp(2 pi i st/d').
+// pi s (4p'+1) / (2 M'd') for pair s of group p'. Reads complex rows sM'+p', multiplies by the
+// pairs and writes to complex row M't+p' the sum over s of each with exp(2 pi i st/d').
 template <class Real, int divisor>
 void twiddleStage(Real* rows, const Real* table, int blockRows);
 

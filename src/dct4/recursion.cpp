@@ -9,8 +9,8 @@
 namespace kfm::dct4 {
 namespace {
 
-// A vector for each of the sub-transform's values, so that sizes follow one rule; only an odd length
-// uses it.
+// A vector for each of the sub-transform's values, so that sizes follow one rule; only an odd
+// length uses it.
 template <class Real>
 constexpr Bytes scratchBytes(int a, int len, bool root) {
     if (!root) return 0;

@@ -15,8 +15,8 @@ using Wide = Constant::Wide;
 // Linear congruential generator (Knuth's MMIX constants): the same signals everywhere.
 class RandomSignal {
 public:
-    // A product of two uniform numbers: with all bits of its own exponent, so that no sum is exact by
-    // chance.
+    // A product of two uniform numbers: with all bits of its own exponent, so that no sum is exact
+    // by chance.
     double value() { return uniform() * uniform(); }
 
 private:

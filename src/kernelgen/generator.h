@@ -21,7 +21,8 @@ struct KernelFamily {
 
     // The graph of one transform, scale factor and memory operations left open. Empty, as
     // `choice` is, where kernels are templates and not written from graphs.
-    std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph = {};
+    std::function<Graph(int length, const registry::Element&, const Target&, bool inverse)> graph =
+        {};
     // The factor tree of a length, and the graph that another tree of it would give.
     std::function<Plan(int length, const registry::Element&)> plan = {};
     std::function<Graph(const Plan&, const registry::Element&)> graphOf = {};

@@ -94,7 +94,8 @@ struct Output {
 };
 
 // Nodes are numbered as they are made, and the schedules on record are for these numbers. So of the
-// arguments of a call only one makes nodes: in which order they are evaluated is the compiler's choice.
+// arguments of a call only one makes nodes: in which order they are evaluated is the compiler's
+// choice.
 class Graph {
 public:
     explicit Graph(int lanes, Arithmetic arithmetic = {})

@@ -53,8 +53,8 @@ Plan evenOdd(int n);
 // The transforms of length `first` are taken first, those of length `second` across them.
 Plan pfa(const Plan& first, const Plan& second);
 Plan ct(const Plan& first, const Plan& second);
-// The prime p = convolution.n + 1. Every primitive root and every shift of the inputs, and so of the
-// constants, gives the same transform with other roundings; root 0 takes the smallest.
+// The prime p = convolution.n + 1. Every primitive root and every shift of the inputs, and so of
+// the constants, gives the same transform with other roundings; root 0 takes the smallest.
 Plan rader(const Plan& convolution, int root = 0, int shift = 0);
 // The prime by a convolution padded to 4 * quarter.n points, a fourth of which is one transform.
 Plan paddedRader(int prime, const Plan& quarter);

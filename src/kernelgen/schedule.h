@@ -44,8 +44,8 @@ ScheduleChoice recordedChoice(const Rows& rows, const Target& target, Matches ma
 }
 
 std::vector<ScheduleChoice> scheduleCandidates();
-// The same for vectors that pairs fill, in two rounds: the cheapest pairings, and none, in the order
-// on record and in one that often wins; then other orders of the winner.
+// The same for vectors that pairs fill, in two rounds: the cheapest pairings, and none, in the
+// order on record and in one that often wins; then other orders of the winner.
 std::vector<ScheduleChoice> pairingCandidates(const Graph& g, const ScheduleChoice& recorded);
 std::vector<ScheduleChoice> orderCandidates(const ScheduleChoice& winner);
 

@@ -1,5 +1,5 @@
-// Which of the library's files the loader took: that for every processor of the target, or a variant for
-// newer ones in its place.
+// Which of the library's files the loader took: that for every processor of the target, or a
+// variant for newer ones in its place.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// Two vectors of two single-precision lanes each, as the halves of one of 16 bytes. In kernels of mixed
-// precision they are widened to the halves of four double-precision lanes and back.
+// Two vectors of two single-precision lanes each, as the halves of one of 16 bytes. In kernels of
+// mixed precision they are widened to the halves of four double-precision lanes and back.
 #pragma once
 
 #include "simd/f32x2.h"

@@ -1,5 +1,5 @@
-// Eight single-precision lanes, where the processor has them. Memory is aligned to 16 bytes at most,
-// so moves take any address.
+// Eight single-precision lanes, where the processor has them. Memory is aligned to 16 bytes at
+// most, so moves take any address.
 #pragma once
 
 #include <immintrin.h>

@@ -55,8 +55,8 @@ KFM_OPERATION void storeHalves(double* low, double* high, f64x2 v) {
     storeHigh(high, v);
 }
 
-// Elements by their numbers; -1 is left out. Neighbours are stored as one where any address will do,
-// but not loaded: where they were stored one by one just before, that would wait for both.
+// Elements by their numbers; -1 is left out. Neighbours are stored as one where any address will
+// do, but not loaded: where they were stored one by one just before, that would wait for both.
 template <int i0, int i1>
 KFM_OPERATION f64x2 loadPair(const double* p) {
     if constexpr (i1 < 0) return loadLow(p + i0);

@@ -1,5 +1,5 @@
-// Four double-precision lanes, where the processor has them. Memory is aligned to 16 bytes at most, so
-// moves take any address.
+// Four double-precision lanes, where the processor has them. Memory is aligned to 16 bytes at most,
+// so moves take any address.
 #pragma once
 
 #include <immintrin.h>
@@ -69,8 +69,8 @@ KFM_OPERATION f64x4 constantHalves(const double* table, int index) {
 KFM_OPERATION f64x4 subtractFromZero(f64x4 a) { return _mm256_sub_pd(_mm256_setzero_pd(), a); }
 
 // Elements by their numbers: complex ones two to a vector, real ones four; of those -1 is left out.
-// Those that stand side by side move at once; "apart" they move by halves, which does not wait where
-// the halves were stored one by one just before.
+// Those that stand side by side move at once; "apart" they move by halves, which does not wait
+// where the halves were stored one by one just before.
 template <int i0, int i1>
 KFM_OPERATION f64x4 loadTwoApart(const Kfm64fc* p) {
     return _mm256_insertf128_pd(asLower(_mm_loadu_pd(&p[i0].re)), _mm_loadu_pd(&p[i1].re), 1);

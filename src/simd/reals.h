@@ -77,8 +77,9 @@ KFM_OPERATION void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
 KFM_OPERATION void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
 KFM_OPERATION void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
 
-// To memory without a detour through the caches, whole vectors in their alignment; cheap where whole
-// cache lines are written. Ends with finishStreaming(), which makes the stores visible in order.
+// To memory without a detour through the caches, whole vectors in their alignment; cheap where
+// whole cache lines are written. Ends with finishStreaming(), which makes the stores visible in
+// order.
 KFM_OPERATION void storeStreaming(float* p, f32x4 v) { _mm_stream_ps(p, v); }
 KFM_OPERATION void storeStreaming(double* p, f64x2 v) { _mm_stream_pd(p, v); }
 KFM_OPERATION void finishStreaming() { _mm_sfence(); }

@@ -1,6 +1,6 @@
-# takes(<folder> <command...>): of the libraries in a folder the dynamic loader takes the variant for
-# this machine, and the base library when told that there is no AVX2; the companion is the same file.
-# The command names the files that a program takes, as ldd does.
+# takes(<folder> <command...>): of the libraries in a folder the dynamic loader takes the variant
+# for this machine, and the base library when told that there is no AVX2; the companion is the same
+# file. The command names the files that a program takes, as ldd does.
 #
 # `variant` is the folder below where the loader has to look on this machine; empty: none.
 cmake_policy(SET CMP0057 NEW)   # if(... IN_LIST ...)

@@ -26,7 +26,8 @@ struct Instruction {
         const bool isNew = mnemonic.starts_with('v');
         return std::string_view(mnemonic).substr(isNew ? 1 : 0);
     }
-    // A vector of 16 bytes, or its upper half, to or from any address. Wider ones have no other way.
+    // A vector of 16 bytes, or its upper half, to or from any address. Wider ones have no other
+    // way.
     bool movesUnaligned() const {
         return (stem().starts_with("movup") || stem() == "movdqu") && accessesMemory() &&
                !uses("%ymm");

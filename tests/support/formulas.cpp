@@ -63,8 +63,8 @@ Bins bins8(const Reals<Real>& x) {
             {{E - O}}};
 }
 
-// Twice a prime: one transform over the even samples, one centred on the middle sample. At 14 and 22
-// sums of products stay in double precision up to the output.
+// Twice a prime: one transform over the even samples, one centred on the middle sample. At 14 and
+// 22 sums of products stay in double precision up to the output.
 template <class Real>
 Bins twicePrimeBins(const Reals<Real>& x) {
     const std::size_t n = x.size(), p = n / 2;

@@ -1,8 +1,8 @@
 // The factor trees of the double-precision kernels. A number is the direct module of that length
 // (a power of two from 8 up: split radix); pfa needs no twiddle factors, ct has them, rader turns
-// the prime one above its argument's length into that convolution. Where a primitive root and a shift
-// are named, or sums in pairs, they are what `kernelgen errors` found to round best; the mean error
-// that it gave stands beside the row.
+// the prime one above its argument's length into that convolution. Where a primitive root and a
+// shift are named, or sums in pairs, they are what `kernelgen errors` found to round best; the mean
+// error that it gave stands beside the row.
 #include <map>
 #include <stdexcept>
 
