@@ -107,6 +107,16 @@ void summarise(std::ostream& out, const Group& group) {
 
 }   // namespace
 
+void Result::keepFaster(const Result& again) {
+    if (again.peerNs < peerNs) peer = again.peer;
+    ns = std::min(ns, again.ns);
+    medianNs = std::min(medianNs, again.medianNs);
+    cycleNs = std::min(cycleNs, again.cycleNs);
+    for (const auto side : {&Result::peerNs, &Result::otherNs, &Result::inPlaceNs,
+                            &Result::otherInPlaceNs})
+        this->*side = std::min(this->*side, again.*side);
+}
+
 std::optional<double> Result::ratio() const { return quotient(ns, peerNs); }
 std::optional<double> Result::otherRatio() const { return quotient(ns, otherNs); }
 std::optional<double> Result::inPlaceRatio() const { return quotient(inPlaceNs, otherInPlaceNs); }

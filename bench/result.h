@@ -25,6 +25,9 @@ struct Result {
     // result of the last one.
     std::optional<double> otherNs, inPlaceNs, otherInPlaceNs;
 
+    // Of each side the faster one of two results.
+    void keepFaster(const Result& again);
+
     std::optional<double> ratio() const;
     std::optional<double> otherRatio() const;
     std::optional<double> inPlaceRatio() const;
