@@ -19,9 +19,13 @@ struct Selection {
 
     void addLengths(CLI::App& app) {
         app.add_option_function<std::string>("--lengths", [this](const std::string& text) {
-            const int fields = std::sscanf(text.c_str(), "%d-%d", &first, &last);
-            if (fields < 1) throw CLI::ValidationError("--lengths", "expected N or A-B");
-            if (fields == 1) last = first;
+            int read = 0;
+            if (std::sscanf(text.c_str(), "%d-%d%n", &first, &last, &read) < 2) {
+                std::sscanf(text.c_str(), "%d%n", &first, &read);
+                last = first;
+            }
+            if (read == 0 || text[read] != '\0')
+                throw CLI::ValidationError("--lengths", "expected N or A-B");
         }, "one length or a range A-B");
     }
     void addElement(CLI::App& app) {

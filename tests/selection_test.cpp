@@ -22,8 +22,9 @@ TEST(Selection, PicksFunctionsOfFixedLength) {
     EXPECT_EQ(picked("--family Hartley"), 126u);
 }
 
-TEST(Selection, OfNothingIsAnError) {
-    for (const char* options : {"--lengths 65", "--lengths 9-8", "--family Hartley --element 32fc"})
+TEST(Selection, OfNothingOrOfHalfReadLengthsIsAnError) {
+    for (const char* options : {"--lengths 65", "--lengths 9-8", "--family Hartley --element 32fc",
+                                "--lengths 16,32", "--lengths 16-", "--lengths all"})
         EXPECT_THROW(picked(options), std::runtime_error) << options;
 }
 
