@@ -95,13 +95,8 @@ Result measure(const registry::Function& function, const OtherLibrary* library,
 std::vector<Result> measureAll(const OtherLibrary* other, const Options& options) {
     const OpCountTable counts = readOpCounts(KFM_OP_COUNTS);
     std::vector<Result> results;
-    for (const registry::Function* function : options.selection.functions())
-        results.push_back(measure(*function, other, options));
-    // A neighbour's work can last longer than all batches of a function.
-    for (int round = 1; round < options.rounds; ++round)
-        for (Result& result : results) result.keepFaster(measure(*result.function, other, options));
-    for (Result& result : results) {
-        const registry::Function* const function = result.function;
+    for (const registry::Function* function : options.selection.functions()) {
+        Result& result = results.emplace_back(measure(*function, other, options));
         const registry::Family& family = *registry::findFamily(function->family);
         const std::string kernels(family.kernelSource);
         const auto row = counts.find({kernels, function->length, function->element});
@@ -110,6 +105,9 @@ std::vector<Result> measureAll(const OtherLibrary* other, const Options& options
                                           *registry::findElement(function->element));
         if (row != counts.end()) result.counts = row->second;
     }
+    // A neighbour's work can last longer than all batches of a function.
+    for (int round = 1; round < options.rounds; ++round)
+        for (Result& result : results) result.keepFaster(measure(*result.function, other, options));
     return results;
 }
 

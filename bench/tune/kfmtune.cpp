@@ -51,12 +51,17 @@ int indexOf(const std::vector<Candidate>& candidates, const std::string& schedul
 struct CallPatterns {
     std::shared_ptr<const bench::Signals> apart, inPlace;
 
-    bench::Subject all(const Candidate& candidate) const {
-        std::vector<std::function<void(long)>> calls;
+    // Of every function in either pattern.
+    std::vector<std::function<void(long)>> calls(const Candidate& candidate) const {
+        std::vector<std::function<void(long)>> result;
         for (const bench::Transform function : candidate.functions)
             for (const auto& signals : {apart, inPlace})
-                calls.push_back(bench::repeatCall(function, signals, kfmScaleNone));
-        return bench::Subject([calls](long times) mutable {
+                result.push_back(bench::repeatCall(function, signals, kfmScaleNone));
+        return result;
+    }
+
+    bench::Subject all(const Candidate& candidate) const {
+        return bench::Subject([calls = calls(candidate)](long times) {
             for (const auto& call : calls) call(times);
         });
     }
@@ -64,16 +69,13 @@ struct CallPatterns {
     // Whether no function is slower than its like, in either pattern.
     bool worthwhile(const Candidate& candidate, const Candidate& reference, int batches) const {
         constexpr double tolerance = 1.03;
-        for (std::size_t i = 0; i < candidate.functions.size(); ++i)
-            for (const auto& signals : {apart, inPlace}) {
-                bench::Subject ours(
-                    bench::repeatCall(candidate.functions[i], signals, kfmScaleNone));
-                bench::Subject theirs(
-                    bench::repeatCall(reference.functions[i], signals, kfmScaleNone));
-                bench::Subject* const turns[] = {&ours, &theirs};
-                bench::runInterleaved(turns, batches);
-                if (ours.minimum() > tolerance * theirs.minimum()) return false;
-            }
+        const auto candidates = calls(candidate), references = calls(reference);
+        for (std::size_t i = 0; i < candidates.size(); ++i) {
+            bench::Subject ours(candidates[i]), theirs(references[i]);
+            bench::Subject* const turns[] = {&ours, &theirs};
+            bench::runInterleaved(turns, batches);
+            if (ours.minimum() > tolerance * theirs.minimum()) return false;
+        }
         return true;
     }
 };
@@ -119,9 +121,8 @@ std::vector<KernelSource> kernels(const registry::Family& family, const registry
         if (!selection.hasLength(length)) continue;
         KernelSource kernel{std::string(family.kernelSource), std::string(element.suffix), length,
                             length};
-        for (const registry::Family& member : registry::families())
-            if (member.kernelSource == family.kernelSource)
-                kernel.functions.push_back(registry::functionName(member, length, element));
+        for (const registry::Family* member : registry::familiesOf(family.kernelSource))
+            kernel.functions.push_back(registry::functionName(*member, length, element));
         result.push_back(std::move(kernel));
     }
     return result;

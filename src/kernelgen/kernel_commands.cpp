@@ -4,7 +4,7 @@
 #include <array>
 #include <iomanip>
 #include <numeric>
-#include <set>
+#include <span>
 #include <sstream>
 #include <stdexcept>
 
@@ -43,13 +43,14 @@ constexpr std::array columns = {
     std::pair{"loads", &OperationCounts::loads},
     std::pair{"stores", &OperationCounts::stores},
     std::pair{"conversions", &OperationCounts::conversions},
-};
-
-// And what there is besides where operations are joined in pairs.
-constexpr std::array pairedColumns = {
     std::pair{"moves", &OperationCounts::moves},
     std::pair{"pairs", &OperationCounts::pairs},
 };
+
+// The last two are of operations that are joined in pairs.
+auto columnsFor(bool paired) {
+    return std::span(columns).first(columns.size() - (paired ? 0 : 2));
+}
 
 // The operations as they are printed, in execution order.
 std::string dumpProgram(const Graph& graph, const Element& element, const Ports& ports,
@@ -73,17 +74,29 @@ const KernelFamily& kernelFamily(std::string_view source) {
     throw std::invalid_argument("no kernels are called " + std::string(source));
 }
 
+std::vector<KernelFile> kernelFiles() {
+    std::vector<KernelFile> result;
+    for (const registry::Family& family : registry::families()) {
+        if (registry::familiesOf(family.kernelSource).front() != &family) continue;
+        for (const Element* element : family.elements)
+            for (int length = family.first; length <= family.last; ++length)
+                result.push_back({family.folder, family.kernelSource, length, element});
+    }
+    for (const dct4::CodeletRange& range : dct4::codeletRanges())
+        for (const char* suffix : {"32f", "64f"})
+            for (int size = range.first; size <= range.last; size *= 2)
+                result.push_back({"dct4", range.function, size, registry::findElement(suffix)});
+    return result;
+}
+
 std::string kernelSource(std::string_view source, int length, const Element& element,
                          const Target& target, std::string_view choice) {
     const KernelFamily& family = kernelFamily(source);
-    std::vector<const registry::Family*> members;
-    for (const registry::Family& member : registry::families())
-        if (member.kernelSource == source) members.push_back(&member);
     return family.emit(length, element, target,
                        !family.choice   ? ScheduleChoice()
                        : choice.empty() ? family.choice(length, element, target)
                                         : ScheduleChoice::parse(choice),
-                       members);
+                       registry::familiesOf(source));
 }
 
 std::vector<ScheduleChoice> candidates(std::string_view source, int length, const Element& element,
@@ -116,15 +129,11 @@ std::string explain(std::string_view source, int length, const Element& element)
                                                      target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
         const OperationCounts counts = printed->counts();
-        const auto print = [&](const auto& column) {
-            out << "  " << std::left << std::setw(17) << column.first << counts.*column.second
-                << '\n';
-        };
-        std::ranges::for_each(columns, print);
-        if (counts.pairs == 0) continue;
-        std::ranges::for_each(pairedColumns, print);
-        out << "  in all           " << printed->operations().size() << " operations instead of "
-            << graph.liveNodes().size() << ", and stores\n";
+        for (const auto& [name, member] : columnsFor(counts.pairs > 0))
+            out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
+        if (counts.pairs > 0)
+            out << "  in all           " << printed->operations().size()
+                << " operations instead of " << graph.liveNodes().size() << ", and stores\n";
     }
     return out.str();
 }
@@ -147,37 +156,23 @@ std::string dump(std::string_view stage, std::string_view source, int length,
 }
 
 std::string operationCountTable(const Target& target) {
-    const bool wide = target.vectorBytes > 16;
+    const auto shown = columnsFor(target.vectorBytes > 16);
     std::ostringstream out;
     out << "# Vector operations of each kernel: `kernelgen counts` writes this table.\n"
         << "kernels length element";
-    for (const auto& [name, member] : columns) out << ' ' << name;
-    if (wide)
-        for (const auto& [name, member] : pairedColumns) out << ' ' << name;
+    for (const auto& [name, member] : shown) out << ' ' << name;
     out << '\n';
-    const auto row = [&](std::string_view source, int length, const Element& element) {
+    for (const auto& [folder, source, length, element] : kernelFiles()) {
         const KernelFamily& family = kernelFamily(source);
-        if (!family.graph) return;
-        const Graph graph = family.graph(length, element, target, false);
-        const auto ports = family.ports(graph.lanes(), element);
-        const ScheduleChoice choice = family.choice(length, element, target);
-        const OperationCounts counts = program(graph, element, *ports, choice.pairing)->counts();
-        out << source << ' ' << length << ' ' << element.suffix;
-        for (const auto& [name, member] : columns) out << ' ' << counts.*member;
-        if (wide)
-            for (const auto& [name, member] : pairedColumns) out << ' ' << counts.*member;
+        if (!family.graph) continue;
+        const Graph graph = family.graph(length, *element, target, false);
+        const auto ports = family.ports(graph.lanes(), *element);
+        const ScheduleChoice choice = family.choice(length, *element, target);
+        const OperationCounts counts = program(graph, *element, *ports, choice.pairing)->counts();
+        out << source << ' ' << length << ' ' << element->suffix;
+        for (const auto& [name, member] : shown) out << ' ' << counts.*member;
         out << '\n';
-    };
-    std::set<std::string_view> done;
-    for (const registry::Family& family : registry::families())
-        if (done.insert(family.kernelSource).second)
-            for (const Element* element : family.elements)
-                for (int length = family.first; length <= family.last; ++length)
-                    row(family.kernelSource, length, *element);
-    for (const dct4::CodeletRange& range : dct4::codeletRanges())
-        for (const char* suffix : {"32f", "64f"})
-            for (int size = range.first; size <= range.last; size *= 2)
-                row(range.function, size, *registry::findElement(suffix));
+    }
     return out.str();
 }
 

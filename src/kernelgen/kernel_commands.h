@@ -11,6 +11,14 @@ namespace kfm::kernelgen {
 // The family whose generated files are called `source`_<N>_<element>.cpp; throws for others.
 const KernelFamily& kernelFamily(std::string_view source);
 
+// What is generated for a target: the kernels, once each, then the codelets.
+struct KernelFile {
+    std::string_view folder, source;
+    int length;
+    const registry::Element* element;
+};
+std::vector<KernelFile> kernelFiles();
+
 // The source of one kernel; an empty schedule takes the one on record.
 std::string kernelSource(std::string_view source, int length, const registry::Element& element,
                          const Target& target, std::string_view schedule = {});

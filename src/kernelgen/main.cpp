@@ -78,8 +78,6 @@ public:
         written_.insert(root_ / name);
     }
 
-    bool contains(const fs::path& name) const { return written_.contains(root_ / name); }
-
     void removeOthers() const {
         std::vector<fs::path> stale;
         for (const auto& entry : fs::recursive_directory_iterator(root_))
@@ -125,34 +123,12 @@ void writeResult(const Arguments& arguments, const std::string& text) {
         writeFile(file, text);
 }
 
-void writeKernels(OutputFolder& folder, const Target& target) {
-    for (const registry::Family& family : registry::families())
-        for (const registry::Element* element : family.elements)
-            for (int length = family.first; length <= family.last; ++length) {
-                const fs::path name = fs::path(family.folder) /
-                                      (std::string(family.kernelSource) + "_" +
-                                       std::to_string(length) + "_" +
-                                       std::string(element->suffix) + ".cpp");
-                if (folder.contains(name)) continue;
-                folder.write(name, kernelSource(family.kernelSource, length, *element, target));
-            }
-}
-
-void writeCodelets(OutputFolder& folder, const Target& target) {
-    for (const dct4::CodeletRange& range : dct4::codeletRanges())
-        for (int size = range.first; size <= range.last; size *= 2)
-            for (const char* suffix : {"32f", "64f"}) {
-                const std::string function(range.function);
-                folder.write("dct4/" + function + "_" + std::to_string(size) + "_" + suffix +
-                                 ".cpp",
-                             kernelSource(function, size, *registry::findElement(suffix), target));
-            }
-}
-
 void build(const Arguments& arguments) {
     OutputFolder folder(arguments.required("--output"));
-    writeKernels(folder, target(arguments));
-    writeCodelets(folder, target(arguments));
+    for (const auto& [below, source, length, element] : kernelFiles())
+        folder.write(fs::path(below) / (std::string(source) + "_" + std::to_string(length) + "_" +
+                                        std::string(element->suffix) + ".cpp"),
+                     kernelSource(source, length, *element, target(arguments)));
     folder.write("core/generic_entries.cpp", genericEntries());
     folder.write("registry/functions.cpp", functionsTable());
     folder.write("kfmgenw7.map", symbolMap());

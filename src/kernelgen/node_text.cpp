@@ -76,19 +76,18 @@ std::string NodeText::subtracted(ConstantTable& table, const LanePattern& lanes,
     return "add(flip(" + a + ", " + table.zeros(lanes) + "), " + kept + ")";
 }
 
-// With the factor or, where there is none, the signs that it would bring along.
-std::string NodeText::outgoing(const Output& output, const std::string& value) {
-    const Node& node = g_.nodes()[output.node];
-    if (ports_.scaled())
-        return "mul(" + value + ", " + scales_.at({node.wide, output.negated}) + ")";
-    if (std::ranges::count(output.negated, 1) == 0) return value;
-    return "flip(" + value + ", " + tableOf(node).zeros(output.negated) + ")";
+std::string NodeText::outgoing(const std::string& value, const Signs& signs,
+                               const std::map<Signs, std::string>& scales,
+                               ConstantTable& table) const {
+    if (ports_.scaled()) return "mul(" + value + ", " + scales.at(signs) + ")";
+    if (std::ranges::count(signs.second, 1) == 0) return value;
+    return "flip(" + value + ", " + table.zeros(signs.second) + ")";
 }
 
 std::string NodeText::store(const Output& output, const std::string& name) {
-    const std::string value = outgoing(output, name);
-    const bool wide = g_.nodes()[output.node].wide;
-    return ports_.store(output, wide ? "narrow(" + value + ")" : value);
+    const Node& node = g_.nodes()[output.node];
+    const std::string value = outgoing(name, {node.wide, output.negated}, scales_, tableOf(node));
+    return ports_.store(output, node.wide ? "narrow(" + value + ")" : value);
 }
 
 }   // namespace kfm::kernelgen

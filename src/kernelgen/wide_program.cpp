@@ -85,7 +85,8 @@ public:
         const Store& what = stores_.at(output);
         if (what.high < 0) return text_.store(g_.outputs()[what.low], what.value.text);
         const Output &a = g_.outputs()[what.low], &b = g_.outputs()[what.high];
-        const std::string value = outgoing(what);
+        const std::string value = text_.outgoing(what.value.text, signsOf(what), pairedScales_,
+                                                 table(wide(a.node)));
         const bool narrowed = wide(a.node) && !doublePrecision_;
         return ports_.store(a, b, narrowed ? "narrow(" + value + ")" : value);
     }
@@ -104,15 +105,6 @@ private:
     ConstantTable& table(bool isWide) { return tables_[isWide && !doublePrecision_ ? 3 : 2]; }
     // Two single-precision lanes and two more fill a vector of 16 bytes.
     bool fourSingles() const { return !doublePrecision_ && g_.lanes() == 2; }
-
-    // With the factor or, where there is none, the signs that it would bring along.
-    std::string outgoing(const Store& store) {
-        const auto signs = signsOf(store);
-        if (ports_.scaled())
-            return "mul(" + store.value.text + ", " + pairedScales_.at(signs) + ")";
-        if (std::ranges::count(signs.second, 1) == 0) return store.value.text;
-        return "flip(" + store.value.text + ", " + table(signs.first).zeros(signs.second) + ")";
-    }
 
     int add(WideOperation what, std::vector<Value> values) {
         Operation operation{"v" + std::to_string(operations_.size()), {}};
@@ -246,7 +238,7 @@ private:
         return result + ">(" + (b.empty() || a == b ? a : a + ", " + b) + ")";
     }
 
-    std::pair<bool, LanePattern> signsOf(const Store& store) const {
+    Signs signsOf(const Store& store) const {
         const Output &a = g_.outputs()[store.low], &b = g_.outputs()[store.high];
         LanePattern negated = a.negated;
         negated.insert(negated.end(), b.negated.begin(), b.negated.end());
@@ -279,7 +271,7 @@ private:
     std::vector<WideOperation> what_;
     std::vector<std::vector<Value>> values_;
     std::map<std::tuple<Kind, int, int, LanePattern>, int> made_;
-    std::map<std::pair<bool, LanePattern>, std::string> pairedScales_;
+    std::map<Signs, std::string> pairedScales_;
     std::map<int, Store> stores_;
 };
 

@@ -50,6 +50,13 @@ const Family* findFamily(std::string_view name) {
     return found == families().end() ? nullptr : &*found;
 }
 
+std::vector<const Family*> familiesOf(std::string_view kernelSource) {
+    std::vector<const Family*> result;
+    for (const Family& family : families())
+        if (family.kernelSource == kernelSource) result.push_back(&family);
+    return result;
+}
+
 std::string functionName(const Family& family, int length, const Element& element) {
     return "kfmg" + std::string(family.name) + "_" + std::to_string(length) + "_" +
            std::string(element.suffix);

@@ -39,6 +39,8 @@ const Element* findElement(std::string_view suffix);
 
 std::span<const Family> families();
 const Family* findFamily(std::string_view name);
+// Those whose functions stand in the same generated files.
+std::vector<const Family*> familiesOf(std::string_view kernelSource);
 
 // Wherever a length is asked for below, an order is meant in a family of orders.
 

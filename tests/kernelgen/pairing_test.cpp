@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <set>
 #include <tuple>
 
@@ -22,15 +23,21 @@ struct Case {
 
 void PrintTo(const Case& c, std::ostream* out) { *out << c.source << c.length << c.element; }
 
+const kfm::registry::Element& elementOf(const Case& c) {
+    return *kfm::registry::findElement(c.element);
+}
+
+Graph graphOf(const Case& c) {
+    return kernelFamily(c.source).graph(c.length, elementOf(c), *findTarget("avx2-x86-64"), false);
+}
+
+std::unique_ptr<Ports> portsOf(const Case& c, const Graph& g) {
+    return kernelFamily(c.source).ports(g.lanes(), elementOf(c));
+}
+
 class Pairings : public testing::TestWithParam<Case> {
 protected:
-    const kfm::registry::Element& element() const {
-        return *kfm::registry::findElement(GetParam().element);
-    }
-    Graph graph() const {
-        return kernelFamily(GetParam().source)
-            .graph(GetParam().length, element(), *findTarget("avx2-x86-64"), false);
-    }
+    Graph graph() const { return graphOf(GetParam()); }
 };
 
 constexpr PairingChoice choices[] = {{0, 1, 20}, {1, 1, 20}, {2, 5, 20}, {-12, 1, 20}};
@@ -100,8 +107,8 @@ TEST_P(Pairings, CostsDependOnThePairsAlone) {
 TEST_P(Pairings, ProgramsHaveOperandsBeforeTheirUsers) {
     const Graph g = graph();
     const Pairing pairing = pairOperations(g, choices[1]);
-    const auto ports = kernelFamily(GetParam().source).ports(g.lanes(), element());
-    const auto paired = wideProgram(g, element(), *ports, pairing);
+    const auto ports = portsOf(GetParam(), g);
+    const auto paired = wideProgram(g, elementOf(GetParam()), *ports, pairing);
     std::multiset<int> stored;
     for (int i = 0; i < static_cast<int>(paired->operations().size()); ++i) {
         const Operation& operation = paired->operations()[i];
@@ -141,11 +148,9 @@ TEST(PairedOperations, AreAsMany) {
         {{"Hartley", "64f", 31}, "1:1:60", 252, 98, 34},
     };
     for (const auto& [kernel, choice, operations, pairs, moves] : rows) {
-        const kfm::registry::Element& element = *kfm::registry::findElement(kernel.element);
-        const KernelFamily& family = kernelFamily(kernel.source);
-        const Graph g = family.graph(kernel.length, element, *findTarget("avx2-x86-64"), false);
-        const auto ports = family.ports(g.lanes(), element);
-        const auto paired = program(g, element, *ports, PairingChoice::parse(choice));
+        const Graph g = graphOf(kernel);
+        const auto ports = portsOf(kernel, g);
+        const auto paired = program(g, elementOf(kernel), *ports, PairingChoice::parse(choice));
         const OperationCounts counts = paired->counts();
         EXPECT_EQ(std::tuple(static_cast<int>(paired->operations().size()), counts.pairs,
                              counts.moves),
