@@ -45,8 +45,10 @@ HalfSpectrum direct4(Graph& g, std::span<const Ref> x) {
 
 Ref total(Graph& g, const std::vector<Ref>& terms, bool inPairs) {
     Ref sum;
-    for (std::size_t i = 0; i < terms.size(); i += inPairs ? 2 : 1)
-        sum = g.add(sum, inPairs && i + 1 < terms.size() ? g.add(terms[i], terms[i + 1]) : terms[i]);
+    for (std::size_t i = 0; i < terms.size(); i += inPairs ? 2 : 1) {
+        const bool two = inPairs && i + 1 < terms.size();
+        sum = g.add(sum, two ? g.add(terms[i], terms[i + 1]) : terms[i]);
+    }
     return sum;
 }
 
@@ -277,7 +279,7 @@ std::vector<Complex> complexDft(Graph& g, const Plan& plan, std::span<const Comp
 }
 
 std::vector<Ref> realSynthesis(Graph& g, const Plan& plan, std::span<const Complex> values) {
-    Graph analysis(g.lanes());
+    Graph analysis(g.lanes(), {}, g.lanes());
     std::vector<Ref> inputs(plan.n);
     for (int i = 0; i < plan.n; ++i) inputs[i] = analysis.load(i);
     const HalfSpectrum spectrum = realDft(analysis, plan, inputs);

@@ -81,14 +81,14 @@ private:
 
 Body emitBody(const Graph& g, const registry::Element& element, const ScheduleChoice& choice,
               const Ports& ports) {
-    const std::unique_ptr<Program> operations = program(g, element, ports, choice.pairing);
-    return BodyPrinter(*operations, choice, ports.overlapping()).print();
+    Program operations = program(g, element, ports, choice.pairings);
+    return BodyPrinter(operations, choice, ports.overlapping()).print();
 }
 
 std::string emitTransform(const Graph& g, std::string_view name,
                           const registry::Element& element, const ScheduleChoice& choice,
                           Packed packed) {
-    const Body body = emitBody(g, element, choice, ArrayPorts(g.lanes(), element, packed));
+    const Body body = emitBody(g, element, choice, ArrayPorts(element, packed));
     const std::string type(element.type);
     std::ostringstream out;
     out << "struct " << name << " {\n" << body.tables << "\n"

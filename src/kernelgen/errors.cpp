@@ -31,14 +31,13 @@ private:
 template <class Real, class Product>
 class Meter {
 public:
-    Meter(const Graph& g, int lanesPerElement, int elements)
-        : g_(g), lanesPerElement_(lanesPerElement),
-          exactScale_(Constant::inverseSqrt(elements).value()) {}
+    Meter(const Graph& g, int elements)
+        : g_(g), exactScale_(Constant::inverseSqrt(elements).value()) {}
 
     void add(const std::vector<Real>& source) {
-        const std::vector<Real> actual = evaluate<Real, Product>(g_, lanesPerElement_, source);
+        const std::vector<Real> actual = evaluate<Real, Product>(g_, source);
         const std::vector<Wide> exact =
-            evaluate<Wide>(g_, lanesPerElement_, std::vector<Wide>(source.begin(), source.end()));
+            evaluate<Wide>(g_, std::vector<Wide>(source.begin(), source.end()));
         const Real scale = static_cast<Real>(exactScale_);
         double largestError = 0, largestOutput = 0;
         for (std::size_t i = 0; i < exact.size(); ++i) {
@@ -61,7 +60,6 @@ public:
 private:
     static constexpr double unit = 1.0 / (1ll << (sizeof(Real) == 4 ? 24 : 53));
     const Graph& g_;
-    int lanesPerElement_;
     Wide exactScale_;
     double errors_ = 0, outputs_ = 0, worst_ = 0;
 };
@@ -69,9 +67,8 @@ private:
 // `feed` adds its signals to a meter of the graph's arithmetic.
 template <class Feed>
 ErrorFigures measured(const Graph& g, const registry::Element& element, int elements, Feed feed) {
-    const int lanesPerElement = element.complex ? 2 : 1;
     const auto run = [&]<class Real, class Product>(Real, Product) {
-        Meter<Real, Product> meter(g, lanesPerElement, elements);
+        Meter<Real, Product> meter(g, elements);
         feed(meter, Real());
         return meter.figures();
     };

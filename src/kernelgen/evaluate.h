@@ -2,7 +2,6 @@
 // a line is emitted, and the emitted kernel must give the bits of the element-type evaluation.
 #pragma once
 
-#include <array>
 #include <span>
 #include <vector>
 
@@ -10,14 +9,12 @@
 
 namespace kfm::kernelgen {
 
-// The lanes of every node. `source` holds the input as a flat array of lanes: element e of a load
-// is the `lanesPerElement` values from e * lanesPerElement.
-// Nodes that are wide are computed in `Wide`, all others in `Real`.
+// The lanes of every node. `source` holds the input as a flat array of the lanes of its elements.
+// Nodes that are wide are computed in `Wide`, all others in `Real`; what is of no interest is zero.
 template <class Real, class Wide = Real>
-std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement,
-                                             std::span<const Real> source) {
+std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, std::span<const Real> source) {
     using Lanes = std::vector<Wide>;
-    const int lanes = g.lanes();
+    const int lanes = g.lanes(), lanesPerElement = g.lanesPerElement();
     std::vector<Lanes> values;
     const auto at = [&](Ref ref) -> const Lanes& { return values[ref.node()]; };
     for (const Node& node : g.nodes()) {
@@ -25,7 +22,7 @@ std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement
         for (int i = 0; i < lanes; ++i) {
             switch (node.op) {
             case Op::load: {
-                const int element = i < lanesPerElement ? node.first : node.second;
+                const int element = node.elements[i / lanesPerElement % node.elements.size()];
                 v[i] = element < 0 ? Real(0)
                                    : source[element * lanesPerElement + i % lanesPerElement];
                 break;
@@ -44,6 +41,12 @@ std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement
                        : node.pattern[i] < lanes ? at(node.a)[node.pattern[i]]
                                                  : at(node.b)[node.pattern[i] - lanes];
                 break;
+            case Op::join: {
+                const int part = node.pattern[2 * i / lanes];
+                if (part >= 0)
+                    v[i] = at(2 * i < lanes ? node.a : node.b)[part * lanes / 2 + i % (lanes / 2)];
+                break;
+            }
             case Op::flip:
                 v[i] = node.pattern[i] ? -at(node.a)[i] : at(node.a)[i];
                 break;
@@ -65,14 +68,14 @@ std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, int lanesPerElement
 
 // The outputs, laid out like the source.
 template <class Real, class Wide = Real>
-std::vector<Real> evaluate(const Graph& g, int lanesPerElement, std::span<const Real> source) {
-    const int lanes = g.lanes();
-    const auto values = evaluateNodes<Real, Wide>(g, lanesPerElement, source);
+std::vector<Real> evaluate(const Graph& g, std::span<const Real> source) {
+    const int lanesPerElement = g.lanesPerElement();
+    const auto values = evaluateNodes<Real, Wide>(g, source);
     std::vector<Real> result(source.size());
     for (const Output& output : g.outputs()) {
-        const std::array<int, 2> elements = {output.first, output.second};
-        for (int i = 0; i < lanes; ++i) {
-            const int element = elements[i / lanesPerElement];
+        const int stored = static_cast<int>(output.elements.size()) * lanesPerElement;
+        for (int i = 0; i < stored; ++i) {
+            const int element = output.elements[i / lanesPerElement];
             if (element < 0) continue;
             const Real value = static_cast<Real>(values[output.node][i]);
             result[element * lanesPerElement + i % lanesPerElement] =

@@ -36,10 +36,8 @@ struct KernelFamily {
                               const ScheduleChoice&, std::span<const registry::Family* const>)>
         emit = {};
     // Where its values come from and go to in dumps.
-    std::function<std::unique_ptr<Ports>(int lanes, const registry::Element&)> ports =
-        [](int lanes, const registry::Element& element) {
-            return std::make_unique<ArrayPorts>(lanes, element);
-        };
+    std::function<std::unique_ptr<Ports>(const registry::Element&)> ports =
+        [](const registry::Element& element) { return std::make_unique<ArrayPorts>(element); };
     // Whether operations may be joined in pairs; not where a graph stands for vectors of any width.
     bool inPairs = true;
 };

@@ -30,7 +30,8 @@ LaneConstant product(const LaneConstant& c, const LaneConstant& d) {
 }   // namespace
 
 Ref Graph::intern(Node node) {
-    const Key key{node.op, node.a, node.b, node.constant, node.first, node.second, node.pattern};
+    const Key key{node.op,       node.a,       node.b,   node.constant,
+                  node.elements, node.pattern, node.half};
     const auto [found, inserted] = index_.try_emplace(key, static_cast<int>(nodes_.size()));
     if (inserted) {
         node.wide = computesWide(node);
@@ -77,7 +78,7 @@ bool Graph::sameFactor(Ref a, Ref b) const {
 }
 
 Ref Graph::load(int first, int second) {
-    return intern({.op = Op::load, .first = first, .second = second});
+    return intern({.op = Op::load, .elements = elements(first, second)});
 }
 
 Ref Graph::add(Ref a, Ref b) {
@@ -107,7 +108,7 @@ Ref Graph::commonFactor(Ref a, Ref b, bool negative) {
 Ref Graph::difference(Ref a, Ref b) {
     if (sameFactor(a, b)) return commonFactor(a, b, true);
     matchPrecision(a, b);
-    const auto reversed = index_.find({Op::sub, b, a, 0, -1, -1, {}});
+    const auto reversed = index_.find({Op::sub, b, a, 0, {}, {}, false});
     if (reversed != index_.end()) return -Ref::toNode(reversed->second);
     return intern({.op = Op::sub, .a = a, .b = b});
 }
@@ -191,7 +192,25 @@ void Graph::store(int first, int second, Ref value, LanePattern negated) {
     negated.resize(lanes_, 0);
     if (value.negative())
         for (int& lane : negated) lane = 1 - lane;
-    outputs_.push_back({first, second, value.node(), negated});
+    outputs_.push_back({elements(first, second), value.node(), negated});
+}
+
+// As many as a vector holds.
+std::vector<int> Graph::elements(int first, int second) const {
+    std::vector<int> result = {first, second};
+    result.resize(lanes_ / lanesPerElement_, -1);
+    return result;
+}
+
+Graph Graph::forPairsOf(const Graph& g) {
+    Graph pairs(2 * g.lanes_, g.arithmetic_, g.lanesPerElement_);
+    pairs.ofPairs_ = true;
+    return pairs;
+}
+
+Ref Graph::append(Node node, const LaneConstant& constant) {
+    if (!constant.empty()) node.constant = internConstant(constant);
+    return intern(std::move(node));
 }
 
 void Graph::turnDifferences() {

@@ -65,11 +65,12 @@ using LaneConstant = std::vector<Constant>;
 using LanePattern = std::vector<int>;
 
 enum class Op {
-    load,      // the source elements `first` and `second`; -1: the upper half is zero
+    load,      // source elements; -1: zero
     add,       // a + b
     sub,       // a - b
     mul,       // constant * a
     select,    // lanes of a and b by `pattern`
+    join,      // the half of a and the half of b that `pattern` names; -1: whatever
     flip,      // a with the sign changed in the lanes whose pattern entry is 1
     subtract,  // 0 - a in the lanes whose pattern entry is 1, a in the others
     widen,     // a narrow value made wide
@@ -80,15 +81,18 @@ struct Node {
     Op op;
     Ref a = {}, b = {};   // always positive references (or unused)
     int constant = 0;     // mul: index of the lane constant
-    int first = -1, second = -1;
+    std::vector<int> elements = {};   // load: by number
     LanePattern pattern = {};
+    bool half = false;    // in a graph of pairs: what the upper half holds is of no interest
+    bool apart = false;   // load: by halves, even if they stand side by side
+    bool move = false;    // brings operands together for a pair: no step of the algorithm
     bool wide = false;    // follows from the operation and its operands
 };
 
-// What a kernel writes: the elements `first` and `second` (-1: half not stored) from a node,
-// with the sign changed in the lanes whose entry is 1; a scale factor takes the signs along.
+// What a kernel writes: elements (-1: not stored) from a node, with the sign changed in the lanes
+// whose entry is 1; a scale factor takes the signs along. Half as many elements: the lower half.
 struct Output {
-    int first, second;
+    std::vector<int> elements;
     int node;
     LanePattern negated;
 };
@@ -98,10 +102,15 @@ struct Output {
 // choice.
 class Graph {
 public:
-    explicit Graph(int lanes, Arithmetic arithmetic = {})
-        : lanes_(lanes), arithmetic_(arithmetic) {}
+    // An element fills one lane, or several.
+    explicit Graph(int lanes, Arithmetic arithmetic = {}, int lanesPerElement = 1)
+        : lanes_(lanes), lanesPerElement_(lanesPerElement), arithmetic_(arithmetic) {}
+    // An empty one for the pairs of `g`, on vectors of twice as many lanes.
+    static Graph forPairsOf(const Graph& g);
 
     int lanes() const { return lanes_; }
+    int lanesPerElement() const { return lanesPerElement_; }
+    bool ofPairs() const { return ofPairs_; }
     const Arithmetic& arithmetic() const { return arithmetic_; }
     bool wide(Ref ref) const { return !ref.isZero() && node(ref).wide; }
     const std::vector<Node>& nodes() const { return nodes_; }
@@ -125,6 +134,11 @@ public:
 
     void store(int first, int second, Ref value, LanePattern negated = {});
     const std::vector<Output>& outputs() const { return outputs_; }
+
+    // As they are, for a stage that has no sum to simplify.
+    Ref append(Node node, const LaneConstant& constant = {});
+    void append(Output output) { outputs_.push_back(std::move(output)); }
+
     // A difference that only goes out, and with the other sign, is taken the other way round: the
     // last step where no factor takes signs along.
     void turnDifferences();
@@ -140,10 +154,12 @@ private:
     bool computesWide(const Node& node) const;
     bool sameFactor(Ref a, Ref b) const;
     int internConstant(const LaneConstant& c);
+    std::vector<int> elements(int first, int second) const;
     Ref intern(Node node);
 
-    using Key = std::tuple<Op, Ref, Ref, int, int, int, LanePattern>;
-    int lanes_;
+    using Key = std::tuple<Op, Ref, Ref, int, std::vector<int>, LanePattern, bool>;
+    int lanes_, lanesPerElement_;
+    bool ofPairs_ = false;
     Arithmetic arithmetic_;
     std::vector<Node> nodes_;
     std::map<Key, int> index_;

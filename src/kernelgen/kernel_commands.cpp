@@ -12,6 +12,7 @@
 #include "dft/complex/complex_kernels.h"
 #include "dft/real/real_kernels.h"
 #include "hartley/hartley_kernels.h"
+#include "kernelgen/candidates.h"
 #include "kernelgen/program.h"
 #include "kernelgen/report.h"
 #include "wht/wht_kernels.h"
@@ -55,13 +56,13 @@ auto columnsFor(bool paired) {
 // The operations as they are printed, in execution order.
 std::string dumpProgram(const Graph& graph, const Element& element, const Ports& ports,
                         const ScheduleChoice& choice) {
-    const auto printed = program(graph, element, ports, choice.pairing);
-    printed->scales();   // names what stores refer to
+    Program printed = program(graph, element, ports, choice.pairings);
+    printed.scales();   // names what stores refer to
     std::string text;
-    for (const int number : schedule(printed->operands(), choice)) {
-        const Operation& operation = printed->operations()[number];
-        text += operation.name + " = " + printed->expression(number) + "\n";
-        for (const int output : operation.outputs) text += printed->store(output);
+    for (const int number : schedule(printed.operands(), choice)) {
+        const Operation& operation = printed.operations()[number];
+        text += operation.name + " = " + printed.expression(number) + "\n";
+        for (const int output : operation.outputs) text += printed.store(output);
     }
     return text;
 }
@@ -104,11 +105,11 @@ std::vector<ScheduleChoice> candidates(std::string_view source, int length, cons
     const KernelFamily& family = kernelFamily(source);
     if (!family.graph)
         throw std::invalid_argument(std::string(source) + " kernels have no schedules");
-    const bool paired = target.vectorBytes > 16 && family.inPairs;
-    if (!paired) return winner.empty() ? scheduleCandidates() : std::vector<ScheduleChoice>();
+    const Graph graph = family.graph(length, element, target, false);
+    const int times = family.inPairs ? pairingsToFill(graph, element.doublePrecision, target) : 0;
+    if (times == 0) return winner.empty() ? scheduleCandidates() : std::vector<ScheduleChoice>();
     if (!winner.empty()) return orderCandidates(ScheduleChoice::parse(winner));
-    return pairingCandidates(family.graph(length, element, target, false),
-                             family.choice(length, element, target));
+    return pairingCandidates(graph, family.choice(length, element, target), times);
 }
 
 std::string explain(std::string_view source, int length, const Element& element) {
@@ -120,19 +121,19 @@ std::string explain(std::string_view source, int length, const Element& element)
     for (const Target& target : targets()) {
         const Graph graph = family.graph(length, element, target, false);
         const ScheduleChoice choice = family.choice(length, element, target);
-        const auto ports = family.ports(graph.lanes(), element);
-        const auto printed = program(graph, element, *ports, choice.pairing);
-        const auto operands = printed->operands();
+        const auto ports = family.ports(element);
+        const Program printed = program(graph, element, *ports, choice.pairings);
+        const auto operands = printed.operands();
         out << target.name << '\n'
             << "  schedule         " << choice.text() << '\n'
             << "  reloads          " << countReloads(operands, schedule(operands, choice),
                                                      target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
-        const OperationCounts counts = printed->counts();
+        const OperationCounts counts = printed.counts();
         for (const auto& [name, member] : columnsFor(counts.pairs > 0))
             out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
         if (counts.pairs > 0)
-            out << "  in all           " << printed->operations().size()
+            out << "  in all           " << printed.operations().size()
                 << " operations instead of " << graph.liveNodes().size() << ", and stores\n";
     }
     return out.str();
@@ -145,7 +146,7 @@ std::string dump(std::string_view stage, std::string_view source, int length,
     const Graph graph = family.graph(length, element, target, false);
     const ScheduleChoice choice = family.choice(length, element, target);
     if (stage == "program")
-        return dumpProgram(graph, element, *family.ports(graph.lanes(), element), choice);
+        return dumpProgram(graph, element, *family.ports(element), choice);
     const std::vector<int> scheduled = schedule(graph, choice);
     if (stage == "schedule") return dumpText(graph, scheduled);
     if (stage == "dot") return dumpDot(graph, scheduled);
@@ -166,9 +167,9 @@ std::string operationCountTable(const Target& target) {
         const KernelFamily& family = kernelFamily(source);
         if (!family.graph) continue;
         const Graph graph = family.graph(length, *element, target, false);
-        const auto ports = family.ports(graph.lanes(), *element);
+        const auto ports = family.ports(*element);
         const ScheduleChoice choice = family.choice(length, *element, target);
-        const OperationCounts counts = program(graph, *element, *ports, choice.pairing)->counts();
+        const OperationCounts counts = program(graph, *element, *ports, choice.pairings).counts();
         out << source << ' ' << length << ' ' << element->suffix;
         for (const auto& [name, member] : shown) out << ' ' << counts.*member;
         out << '\n';

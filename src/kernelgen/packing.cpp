@@ -10,7 +10,7 @@ namespace {
 int loadedElement(const Graph& g, Lane lane) {
     const Node& node = g.node(lane.vector);
     if (node.op != Op::load) return -1;
-    return lane.index == 0 ? node.first : node.second;
+    return node.elements[lane.index];
 }
 
 Ref sumOf(Graph& g, std::span<const Ref> terms) {

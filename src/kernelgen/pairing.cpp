@@ -57,8 +57,8 @@ private:
         const int nodes = static_cast<int>(graph_.nodes().size());
         std::vector<int> itemOf;   // by element
         for (std::size_t i = 0; i < graph_.outputs().size(); ++i) {
-            const auto element = static_cast<std::size_t>(std::max(
-                graph_.outputs()[i].first, graph_.outputs()[i].second));
+            const auto element =
+                static_cast<std::size_t>(std::ranges::max(graph_.outputs()[i].elements));
             if (itemOf.size() <= element) itemOf.resize(element + 1, -1);
             itemOf[element] = nodes + static_cast<int>(i);
         }
@@ -180,7 +180,8 @@ private:
     void exchange(int item, int most) {
         std::vector<int> waiting = {item}, done;
         const auto seen = [&](int each) { return std::ranges::find(done, each) != done.end(); };
-        for (std::size_t at = 0; at < waiting.size() && static_cast<int>(done.size()) < most; ++at) {
+        for (std::size_t at = 0; at < waiting.size(); ++at) {
+            if (static_cast<int>(done.size()) >= most) return;
             const int here = waiting[at], partner = state_.pairing().partner[here];
             if (partner < 0 || seen(here) || seen(partner)) continue;
             done.push_back(here);

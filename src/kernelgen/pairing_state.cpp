@@ -17,9 +17,10 @@ bool isSum(const Node& node) { return node.op == Op::add || node.op == Op::sub; 
 // The elements of two loads or two outputs one after the other; -1 where there is none.
 template <class Access>
 bool contiguous(const Access& low, const Access& high) {
-    int next = low.first + 1;
-    for (const int element : {low.second, high.first, high.second})
-        if (element >= 0 && element != next++) return false;
+    int next = std::max(low.elements.front(), 0);
+    for (const Access* half : {&low, &high})
+        for (const int element : half->elements)
+            if (element >= 0 && element != next++) return false;
     return true;
 }
 
@@ -58,6 +59,7 @@ void PairingState::numberKinds(const Graph& g) {
         LanePattern shared;
         const bool zeros = std::ranges::count(node.pattern, -1) > 0;
         if (node.op == Op::select && (g.lanes() != 2 || zeros)) shared = node.pattern;
+        if (node.op == Op::join) shared = node.pattern;
         if (node.op == Op::subtract) shared = {std::ranges::count(node.pattern, 0) == 0};
         const Op op = node.op == Op::sub ? Op::add : node.op;
         kinds_.push_back(op == Op::load ? 0 : number({static_cast<int>(op), node.wide, shared}));
@@ -81,13 +83,17 @@ void PairingState::collectOperands(const Graph& g) {
     for (const Output& output : g.outputs()) operands_.push_back({output.node, -1});
 }
 
-// The longest way from a load. Outputs are all of one: nothing depends on them.
+// The longest way from a load, and of moves in a row: these stand before some operations of one
+// level and not before others. Outputs are all of one: nothing depends on them.
 void PairingState::findLevels() {
     levels_.resize(operands_.size());
     for (const int item : items_) {
         if (item >= static_cast<int>(graph_.nodes().size())) break;
+        const bool move = graph_.nodes()[item].move;
         for (const int operand : operands_[item])
-            if (operand >= 0) levels_[item] = std::max(levels_[item], levels_[operand] + 1);
+            if (operand >= 0)
+                levels_[item] = std::max(levels_[item], move ? levels_[operand].afterMove()
+                                                             : levels_[operand].after());
     }
 }
 

@@ -37,6 +37,13 @@ public:
     void rollBack();
 
 private:
+    struct Level {
+        int operations = 0, moves = 0;
+
+        Level after() const { return {operations + 1, 0}; }
+        Level afterMove() const { return {operations, moves + 1}; }
+        friend auto operator<=>(const Level&, const Level&) = default;
+    };
     struct Change {
         int item, partner;
         char upper;
@@ -61,7 +68,8 @@ private:
     std::vector<int> kinds_;   // 0: a load; the same number: may be paired
     std::vector<std::array<int, 2>> operands_;
     std::vector<std::vector<int>> users_;
-    std::vector<int> levels_, items_;
+    std::vector<Level> levels_;
+    std::vector<int> items_;
     Pairing pairing_;
     int cost_ = 0;
     std::vector<char> counted_;   // whether the vector of an item is part of the cost

@@ -3,8 +3,7 @@
 #pragma once
 
 #include <string>
-
-#include "kernelgen/graph.h"
+#include <vector>
 
 namespace kfm::kernelgen {
 
@@ -12,13 +11,10 @@ class Ports {
 public:
     virtual ~Ports() = default;
 
-    // Expressions. Two loads are the halves of a vector, which come one by one if they are `apart`.
-    virtual std::string load(const Node& node) const = 0;
-    virtual std::string load(const Node& low, const Node& high, bool apart) const = 0;
-    // Statements.
-    virtual std::string store(const Output& output, const std::string& value) const = 0;
-    virtual std::string store(const Output& low, const Output& high,
-                              const std::string& value) const = 0;
+    // An expression for a vector of elements, whose halves come one by one if they are `apart`.
+    virtual std::string load(const std::vector<int>& elements, bool apart) const = 0;
+    // A statement.
+    virtual std::string store(const std::vector<int>& elements, const std::string& value) const = 0;
 
     // The function that fetches a row of constants where there are lanes.
     virtual std::string rowAccess() const = 0;

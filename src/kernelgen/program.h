@@ -2,9 +2,10 @@
 // are made when they are printed, so that constants stand in the order of their use.
 #pragma once
 
-#include <memory>
+#include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "kernelgen/constant_table.h"
@@ -19,7 +20,7 @@ namespace kfm::kernelgen {
 struct Operation {
     std::string name;
     std::vector<int> operands;   // operations by number, all smaller than its own
-    std::optional<Op> op = {};       // none: a move between halves
+    Op op;
     bool paired = false;             // works on both halves
     std::vector<int> outputs = {};   // what is stored from it, by number
 
@@ -29,36 +30,51 @@ struct Operation {
 
 class Program {
 public:
-    virtual ~Program() = default;
+    // An operation for each live node.
+    Program(Graph g, const registry::Element& element, const Ports& ports);
 
     const std::vector<Operation>& operations() const { return operations_; }
     const std::vector<ConstantTable>& tables() const { return tables_; }
 
     // What an operation computes, as an expression of the names of its operands.
-    virtual std::string expression(int operation) = 0;
+    std::string expression(int operation);
     // The statement that stores an output.
-    virtual std::string store(int output) = 0;
+    std::string store(int output);
     // Scale factors in other precisions and with other signs than `scale`, made once; empty where
     // nothing is scaled.
-    virtual std::string scales() = 0;
+    std::string scales();
 
     std::vector<std::vector<int>> operands() const;   // of all operations
     OperationCounts counts() const;
 
-protected:
+private:
+    // How a factor differs from `scale`: for wide nodes, for both halves, and with which signs.
+    using Signs = std::tuple<bool, bool, LanePattern>;
+
+    const Node& node(int number) const { return g_.nodes()[number]; }
+    bool inHalf(const Output& output) const;
+    // Whether both halves of a value are in a vector that its user takes for one half.
+    bool sharesVector(const Node& node) const;
+    ConstantTable& table(const Node& node);
+    std::string operand(const Node& user, Ref ref) const;
+    std::string product(const Node& node, const std::string& a);
+    std::string subtracted(const Node& node, const std::string& a);
+    std::string selected(const Node& node, const std::string& a, const std::string& b) const;
+    Signs signsOf(const Output& output) const;
+    std::string scaleValue(const Signs& signs);
+
+    const Graph g_;
+    const Ports& ports_;
+    const bool doublePrecision_;
+    std::vector<int> nodes_;   // by operation
     std::vector<Operation> operations_;
     std::vector<ConstantTable> tables_;
+    std::map<Signs, std::string> scales_;
 };
 
-// An operation for each live node of a graph.
-std::unique_ptr<Program> narrowProgram(const Graph& g, const registry::Element& element,
-                                       const Ports& ports);
-// An operation for each pair of nodes, and for what is left alone.
-std::unique_ptr<Program> wideProgram(const Graph& g, const registry::Element& element,
-                                     const Ports& ports, Pairing pairing);
-// The one that a choice asks for. A graph of one lane fills no vector that could be half of
-// another.
-std::unique_ptr<Program> program(const Graph& g, const registry::Element& element,
-                                 const Ports& ports, const std::optional<PairingChoice>& choice);
+// As often as a choice says with operations joined in pairs. A graph of one lane fills no vector
+// that could be half of another.
+Program program(Graph g, const registry::Element& element, const Ports& ports,
+                const std::vector<PairingChoice>& pairings);
 
 }   // namespace kfm::kernelgen

@@ -146,7 +146,7 @@ void storeLanes(Graph& g, std::span<const LaneOutput> outputs) {
         vector.negative[value.index] = value.negative();
     }
     const std::vector<double> zeros(outputs.size());
-    const auto silence = evaluateNodes<double>(g, 1, zeros);
+    const auto silence = evaluateNodes<double>(g, zeros);
     for (const auto& [ref, vector] : vectors) {
         LanePattern subtracted(g.lanes()), flipped(g.lanes());
         for (int lane = 0; lane < g.lanes(); ++lane) {

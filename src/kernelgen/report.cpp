@@ -9,12 +9,19 @@ namespace {
 
 std::string operand(Ref ref) { return (ref.negative() ? "-t" : "t") + std::to_string(ref.node()); }
 
+// Without what is none at the end.
+std::string list(std::vector<int> numbers) {
+    while (!numbers.empty() && numbers.back() < 0) numbers.pop_back();
+    std::string text;
+    for (const int number : numbers) text += (text.empty() ? "" : ", ") + std::to_string(number);
+    return text;
+}
+
 std::string label(const Graph& g, const Node& node) {
     std::ostringstream out;
     switch (node.op) {
     case Op::load:
-        out << "load " << node.first;
-        if (node.second >= 0) out << ", " << node.second;
+        out << "load " << list(node.elements);
         break;
     case Op::add:
         out << operand(node.a) << " + " << operand(node.b);
@@ -36,6 +43,10 @@ std::string label(const Graph& g, const Node& node) {
     case Op::subtract:
         out << "0 - " << operand(node.a) << " in lanes";
         for (const int lane : node.pattern) out << ' ' << lane;
+        break;
+    case Op::join:
+        out << "halves " << list(node.pattern) << " of " << operand(node.a);
+        if (!node.b.isZero()) out << ", " << operand(node.b);
         break;
     case Op::widen:
     case Op::round:
@@ -63,6 +74,9 @@ void OperationCounts::add(Op op) {
     case Op::select:
         ++shuffles;
         break;
+    case Op::join:
+        ++moves;
+        break;
     case Op::flip:
         ++signChanges;
         break;
@@ -86,8 +100,8 @@ namespace {
 std::vector<std::vector<char>> neededLanes(const Graph& g) {
     std::vector<std::vector<char>> needed(g.nodes().size(), std::vector<char>(g.lanes()));
     for (const Output& output : g.outputs()) {
-        if (output.first >= 0) needed[output.node].front() = 1;
-        if (output.second >= 0) needed[output.node].back() = 1;
+        for (int lane = 0; lane < g.lanes(); ++lane)
+            if (output.elements[lane / g.lanesPerElement()] >= 0) needed[output.node][lane] = 1;
     }
     for (int i = static_cast<int>(g.nodes().size()) - 1; i >= 0; --i) {
         const Node& node = g.nodes()[i];
@@ -149,9 +163,7 @@ std::string dumpText(const Graph& g, const std::vector<int>& order) {
     for (const int index : order)
         out << 't' << index << " = " << label(g, g.nodes()[index]) << '\n';
     for (const Output& output : g.outputs()) {
-        out << "store " << output.first;
-        if (output.second >= 0) out << ", " << output.second;
-        out << " = t" << output.node << " signs";
+        out << "store " << list(output.elements) << " = t" << output.node << " signs";
         for (const int lane : output.negated) out << (lane ? " -" : " +");
         out << '\n';
     }

@@ -155,9 +155,11 @@ private:
 
 ScheduleChoice ScheduleChoice::parse(std::string_view text) {
     ScheduleChoice choice;
-    const std::size_t slash = std::min(text.find('/'), text.size());
-    if (slash < text.size()) choice.pairing = PairingChoice::parse(text.substr(slash + 1));
-    std::istringstream in{std::string(text.substr(0, slash))};
+    std::istringstream parts{std::string(text)};
+    std::string part;
+    std::getline(parts, part, '/');
+    std::istringstream in{part};
+    while (std::getline(parts, part, '/')) choice.pairings.push_back(PairingChoice::parse(part));
     char colon[3];
     std::string pin;
     in >> choice.leaf >> colon[0] >> choice.seed >> colon[1] >> choice.transposed >> colon[2];
@@ -174,53 +176,8 @@ std::string ScheduleChoice::text() const {
     std::ostringstream out;
     out << leaf << ':' << seed << ':' << transposed << ':' << pinNames[static_cast<int>(pin)] << ':'
         << relaunder;
-    if (pairing) out << '/' << pairing->text();
+    for (const PairingChoice& pairing : pairings) out << '/' << pairing.text();
     return out.str();
-}
-
-// Wide where winners were found: with sums pinned. Relaundering helps a few long kernels.
-std::vector<ScheduleChoice> scheduleCandidates() {
-    constexpr int everything = 100000;
-    std::vector<ScheduleChoice> candidates;
-    const auto addOrders = [&](Pin pin, std::initializer_list<int> leaves) {
-        for (const int leaf : leaves)
-            for (const bool transposed : {false, true})
-                candidates.push_back({leaf, 0, transposed, pin, false});
-    };
-    addOrders(Pin::none, {24, 80});
-    addOrders(Pin::sums, {6, 24, 40, 80, 160, everything});
-    addOrders(Pin::all, {6, 24, 80});
-    for (const int seed : {1, 2})
-        for (const int leaf : {24, 80}) candidates.push_back({leaf, seed, true, Pin::sums, false});
-    for (const Pin pin : {Pin::sums, Pin::all}) candidates.push_back({24, 0, true, pin, true});
-    return candidates;
-}
-
-std::vector<ScheduleChoice> pairingCandidates(const Graph& g, const ScheduleChoice& recorded) {
-    constexpr std::size_t pairings = 2;
-    std::vector<std::optional<PairingChoice>> ways = {std::nullopt};
-    if (g.lanes() > 1)
-        for (PairingChoice pairing : cheapestPairings(g, pairings))
-            for (const bool apart : {false, true}) {
-                pairing.loadsApart = apart;
-                ways.push_back(pairing);
-            }
-    std::vector<ScheduleChoice> candidates = {recorded};
-    for (ScheduleChoice order : {recorded, ScheduleChoice{24, 0, true, Pin::sums, false}})
-        for (const std::optional<PairingChoice>& pairing : ways) {
-            order.pairing = pairing;
-            candidates.push_back(order);
-        }
-    return candidates;
-}
-
-std::vector<ScheduleChoice> orderCandidates(const ScheduleChoice& winner) {
-    std::vector<ScheduleChoice> candidates = {{24, 0, false, Pin::sums, false},
-                                              {80, 0, true, Pin::sums, false},
-                                              {6, 0, false, Pin::all, false},
-                                              {80, 0, false, Pin::none, false}};
-    for (ScheduleChoice& candidate : candidates) candidate.pairing = winner.pairing;
-    return candidates;
 }
 
 std::vector<int> schedule(const std::vector<std::vector<int>>& operands,

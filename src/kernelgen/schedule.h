@@ -9,7 +9,6 @@
 // recorded per kernel and target. A ScheduleChoice is one row of that record.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,9 +27,10 @@ struct ScheduleChoice {
     bool transposed = false;  // schedule the reversed graph and reverse the order
     Pin pin = Pin::none;      // after which nodes the compiler must keep the order
     bool relaunder = false;   // hide the constants anew every few nodes: none is kept and spilled
-    std::optional<PairingChoice> pairing = {};   // of operations, where vectors are wide enough
+    std::vector<PairingChoice> pairings = {};   // of operations, one after the other
 
-    static ScheduleChoice parse(std::string_view text);   // "24:0:0:none:0" or "24:0:0:none:0/1:1:100"
+    // "24:0:0:none:0", or with pairings "24:0:0:none:0/1:1:60".
+    static ScheduleChoice parse(std::string_view text);
     std::string text() const;
 };
 
@@ -42,12 +42,6 @@ ScheduleChoice recordedChoice(const Rows& rows, const Target& target, Matches ma
             if (row.target == name && matches(row)) return ScheduleChoice::parse(row.choice);
     return {};
 }
-
-std::vector<ScheduleChoice> scheduleCandidates();
-// The same for vectors that pairs fill, in two rounds: the cheapest pairings, and none, in the
-// order on record and in one that often wins; then other orders of the winner.
-std::vector<ScheduleChoice> pairingCandidates(const Graph& g, const ScheduleChoice& recorded);
-std::vector<ScheduleChoice> orderCandidates(const ScheduleChoice& winner);
 
 // Things in execution order, from the things that each is computed from (smaller numbers).
 std::vector<int> schedule(const std::vector<std::vector<int>>& operands,

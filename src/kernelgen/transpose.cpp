@@ -22,9 +22,8 @@ struct Partial {
 
 class Transposition {
 public:
-    // Loads fill the whole vector, or lane 0 from their first and lane 1 from their second element.
-    Transposition(const Graph& network, Graph& target, bool wholeLoads)
-        : network_(network), target_(target), lanes_(network.lanes()), wholeLoads_(wholeLoads),
+    Transposition(const Graph& network, Graph& target)
+        : network_(network), target_(target), lanes_(network.lanes()),
           parts_(network.nodes().size()), carries_(network.nodes().size()) {
         markCarryingLanes();
     }
@@ -55,7 +54,7 @@ public:
             const Node& node = network_.nodes()[i];
             if (node.op != Op::load || sums_[i].value.isZero()) continue;
             for (int lane = 0; lane < lanes_; ++lane) {
-                const int element = lane == 0 ? node.first : node.second;
+                const int element = node.elements[lane];
                 if (element >= 0 && sums_[i].meant[lane])
                     terms[element].push_back({sums_[i].value, lane});
             }
@@ -77,7 +76,7 @@ private:
         const auto operand = [&](Ref ref, int from) {
             return !ref.isZero() && carries_[ref.node()][from];
         };
-        if (node.op == Op::load) return wholeLoads_ || lane == 0 || node.second >= 0;
+        if (node.op == Op::load) return node.elements[lane / network_.lanesPerElement()] >= 0;
         if (node.op != Op::select) return operand(node.a, lane) || operand(node.b, lane);
         const int from = node.pattern[lane];
         return from >= 0 && operand(from < lanes_ ? node.a : node.b, from % lanes_);
@@ -202,15 +201,13 @@ private:
     const Graph& network_;
     Graph& target_;
     int lanes_;
-    bool wholeLoads_;
     std::vector<std::vector<Part>> parts_;
     std::vector<std::vector<char>> carries_;
     std::vector<Partial> sums_;
 };
 
-Transposition run(const Graph& network, std::span<const WeightedOutput> outputs, Graph& target,
-                  bool wholeLoads) {
-    Transposition transposition(network, target, wholeLoads);
+Transposition run(const Graph& network, std::span<const WeightedOutput> outputs, Graph& target) {
+    Transposition transposition(network, target);
     LanePattern own(network.lanes());
     std::iota(own.begin(), own.end(), 0);
     for (const auto& [output, value, lanes] : outputs)
@@ -223,12 +220,12 @@ Transposition run(const Graph& network, std::span<const WeightedOutput> outputs,
 
 std::vector<Lane> transposedLanes(const Graph& network, int elements,
                                   std::span<const WeightedOutput> outputs, Graph& target) {
-    return run(network, outputs, target, false).elements(elements);
+    return run(network, outputs, target).elements(elements);
 }
 
 std::vector<Ref> transposed(const Graph& network, std::span<const Ref> inputs,
                             std::span<const WeightedOutput> outputs, Graph& target) {
-    const Transposition transposition = run(network, outputs, target, true);
+    const Transposition transposition = run(network, outputs, target);
     std::vector<Ref> result;
     for (const Ref input : inputs) result.push_back(transposition.of(input).value);
     return result;

@@ -32,7 +32,7 @@ TEST_P(ComplexGraph, IsTheDefinition) {
     const auto [n, single, inverse] = GetParam();
     std::vector<Wide> x(2 * n);
     for (int i = 0; i < 2 * n; ++i) x[i] = Wide((i * 7919 + 104729) % 1009) / 512 - 1;
-    const std::vector<Wide> y = evaluate<Wide>(kernelGraph(n, single, inverse), 2, x);
+    const std::vector<Wide> y = evaluate<Wide>(kernelGraph(n, single, inverse), x);
     for (long k = 0; k < n; ++k) {
         Wide re = 0, im = 0;
         for (long i = 0; i < n; ++i) {
@@ -117,7 +117,7 @@ void expectBitsOfTheGraph(const kfm::registry::Function& function, bool inverse)
     for (int i = 0; i < 2 * n; ++i) x[i] = Real((i * 7919 + 104729) % 1009) / 3 - 100;
     using Kernel = KfmStatus (*)(const Real*, Real*, int);
     ASSERT_EQ(reinterpret_cast<Kernel>(function.address)(x.data(), y.data(), kfmScaleNone), kfmOk);
-    EXPECT_EQ(evaluate<Real>(kernelGraph(n, sizeof(Real) == 4, inverse), 2, x), y) << function.name;
+    EXPECT_EQ(evaluate<Real>(kernelGraph(n, sizeof(Real) == 4, inverse), x), y) << function.name;
 }
 
 TEST(CompiledKernels, GiveTheBitsOfTheirGraphs) {

@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 bool dependsOnSlot(const Graph& g, int node, int slot) {
     const Node& n = g.nodes()[node];
-    if (n.op == Op::load) return n.first == slot;
+    if (n.op == Op::load) return n.elements[0] == slot;
     return std::ranges::any_of(std::array{n.a, n.b}, [&](Ref operand) {
         return !operand.isZero() && dependsOnSlot(g, operand.node(), slot);
     });
@@ -65,8 +65,8 @@ TEST(Dct4TwiddleStages, Of32MayLeaveResultsInThePlaceOfProducts) {
             const Graph graph = kernelFamily(function).graph(
                 32, *registry::findElement(suffix), *findTarget("sse2-x86-64"), false);
             for (const Output& output : graph.outputs())
-                EXPECT_TRUE(dependsOnSlot(graph, output.node, output.first))
-                    << function << ' ' << output.first;
+                EXPECT_TRUE(dependsOnSlot(graph, output.node, output.elements[0]))
+                    << function << ' ' << output.elements[0];
         }
 }
 
@@ -78,7 +78,7 @@ void expectBitsOfTheGraph() {
         std::vector<Real> x(n), y(n);
         for (Real& value : x) value = static_cast<Real>(random() / 2147483648.0 - 1);
         dct4::fixedTransform<Real, n>(x.data(), y.data());
-        const std::vector<Real> result = evaluate<Real>(graph, graph.lanes(), x);
+        const std::vector<Real> result = evaluate<Real>(graph, x);
         for (int i = 0; i < n; ++i) ASSERT_EQ(result[i], y[i]) << n << " at " << i;
     }
 }

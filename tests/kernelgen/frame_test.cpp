@@ -30,7 +30,8 @@ TEST(Frame, RenewsDeclarationsAndKeepsTheTextAround) {
     EXPECT_NE(header.find("(const Kfm64fc *src, Kfm64fc *dst, int length, int flag);\n"
                           "/* end of declarations */\n/* inverse */\n"),
               std::string::npos);
-    EXPECT_NE(header.find("(const Kfm64f *src, Kfm64f *dst, int order, int flag, Kfm8u *buffer);\n"),
+    EXPECT_NE(header.find("(const Kfm64f *src, Kfm64f *dst, int order, int flag, "
+                          "Kfm8u *buffer);\n"),
               std::string::npos);
     EXPECT_TRUE(header.ends_with("/* the end */\n"));
     EXPECT_EQ(kernelgen::withDeclarations(header), header);

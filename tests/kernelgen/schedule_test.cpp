@@ -6,6 +6,7 @@
 #include <set>
 
 #include "dft/complex/complex_kernels.h"
+#include "kernelgen/candidates.h"
 
 using namespace kfm::kernelgen;
 

@@ -20,7 +20,7 @@ void store(Graph& g, const std::vector<Ref>& rows) {
 
 // Slots k and m/2 + k: a_k and b_k; results are rows.
 Graph inputGraph(int m, int lanes, std::vector<Ref> (*rows)(const std::vector<Complex>&)) {
-    Graph g(lanes);
+    Graph g(lanes, {}, lanes);
     std::vector<Complex> u;
     for (int k = 0; k < m / 2; ++k) u.push_back({g.load(k), -g.load(m / 2 + k)});
     store(g, rows(skewDft(g, u)));
@@ -29,7 +29,7 @@ Graph inputGraph(int m, int lanes, std::vector<Ref> (*rows)(const std::vector<Co
 
 // Slots 2s and 2s+1: input s. At the root the upper half of the results is conjugated.
 Graph twiddleGraph(int divisor, int lanes, bool root) {
-    Graph g(lanes);
+    Graph g(lanes, {}, lanes);
     std::vector<Complex> z;
     for (int s = 0; s < divisor; ++s) z.push_back({g.load(2 * s), g.load(2 * s + 1)});
     z = dft(g, z);
@@ -40,7 +40,7 @@ Graph twiddleGraph(int divisor, int lanes, bool root) {
 
 // Slots r and d+r: P_r and R_r; results k and d+k: the run k from its start and from its end.
 Graph outputGraph(int d, int lanes) {
-    Graph g(lanes);
+    Graph g(lanes, {}, lanes);
     std::vector<Ref> p, rotated;
     for (int r = 0; r < d; ++r) p.push_back(g.load(r));
     for (int r = 0; r < d; ++r) rotated.push_back(g.load(d + r));

@@ -125,7 +125,8 @@ void scalar(Graph& g, int n) {
 
 Graph fixedTransformGraph(int n, bool doublePrecision) {
     const int lanes = doublePrecision ? 2 : 4;
-    Graph g(n < 4 * lanes ? 1 : lanes);
+    const int used = n < 4 * lanes ? 1 : lanes;
+    Graph g(used, {}, used);
     if (g.lanes() == 1)
         scalar(g, n);
     else if (n == 16 && lanes == 4)

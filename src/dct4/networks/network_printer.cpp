@@ -12,33 +12,28 @@ using namespace kernelgen;
 // Frames see to it that no result is stored in the place of an input that is still to be read.
 class SlotPorts : public Ports {
 public:
-    std::string load(const Node& node) const override {
-        return "in.load(" + std::to_string(node.first) + ")";
+    std::string load(const std::vector<int>& elements, bool apart) const override {
+        return (apart ? "in.loadApart(" : "in.load(") + slots(elements) + ")";
     }
-    std::string load(const Node& low, const Node& high, bool apart) const override {
-        return (apart ? "in.loadApart(" : "in.load(") + slots(low, high) + ")";
-    }
-    std::string store(const Output& output, const std::string& value) const override {
-        return "out.store(" + std::to_string(output.first) + ", " + value + ");\n";
-    }
-    std::string store(const Output& low, const Output& high,
-                      const std::string& value) const override {
-        return "out.store(" + slots(low, high) + ", " + value + ");\n";
+    std::string store(const std::vector<int>& elements, const std::string& value) const override {
+        return "out.store(" + slots(elements) + ", " + value + ");\n";
     }
     std::string rowAccess() const override { return "constantRow<Vector>"; }
     bool scaled() const override { return false; }
     bool overlapping() const override { return false; }
 
 private:
-    template <class Access>
-    static std::string slots(const Access& low, const Access& high) {
-        return std::to_string(low.first) + ", " + std::to_string(high.first);
+    static std::string slots(const std::vector<int>& elements) {
+        std::string result;
+        for (const int slot : elements)
+            result += (result.empty() ? "" : ", ") + std::to_string(slot);
+        return result;
     }
 };
 
 }   // namespace
 
-std::unique_ptr<Ports> slotPorts(int, const registry::Element&) {
+std::unique_ptr<Ports> slotPorts(const registry::Element&) {
     return std::make_unique<SlotPorts>();
 }
 

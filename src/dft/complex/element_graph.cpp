@@ -29,7 +29,7 @@ void elementGraph(Graph& g, const Plan& plan, Sign sign) {
 }
 
 Graph doubleGraph(const Plan& plan, bool inverse) {
-    Graph g(2);
+    Graph g(2, {}, 2);
     elementGraph(g, plan, inverse ? Sign::plus : Sign::minus);
     return g;
 }

@@ -80,7 +80,7 @@ const MappingRow& find(LaneMapping mapping) {
 }   // namespace
 
 Graph singleGraph(const SinglePrecisionRow& row, bool inverse) {
-    Graph g(4);
+    Graph g(4, {}, 2);
     find(row.lanes).build(g, row.plan, inverse ? Sign::plus : Sign::minus);
     return g;
 }
