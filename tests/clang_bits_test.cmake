@@ -19,6 +19,12 @@ file(REMOVE_RECURSE ${scratch})
 file(MAKE_DIRECTORY ${scratch})
 execute_process(COMMAND ${clang} -std=c++20 -O2 -Wall -Wextra -Werror -fPIC -shared ${flags}
     -I${include} -I${src} ${sources} -o ${scratch}/kernels.so COMMAND_ERROR_IS_FATAL ANY)
+# A kernel is straight-line code: what a compiler does not put in place it would have to call.
+execute_process(COMMAND ${nm} --defined-only ${scratch}/kernels.so
+    OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+if(symbols MATCHES "_ZNK?St[^\n]*")
+    message(FATAL_ERROR "kernels call a function of the standard library: ${CMAKE_MATCH_0}")
+endif()
 list(JOIN filters : filter)
 # By a relative name: a space would end a path in LD_PRELOAD.
 execute_process(COMMAND ${CMAKE_COMMAND} -E env LD_PRELOAD=./kernels.so

@@ -3,7 +3,6 @@
 // the sum that the plain loop over strides 1, 2, 4 ... forms, whatever the blocking and the target.
 #pragma once
 
-#include <array>
 #include <type_traits>
 #include <utility>
 
@@ -66,17 +65,23 @@ KFM_INLINE inline void transformVectors(Load load, Store store) {
     }
 }
 
+// Where the difference is taken: a table without functions, which a compiler might call.
+template <class Real, int count, int distance>
+struct DifferenceSigns {
+    Real lanes[count] = {};
+
+    constexpr DifferenceSigns() {
+        for (int i = 0; i < count; ++i) lanes[i] = i & distance ? Real(-0.0) : Real(0.0);
+    }
+};
+
 // Lane i becomes its sum with lane i + distance, or its difference from lane i - distance.
 template <int distance, class Vector, class Real>
 KFM_INLINE inline Vector laneButterflies(Vector v) {
-    static constexpr auto signs = [] {
-        std::array<Real, sizeof(Vector) / sizeof(Real)> lanes{};
-        for (std::size_t i = 0; i < lanes.size(); ++i)
-            lanes[i] = i & distance ? Real(-0.0) : Real(0.0);
-        return lanes;
-    }();
+    constexpr int count = sizeof(Vector) / sizeof(Real);
+    static constexpr DifferenceSigns<Real, count, distance> signs;
     return simd::add(simd::exchange<distance>(v),
-                     simd::flip(v, simd::loadUnaligned<Vector>(signs.data())));
+                     simd::flip(v, simd::loadUnaligned<Vector>(signs.lanes)));
 }
 
 // Across the 2^order lowest lanes, log2 of their distance `done`, done + 1, ...
