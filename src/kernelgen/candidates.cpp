@@ -9,12 +9,12 @@ namespace {
 void addPairings(const Graph& g, const std::vector<PairingChoice>& before, int times,
                  std::vector<std::vector<PairingChoice>>& ways) {
     constexpr std::size_t pairings = 2;
-    if (times == 0) return;
     for (PairingChoice pairing : cheapestPairings(g, pairings)) {
         std::vector<PairingChoice> way = before;
         way.push_back(pairing);
         ways.push_back(way);
-        addPairings(joinedGraph(g, pairOperations(g, pairing)), way, times - 1, ways);
+        if (times > 1)
+            addPairings(joinedGraph(g, pairOperations(g, pairing)), way, times - 1, ways);
         way.back().loadsApart = true;
         ways.push_back(way);
     }

@@ -9,12 +9,6 @@ namespace {
 
 std::string name(int node) { return "t" + std::to_string(node); }
 
-std::string list(const LanePattern& lanes) {
-    std::string text;
-    for (const int lane : lanes) text += (text.empty() ? "" : ", ") + std::to_string(lane);
-    return text;
-}
-
 bool anySet(const LanePattern& lanes) {
     return std::ranges::any_of(lanes, [](int lane) { return lane != 0; });
 }
@@ -88,14 +82,14 @@ std::string Program::expression(int operation) {
     case Op::mul:
         return product(what, a);
     case Op::flip:
-        return "flip(" + a + ", " + table(what).zeros(lanesOf(what.pattern, what.half)) + ")";
+        return flipped(what, a, lanesOf(what.pattern, what.half));
     case Op::select:
         return selected(what, a, b);
     case Op::subtract:
         return subtracted(what, a);
     case Op::join:
         return what.half ? "upper(" + a + ")"
-                         : "join<" + list(what.pattern) + ">(" + a + ", " + b + ")";
+                         : "join<" + listOf(what.pattern) + ">(" + a + ", " + b + ")";
     case Op::widen:
         return (paired ? "widenHalves(" : "widen(") + a + ")";
     case Op::round:
@@ -117,7 +111,11 @@ std::string Program::subtracted(const Node& node, const std::string& a) {
     if (std::ranges::all_of(lanes, [](int lane) { return lane; }))
         return "subtractFromZero(" + a + ")";
     const std::string kept = table(node).zeros(lanes, 0);
-    return "add(flip(" + a + ", " + table(node).zeros(lanes) + "), " + kept + ")";
+    return "add(" + flipped(node, a, lanes) + ", " + kept + ")";
+}
+
+std::string Program::flipped(const Node& like, const std::string& a, const LanePattern& lanes) {
+    return "flip(" + a + ", " + table(like).zeros(lanes) + ")";
 }
 
 // Halves of two lanes have a selector each, those of four share one.
@@ -130,8 +128,8 @@ std::string Program::selected(const Node& node, const std::string& a, const std:
         const bool ofB = lane >= whole && !(paired && part == 2);
         lane = lane % part + (ofB ? part : 0);
     }
-    if (paired && (b.empty() || a == b)) return "selectHalves<" + list(lanes) + ">(" + a + ")";
-    return (paired ? "selectHalves<" : "select<") + list(lanes) + ">(" + a + ", " +
+    if (paired && (b.empty() || a == b)) return "selectHalves<" + listOf(lanes) + ">(" + a + ")";
+    return (paired ? "selectHalves<" : "select<") + listOf(lanes) + ">(" + a + ", " +
            (b.empty() ? a : b) + ")";
 }
 
@@ -144,7 +142,7 @@ std::string Program::scaleValue(const Signs& signs) {
     const Node like = {.op = Op::flip, .half = half, .wide = wide};
     std::string value = wide ? "widen(scale)" : "scale";
     if (g_.ofPairs() && !half && !sharesVector(like)) value = "twice(" + value + ")";
-    return anySet(negated) ? "flip(" + value + ", " + table(like).zeros(negated) + ")" : value;
+    return anySet(negated) ? flipped(like, value, negated) : value;
 }
 
 std::string Program::scales() {
@@ -168,8 +166,7 @@ std::string Program::store(int number) {
     const Signs signs = signsOf(output);
     std::string value = operand(like, Ref::toNode(output.node));
     if (ports_.scaled()) value = "mul(" + value + ", " + scales_.at(signs) + ")";
-    else if (anySet(output.negated))
-        value = "flip(" + value + ", " + table(like).zeros(std::get<LanePattern>(signs)) + ")";
+    else if (anySet(output.negated)) value = flipped(like, value, std::get<LanePattern>(signs));
     return ports_.store(output.elements, from.wide ? "narrow(" + value + ")" : value);
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -59,6 +58,8 @@ private:
     std::string operand(const Node& user, Ref ref) const;
     std::string product(const Node& node, const std::string& a);
     std::string subtracted(const Node& node, const std::string& a);
+    // With other signs in some lanes, as a value that is wide and a half or not, like this node.
+    std::string flipped(const Node& like, const std::string& a, const LanePattern& lanes);
     std::string selected(const Node& node, const std::string& a, const std::string& b) const;
     Signs signsOf(const Output& output) const;
     std::string scaleValue(const Signs& signs);

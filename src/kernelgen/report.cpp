@@ -12,9 +12,7 @@ std::string operand(Ref ref) { return (ref.negative() ? "-t" : "t") + std::to_st
 // Without what is none at the end.
 std::string list(std::vector<int> numbers) {
     while (!numbers.empty() && numbers.back() < 0) numbers.pop_back();
-    std::string text;
-    for (const int number : numbers) text += (text.empty() ? "" : ", ") + std::to_string(number);
-    return text;
+    return listOf(numbers);
 }
 
 std::string label(const Graph& g, const Node& node) {
@@ -57,6 +55,12 @@ std::string label(const Graph& g, const Node& node) {
 }
 
 }   // namespace
+
+std::string listOf(const std::vector<int>& numbers) {
+    std::string text;
+    for (const int number : numbers) text += (text.empty() ? "" : ", ") + std::to_string(number);
+    return text;
+}
 
 void OperationCounts::add(Op op) {
     switch (op) {

@@ -29,6 +29,9 @@ int countScalarProducts(const Graph& g);
 int countReloads(const std::vector<std::vector<int>>& operands, const std::vector<int>& order,
                  int registers);
 
+// "1, 2, 3".
+std::string listOf(const std::vector<int>& numbers);
+
 // The nodes in the given order, a line each.
 std::string dumpText(const Graph& g, const std::vector<int>& order);
 // The graph in the language of graphviz.

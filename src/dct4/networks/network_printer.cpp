@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "kernelgen/emit.h"
+#include "kernelgen/report.h"
 
 namespace kfm::dct4 {
 namespace {
@@ -13,22 +14,14 @@ using namespace kernelgen;
 class SlotPorts : public Ports {
 public:
     std::string load(const std::vector<int>& elements, bool apart) const override {
-        return (apart ? "in.loadApart(" : "in.load(") + slots(elements) + ")";
+        return (apart ? "in.loadApart(" : "in.load(") + listOf(elements) + ")";
     }
     std::string store(const std::vector<int>& elements, const std::string& value) const override {
-        return "out.store(" + slots(elements) + ", " + value + ");\n";
+        return "out.store(" + listOf(elements) + ", " + value + ");\n";
     }
     std::string rowAccess() const override { return "constantRow<Vector>"; }
     bool scaled() const override { return false; }
     bool overlapping() const override { return false; }
-
-private:
-    static std::string slots(const std::vector<int>& elements) {
-        std::string result;
-        for (const int slot : elements)
-            result += (result.empty() ? "" : ", ") + std::to_string(slot);
-        return result;
-    }
 };
 
 }   // namespace
