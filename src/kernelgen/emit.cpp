@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <utility>
 
 #include "kernelgen/program.h"
 
@@ -79,16 +80,16 @@ private:
 
 }   // namespace
 
-Body emitBody(const Graph& g, const registry::Element& element, const ScheduleChoice& choice,
+Body emitBody(Graph g, const registry::Element& element, const ScheduleChoice& choice,
               const Ports& ports) {
-    Program operations = program(g, element, ports, choice.pairings);
+    Program operations = program(std::move(g), element, ports, choice.pairings);
     return BodyPrinter(operations, choice, ports.overlapping()).print();
 }
 
-std::string emitTransform(const Graph& g, std::string_view name,
+std::string emitTransform(Graph g, std::string_view name,
                           const registry::Element& element, const ScheduleChoice& choice,
                           Packed packed) {
-    const Body body = emitBody(g, element, choice, ArrayPorts(element, packed));
+    const Body body = emitBody(std::move(g), element, choice, ArrayPorts(element, packed));
     const std::string type(element.type);
     std::ostringstream out;
     out << "struct " << name << " {\n" << body.tables << "\n"

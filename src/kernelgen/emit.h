@@ -22,12 +22,12 @@ namespace kfm::kernelgen {
 struct Body {
     std::string tables, statements;
 };
-Body emitBody(const Graph& g, const registry::Element& element, const ScheduleChoice& choice,
+Body emitBody(Graph g, const registry::Element& element, const ScheduleChoice& choice,
               const Ports& ports);
 
 // A struct `name` with the constants and a static function transform<Memory>(src, dst, scale),
 // where `scale` points to the factor.
-std::string emitTransform(const Graph& g, std::string_view name,
+std::string emitTransform(Graph g, std::string_view name,
                           const registry::Element& element, const ScheduleChoice& choice,
                           Packed packed = Packed::neither);
 

@@ -81,7 +81,7 @@ private:
         }
         if (a.op != b.op) result.op = Op::add;
         for (const int which : {0, 1}) {
-            const auto [p, q] = rows_.asked(item, other, which);
+            const auto [p, q] = rows_.asked(item, other)[which];
             if (p >= 0) (which == 0 ? result.a : result.b) = two(p, q);
         }
         if (a.op != b.op) result.b = negatedHalf(result.b, a.op == Op::add);

@@ -118,7 +118,7 @@ private:
     }
 
     void proposeOperands(int low, int high) {
-        const auto [a, b] = state_.asked(low, high, static_cast<int>(random(2)));
+        const auto [a, b] = state_.asked(low, high)[random(2)];
         if (a < 0 || b < 0 || !state_.compatible(a, b)) return;
         const bool upwards = random(2);
         cascade(a, b, reach(), true, upwards);
@@ -139,10 +139,8 @@ private:
             const auto [a, b] = waiting[at];
             if (!joinAnew(a, b)) continue;
             if (downwards)
-                for (const int which : {0, 1}) {
-                    const auto [c, d] = state_.asked(a, b, which);
+                for (const auto& [c, d] : state_.asked(a, b))
                     if (c >= 0 && d >= 0 && state_.compatible(c, d)) waiting.push_back({c, d});
-                }
             if (upwards) matchUsers(a, b, waiting);
         }
     }

@@ -12,8 +12,6 @@ namespace {
 constexpr int instruction = 20, permutation = 24, blend = 14, extraction = 20, cheapLoad = 8,
               foldedSigns = 8;
 
-bool isSum(const Node& node) { return node.op == Op::add || node.op == Op::sub; }
-
 // The elements of two loads or two outputs one after the other; -1 where there is none.
 template <class Access>
 bool contiguous(const Access& low, const Access& high) {
@@ -63,7 +61,12 @@ void PairingState::numberKinds(const Graph& g) {
         if (node.op == Op::subtract) shared = {std::ranges::count(node.pattern, 0) == 0};
         const Op op = node.op == Op::sub ? Op::add : node.op;
         kinds_.push_back(op == Op::load ? 0 : number({static_cast<int>(op), node.wide, shared}));
+        sums_.push_back(node.op == Op::add   ? Sum::plus
+                        : node.op == Op::sub ? Sum::minus
+                                             : Sum::none);
+        products_.push_back(node.op == Op::mul);
     }
+    sums_.resize(sums_.size() + g.outputs().size(), Sum::none);
     for (const Output& output : g.outputs())
         kinds_.push_back(number({-1, g.nodes()[output.node].wide, {}}));
 }
@@ -98,10 +101,8 @@ void PairingState::findLevels() {
 }
 
 bool PairingState::swapsOperands(int low, int high) const {
-    const int nodes = static_cast<int>(graph_.nodes().size());
-    if (low >= nodes || high >= nodes) return false;
-    const Node &a = graph_.nodes()[low], &b = graph_.nodes()[high];
-    if (!isSum(a) || !isSum(b) || (a.op == Op::sub && b.op == Op::sub)) return false;
+    const Sum a = sums_[low], b = sums_[high];
+    if (a == Sum::none || b == Sum::none || (a == Sum::minus && b == Sum::minus)) return false;
     const auto [a0, a1] = operands_[low];
     const auto [b0, b1] = operands_[high];
     return moveCost(a0, b1) + moveCost(a1, b0) < moveCost(a0, b0) + moveCost(a1, b1);
@@ -109,12 +110,13 @@ bool PairingState::swapsOperands(int low, int high) const {
 
 // Of two sums the upper one exchanges its operands, or the lower one where the upper is a
 // difference.
-std::array<int, 2> PairingState::asked(int low, int high, int which) const {
-    if (high < 0) return {operands_[low][which], -1};
-    if (!swapsOperands(low, high)) return {operands_[low][which], operands_[high][which]};
-    if (graph_.nodes()[high].op == Op::add)
-        return {operands_[low][which], operands_[high][1 - which]};
-    return {operands_[low][1 - which], operands_[high][which]};
+PairingState::Operands PairingState::asked(int low, int high) const {
+    const auto [a0, a1] = operands_[low];
+    if (high < 0) return {{{a0, -1}, {a1, -1}}};
+    const auto [b0, b1] = operands_[high];
+    if (!swapsOperands(low, high)) return {{{a0, b0}, {a1, b1}}};
+    if (sums_[high] == Sum::minus) return {{{a1, b0}, {a0, b1}}};
+    return {{{a0, b1}, {a1, b0}}};
 }
 
 int PairingState::loadCost(int low, int high) const {
@@ -135,19 +137,17 @@ int PairingState::moveCost(int low, int high) const {
     return stand ? blend : permutation;
 }
 
-int PairingState::ownCost(int low, int high) const {
+int PairingState::ownCost(int low, int high, const Operands& operands) const {
     const int nodes = static_cast<int>(graph_.nodes().size());
     if (low >= nodes) {
         if (high < 0) return 2 * instruction;
         const auto &a = graph_.outputs()[low - nodes], &b = graph_.outputs()[high - nodes];
         return contiguous(a, b) ? 2 * instruction : 3 * instruction;
     }
-    if (high < 0 || graph_.nodes()[low].op == graph_.nodes()[high].op) return instruction;
+    if (high < 0 || sums_[low] == sums_[high]) return instruction;
     // A sum and a difference: an operand changes its sign in one half, a product by its constant.
-    const std::array<int, 2> second = asked(low, high, 1);
-    const bool products = graph_.nodes()[second[0]].op == Op::mul &&
-                          graph_.nodes()[second[1]].op == Op::mul;
-    return instruction + (products ? foldedSigns : instruction);
+    const auto [a, b] = operands[1];
+    return instruction + (products_[a] && products_[b] ? foldedSigns : instruction);
 }
 
 // Adds the cost of the vector of an item, or takes it away.
@@ -157,9 +157,9 @@ void PairingState::countIn(int item, int sign) {
     const int high = partner < 0 ? -1 : low == item ? partner : item;
     counted_[low] = sign > 0;
     if (high >= 0) counted_[high] = sign > 0;
-    cost_ += sign * ownCost(low, high);
-    for (const int which : {0, 1}) {
-        const auto [a, b] = asked(low, high, which);
+    const Operands operands = asked(low, high);
+    cost_ += sign * ownCost(low, high, operands);
+    for (const auto& [a, b] : operands) {
         const int move = moveCost(a, b);
         if (move == 0) continue;
         if (ask(a, b, sign)) cost_ += sign * move;

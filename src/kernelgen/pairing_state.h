@@ -25,8 +25,10 @@ public:
     bool compatible(int a, int b) const {
         return a != b && kinds_[a] == kinds_[b] && levels_[a] == levels_[b] && !isLoad(a);
     }
-    // Of the items that join in their vector for operand `which`, sums in the better order.
-    std::array<int, 2> asked(int low, int high, int which) const;
+    // The items that join in a vector for its first and for its second operand, those of sums in
+    // the better order.
+    using Operands = std::array<std::array<int, 2>, 2>;
+    Operands asked(int low, int high) const;
 
     // What follows until commit() or rollBack() is one move.
     void join(int low, int high);
@@ -48,6 +50,7 @@ private:
         int item, partner;
         char upper;
     };
+    enum class Sum : char { none, plus, minus };
     // A move, and how many vectors want it.
     struct Ask {
         int high, vectors;
@@ -59,13 +62,15 @@ private:
     void touch(int item);
     void countIn(int item, int sign);
     bool ask(int low, int high, int sign);
-    int ownCost(int low, int high) const;
+    int ownCost(int low, int high, const Operands& operands) const;
     int moveCost(int low, int high) const;
     int loadCost(int low, int high) const;
     bool swapsOperands(int low, int high) const;
 
     const Graph& graph_;
     std::vector<int> kinds_;   // 0: a load; the same number: may be paired
+    std::vector<Sum> sums_;
+    std::vector<char> products_;
     std::vector<std::array<int, 2>> operands_;
     std::vector<std::vector<int>> users_;
     std::vector<Level> levels_;
