@@ -5,18 +5,22 @@ include(CMakePackageConfigHelpers)
 install(CODE "
     cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX NORMALIZE OUTPUT_VARIABLE libraries)
     cmake_path(APPEND libraries [[${CMAKE_INSTALL_LIBDIR}]])
-    file(GLOB variants \"\$ENV{DESTDIR}\${libraries}/glibc-hwcaps/*/$<TARGET_FILE_NAME:kfmgenw7>\")
+    set(folders \"\$ENV{DESTDIR}\${libraries}/glibc-hwcaps/*\")
+    file(GLOB variants \${folders}/$<TARGET_FILE_NAME:kfmgenw7>
+        \${folders}/$<TARGET_FILE_NAME:kfmrows>)
     if(variants)
         file(REMOVE \${variants})
     endif()")
-install(TARGETS kfmgenw7 kfmcore EXPORT kfmgen-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(TARGETS kfmgenw7 kfmrows kfmcore EXPORT kfmgen-targets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 get_property(variants GLOBAL PROPERTY KFM_VARIANTS)
 foreach(variant IN LISTS variants)
     get_target_property(folder ${variant} KFM_FOLDER)
     install(TARGETS ${variant}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
 endforeach()
-install(FILES include/kfmgen.h include/kfmcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES include/kfmgen.h include/kfmrows.h include/kfmcore.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 # In a folder that CMake searches for every target: lib32 it does not search on Debian.
 set(package_dir ${CMAKE_INSTALL_DATADIR}/cmake/kfmgen)
@@ -27,8 +31,9 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cma
 install(FILES cmake/kfmgen-config.cmake ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
         DESTINATION ${package_dir})
 
-# kfm_pkgconfig(<file> <library> <description>)
+# kfm_pkgconfig(<file> <library> <description> [<packages that it requires>])
 function(kfm_pkgconfig name library description)
+    set(requires ${ARGN})
     set(here /${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     file(RELATIVE_PATH prefix_from_here ${here} /)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
@@ -36,4 +41,5 @@ function(kfm_pkgconfig name library description)
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endfunction()
 kfm_pkgconfig(kfmgen kfmgenw7 "${PROJECT_DESCRIPTION}")
+kfm_pkgconfig(kfmrows kfmrows "Many short transforms at once, with strides" kfmgen)
 kfm_pkgconfig(kfmcore kfmcore "Aligned memory blocks, the companion of kfmgen")

@@ -55,21 +55,28 @@ function(kfm_add_transform_library name)
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE library_flags kfmcore m)
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
-    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmgenw7
-        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER})
-    if(arg_FOLDER)
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmgenw7)
+    kfm_place_variant(${name} kfmgenw7 "${arg_FOLDER}")
+endfunction()
+
+# kfm_place_variant(<name> <base> <folder>): where a library goes below lib: the base itself, or in
+# its folder the variant that the loader takes instead of it.
+function(kfm_place_variant name base folder)
+    set_target_properties(${name} PROPERTIES
+        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${folder})
+    if(folder)
         set_property(GLOBAL APPEND PROPERTY KFM_VARIANTS ${name})
-        set_property(TARGET ${name} PROPERTY KFM_FOLDER ${arg_FOLDER})
+        set_property(TARGET ${name} PROPERTY KFM_FOLDER ${folder})
         # The loader would take a variant that is older than the library it stands for.
-        add_dependencies(${name} kfmgenw7)
-        add_custom_command(TARGET kfmgenw7 POST_BUILD
-            COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER}
-            COMMAND ${CMAKE_COMMAND} -E make_directory
-                ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${arg_FOLDER} VERBATIM)
-        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS $<TARGET_FILE:kfmgenw7>)
+        add_dependencies(${name} ${base})
+        set(variant ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${folder})
+        add_custom_command(TARGET ${base} POST_BUILD
+            COMMAND ${CMAKE_COMMAND} -E rm -f ${variant}/$<TARGET_FILE_NAME:${base}>
+            COMMAND ${CMAKE_COMMAND} -E make_directory ${variant} VERBATIM)
+        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS $<TARGET_FILE:${base}>)
     endif()
-    # The loader looks for the companion beside a variant, and finds it where the folder hangs.
-    file(RELATIVE_PATH up /${arg_FOLDER} /)
+    # The loader looks for the companions beside a variant, and finds them where the folder hangs.
+    file(RELATIVE_PATH up /${folder} /)
     string(REGEX REPLACE "/$" "" up "${up}")
     kfm_public_library(${name} "$ORIGIN$<$<BOOL:${up}>::$ORIGIN/${up}>")
 endfunction()

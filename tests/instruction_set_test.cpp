@@ -1,4 +1,4 @@
-// Every function of both libraries runs on any processor with SSE2, every function of the variant
+// Every function of the libraries runs on any processor with SSE2, every function of the variant
 // on any with AVX2, and none multiplies and adds at once. Which instructions those have is not
 // listed here: the assembler is told the processor and given the machine code again.
 #include <gtest/gtest.h>
@@ -10,6 +10,7 @@
 #include "registry/loaded_library.h"
 #include "support/command.h"
 #include "support/disassembly.h"
+#include "support/rows_library.h"
 
 namespace kfm::tests {
 namespace {
@@ -50,7 +51,8 @@ std::string source(const Instruction& instruction) {
 TEST(InstructionSet, IsThatOfTheOldestProcessorInEveryFunction) {
     std::set<std::string> seen;
     std::string text;
-    for (const std::string& library : {loadedLibrary().file, std::string(KFM_CORE_FILE)}) {
+    for (const std::string& library :
+         {loadedLibrary().file, rowsLibrary(), std::string(KFM_CORE_FILE)}) {
         ASSERT_GT(disassembly(library).size(), 1u);
         for (const auto& [name, code] : disassembly(library)) {
             text += "# 1 \"" + name + "\"\n";   // complaints name the function

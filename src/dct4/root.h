@@ -21,6 +21,7 @@ struct Env1 : Environment {
     void init(void* arena, int len);
     KfmStatus build();
     void del();
+    bool planned() const { return rule >= 1 && rule <= generalRule; }
     // kfmErrBadSpec, and nothing written, when the rule is none of the six.
     KfmStatus compute(const Real* src, Real* dst) const;
 

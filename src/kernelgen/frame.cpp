@@ -98,9 +98,9 @@ std::string kernelFunctions(const Family& family, int length, const Element& ele
     return text + "    return " + status("Aligned") + "}\n";
 }
 
-std::string symbolMap() {
+std::string symbolMap(const std::vector<std::string>& names) {
     std::string text = "{\n  global:\n";
-    for (const std::string& name : registry::exportedNames()) text += "    " + name + ";\n";
+    for (const std::string& name : names) text += "    " + name + ";\n";
     return text + "  local:\n    *;\n};\n";
 }
 
@@ -138,17 +138,18 @@ std::string declarations() {
 
 std::string withDeclarations(std::string_view header) {
     std::string text(header);
-    for (const Family& family : registry::families()) {
-        const std::string marker = beginMarker(family);
-        const std::size_t begin = text.find(marker);
-        const std::size_t end = text.find(endMarker, begin);
-        if (begin == std::string::npos || end == std::string::npos)
-            throw std::runtime_error("the header has no place for the declarations of " +
-                                     std::string(family.name));
-        const std::size_t body = begin + marker.size();
-        text.replace(body, end - body, familyDeclarations(family));
-    }
+    for (const Family& family : registry::families())
+        text = renewed(std::move(text), beginMarker(family), familyDeclarations(family));
     return text;
+}
+
+std::string renewed(std::string header, const std::string& marker, const std::string& text) {
+    const std::size_t begin = header.find(marker);
+    const std::size_t end = header.find(endMarker, begin);
+    if (begin == std::string::npos || end == std::string::npos)
+        throw std::runtime_error("the header has no place for " + marker);
+    const std::size_t body = begin + marker.size();
+    return header.replace(body, end - body, text);
 }
 
 }   // namespace kfm::kernelgen

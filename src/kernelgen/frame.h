@@ -17,8 +17,8 @@ std::string kernelFunctions(const registry::Family& family, int length,
                             const registry::Element& element, const Target& target,
                             const std::string& kernel);
 
-// Linker version script that exports the registry's names and nothing else.
-std::string symbolMap();
+// Linker version script that exports these names and nothing else.
+std::string symbolMap(const std::vector<std::string>& names);
 
 // C++ source of the generic entries and their tables of fixed-length functions.
 std::string genericEntries();
@@ -32,5 +32,8 @@ std::string declarations();
 // `header` with the declarations between its markers made anew. Throws when a family has no
 // markers.
 std::string withDeclarations(std::string_view header);
+
+// `header` with `text` between a marker and the end of declarations. Throws when it has no marker.
+std::string renewed(std::string header, const std::string& marker, const std::string& text);
 
 }   // namespace kfm::kernelgen

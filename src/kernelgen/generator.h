@@ -35,6 +35,8 @@ struct KernelFamily {
     std::function<std::string(int length, const registry::Element&, const Target&,
                               const ScheduleChoice&, std::span<const registry::Family* const>)>
         emit = {};
+    // 1/sqrt(n) as its functions scale by it.
+    std::function<Constant(int n)> inverseSqrt = Constant::inverseSqrt;
     // Where its values come from and go to in dumps.
     std::function<std::unique_ptr<Ports>(const registry::Element&)> ports =
         [](const registry::Element& element) { return std::make_unique<ArrayPorts>(element); };

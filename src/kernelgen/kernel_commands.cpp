@@ -15,6 +15,7 @@
 #include "kernelgen/candidates.h"
 #include "kernelgen/program.h"
 #include "kernelgen/report.h"
+#include "kernelgen/rows_kernel.h"
 #include "wht/wht_kernels.h"
 
 namespace kfm::kernelgen {
@@ -129,6 +130,8 @@ std::string explain(std::string_view source, int length, const Element& element)
             << "  reloads          " << countReloads(operands, schedule(operands, choice),
                                                      target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
+        if (family.graphOf)
+            out << "  rows             " << describeRows(family, length, element, target) << '\n';
         const OperationCounts counts = printed.counts();
         for (const auto& [name, member] : columnsFor(counts.pairs > 0))
             out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';

@@ -13,6 +13,7 @@
 #include "dct4/networks/codelet_families.h"
 #include "kernelgen/frame.h"
 #include "kernelgen/kernel_commands.h"
+#include "kernelgen/rows_kernel.h"
 #include "kernelgen/search.h"
 #include "registry/registry.h"
 
@@ -131,14 +132,28 @@ void build(const Arguments& arguments) {
                      kernelSource(source, length, *element, target(arguments)));
     folder.write("core/generic_entries.cpp", genericEntries());
     folder.write("registry/functions.cpp", functionsTable());
-    folder.write("kfmgenw7.map", symbolMap());
+    folder.write("kfmgenw7.map", symbolMap(registry::exportedNames()));
+    folder.removeOthers();
+}
+
+void buildRows(const Arguments& arguments) {
+    OutputFolder folder(arguments.required("--output"));
+    for (const auto& [below, source, length, element] : kernelFiles())
+        if (kernelFamily(source).graphOf)
+            folder.write("rows/" + std::string(source) + "_" + std::to_string(length) + "_" +
+                             std::string(element->suffix) + ".cpp",
+                         rowsKernelSource(kernelFamily(source), length, *element,
+                                          target(arguments)));
+    folder.write("rows/entries.cpp", rowsEntries());
+    folder.write("kfmrows.map", symbolMap(registry::exportedRowsNames()));
     folder.removeOthers();
 }
 
 void printDeclarations(const Arguments& arguments) {
     if (arguments.options.contains("--into")) {
         const fs::path header = arguments.required("--into");
-        writeFile(header, withDeclarations(readFile(header)));
+        const bool ofRows = arguments.option("--of", "") == "rows";
+        writeFile(header, (ofRows ? withRowsDeclarations : withDeclarations)(readFile(header)));
     } else {
         std::cout << declarations();
     }
@@ -195,6 +210,8 @@ struct Command {
 
 constexpr Command commands[] = {
     {"build", "--target <target> --output <folder>", "write all generated sources", build},
+    {"rows", "--target <target> --output <folder>", "write all sources of the library of rows",
+     buildRows},
     {"kernel", "<N> <element> [--target <target>] [--schedule <choice>] [-o <file>]",
      "write the source of one kernel", printKernel},
     {"explain", "<N> <element>", "factor tree, lane mapping and operation counts of a kernel",
@@ -207,7 +224,7 @@ constexpr Command commands[] = {
      printCounts},
     {"candidates", "<N> <element> [--target <target>] [--after <winner>]",
      "the schedules and pairings from which the tuner chooses", printCandidates},
-    {"declarations", "[--into <header>]", "print the C declarations, or renew them in a header",
+    {"declarations", "[--into <header> [--of rows]]", "print the C declarations, or renew them in a header",
      printDeclarations},
 };
 

@@ -66,6 +66,10 @@ std::string genericName(const Family& family, const Element& element) {
     return "kfmg" + std::string(family.name) + "_" + std::string(element.suffix);
 }
 
+std::string rowsName(const Family& family, const Element& element) {
+    return "kfmr" + std::string(family.name) + "_" + std::string(element.suffix);
+}
+
 std::string unalignedName(const Family& family, int length, const Element& element) {
     return "owng" + functionName(family, length, element).substr(4) + "_unaligned";
 }
@@ -97,6 +101,16 @@ std::vector<std::string> exportedNames() {
 #undef KFM_FAMILY
 #undef KFM_ORDER_FAMILY
 #undef KFM_FUNCTION
+    return names;
+}
+
+std::vector<std::string> exportedRowsNames() {
+    std::vector<std::string> names;
+    for (const Family& family : families())
+        for (const Element* element : family.elements) names.push_back(rowsName(family, *element));
+    for (const char* name :
+         {"WHTGetBufferSize_32f", "WHTGetBufferSize_64f", "DCT4_32f", "DCT4_64f"})
+        names.push_back(std::string("kfmr") + name);
     return names;
 }
 

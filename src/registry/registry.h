@@ -49,6 +49,9 @@ std::string functionName(const Family& family, int length, const Element& elemen
 std::string genericName(const Family& family, const Element& element);
 std::string unalignedName(const Family& family, int length, const Element& element);
 
+// "kfmrDFTFwd_CToC_32fc", of the library of rows.
+std::string rowsName(const Family& family, const Element& element);
+
 // Whether 16-byte alignment selects between two paths, and whether the second path is a
 // function of its own.
 bool testsAlignment(const Family& family, int length, const Element& element);
@@ -60,5 +63,7 @@ bool usesBuffer(const Family& family, int length);
 // Every exported name: the fixed lengths of each family and element type in order, then the
 // generic entries, then the functions outside families.
 std::vector<std::string> exportedNames();
+// Of the library of rows: an entry for each family and element type, then the others.
+std::vector<std::string> exportedRowsNames();
 
 }   // namespace kfm::registry

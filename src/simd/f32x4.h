@@ -58,6 +58,17 @@ KFM_OPERATION f32x4 exchange(f32x4 v) {
     else return select<2, 3, 0, 1>(v, v);
 }
 
+// The real and the imaginary parts of complex elements, and back.
+struct TwoOfFour {
+    f32x4 first, second;
+};
+KFM_OPERATION TwoOfFour separated(f32x4 low, f32x4 high) {
+    return {select<0, 2, 4, 6>(low, high), select<1, 3, 5, 7>(low, high)};
+}
+KFM_OPERATION TwoOfFour interleaved(f32x4 re, f32x4 im) {
+    return {select<0, 4, 1, 5>(re, im), select<2, 6, 3, 7>(re, im)};
+}
+
 // Two real elements in the low lanes, zeros in the others.
 struct HalfSingle {
     KFM_OPERATION static f32x4 load(const Kfm32f* p) {

@@ -19,6 +19,23 @@ KFM_OPERATION f32x8 reverse(f32x8 v) {
     return _mm256_permutevar8x32_ps(v, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0));
 }
 
+// The real and the imaginary parts of complex elements, and back.
+struct TwoOfEight {
+    f32x8 first, second;
+};
+KFM_OPERATION TwoOfEight separated(f32x8 low, f32x8 high) {
+    const auto inOrder = [](f32x8 v) {
+        return _mm256_castpd_ps(_mm256_permute4x64_pd(_mm256_castps_pd(v), 0b11011000));
+    };
+    return {inOrder(_mm256_shuffle_ps(low, high, 0b10001000)),
+            inOrder(_mm256_shuffle_ps(low, high, 0b11011101))};
+}
+KFM_OPERATION TwoOfEight interleaved(f32x8 re, f32x8 im) {
+    const f32x8 even = _mm256_unpacklo_ps(re, im), odd = _mm256_unpackhi_ps(re, im);
+    return {_mm256_permute2f128_ps(even, odd, 0b00100000),
+            _mm256_permute2f128_ps(even, odd, 0b00110001)};
+}
+
 // In either half.
 KFM_OPERATION void transpose(f32x8 (&rows)[4]) {
     const f32x8 low01 = _mm256_unpacklo_ps(rows[0], rows[1]);

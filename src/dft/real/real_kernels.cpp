@@ -89,7 +89,8 @@ KernelFamily family(bool inverse) {
             [=](int n, const Element& element, const Target&, const ScheduleChoice& choice,
                 std::span<const Family* const> families) {
                 return emit(inverse, n, element, choice, families);
-            }};
+            },
+            twoStepInverseSqrt};
 }
 
 }   // namespace

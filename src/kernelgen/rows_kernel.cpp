@@ -1,0 +1,198 @@
+#include "kernelgen/rows_kernel.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <sstream>
+
+#include "kernelgen/emit.h"
+#include "kernelgen/frame.h"
+#include "kernelgen/kernel_file.h"
+#include "kernelgen/rows_graphs.h"
+
+namespace kfm::kernelgen {
+namespace {
+
+using registry::Element;
+using registry::Family;
+
+// Vectors by their numbers, whatever fills their lanes.
+class RowPorts : public Ports {
+public:
+    explicit RowPorts(RowsForm form) : form_(form) {}
+
+    std::string load(const std::vector<int>& elements, bool) const override {
+        return elements[0] < 0 ? "in.zero()" : "in.load(" + std::to_string(elements[0]) + ")";
+    }
+    std::string store(const std::vector<int>& elements, const std::string& value) const override {
+        return "out.store(" + std::to_string(elements[0]) + ", " + value + ");\n";
+    }
+    std::string rowAccess() const override { return "in.constants"; }
+    bool scaled() const override { return true; }
+    // Pairs of rows may be transformed in place; lanes are filled and emptied in buffers.
+    bool overlapping() const override { return form_ == RowsForm::pairs; }
+
+private:
+    RowsForm form_;
+};
+
+int rowsAtOnce(const Graph& g, const Element& element, const Target& target) {
+    return target.vectorBytes / (element.doublePrecision || g.arithmetic().mixed ? 8 : 4);
+}
+
+std::string realType(const Element& element) {
+    return element.doublePrecision ? "double" : "float";
+}
+
+std::string direction(const Family& family) {
+    if (family.inverse()) return "inverse";
+    return family.name.starts_with("DFTFwd") ? "forward" : "both";
+}
+
+// The transform of one direction as a struct, for as many rows as it takes at a time.
+std::string transformStruct(const KernelFamily& kernels, const Family& family, int length,
+                            const Element& element, const Target& target, RowsForm form) {
+    const Graph single = kernels.graph(length, element, target, family.inverse());
+    const int rows = form == RowsForm::pairs ? 2 : rowsAtOnce(single, element, target);
+    const Body body = emitBody(form == RowsForm::pairs ? twoRowsGraph(single, length)
+                                                       : spreadGraph(single, rows),
+                               element, ScheduleChoice(), RowPorts(form));
+    std::ostringstream out;
+    out << "struct " << direction(family) << "Transform {\n"
+        << "    static constexpr int rows = " << rows << ";\n"
+        << "    static constexpr kfm::Direction direction = kfm::Direction::" << direction(family)
+        << ";\n    " << scaleFactors(length, kernels.inverseSqrt(length), element, 0) << body.tables
+        << "\n    template <class In, class Out>\n"
+        << "    [[gnu::always_inline]] static void run(const In& in, const Out& out, const "
+        << realType(element) << "* factor) {\n"
+        << "        const auto scale = in.everywhere(factor);\n"
+        << body.statements << "    }\n};\n\n";
+    return out.str();
+}
+
+// How source and destination of a family are laid out.
+std::string layouts(const Family& family) {
+    for (const std::string packed : {"CCS", "Pack", "Perm"})
+        if (family.name.find(packed) != std::string_view::npos)
+            return family.inverse() ? packed + ", Plain" : "Plain, " + packed;
+    return "Plain, Plain";
+}
+
+std::string rowsFunction(const Family& family, int length, const Element& element) {
+    return std::string(family.name) + "_" + std::to_string(length) + "_" +
+           std::string(element.suffix);
+}
+
+// "(const Job<Kfm32fc>& job)"
+std::string jobParameter(const Element& element) {
+    return "(const Job<" + std::string(element.type) + ">& job)";
+}
+
+std::string function(const Family& family, int length, const Element& element, RowsForm form) {
+    const std::string transform = direction(family) + "Transform, ";
+    const std::string run = form == RowsForm::single  ? "runSingly<"
+                            : form == RowsForm::pairs ? "runInPairs<" + transform
+                                                      : "runInLanes<" + transform;
+    return "KfmStatus " + rowsFunction(family, length, element) + jobParameter(element) +
+           " {\n    return " + run + std::to_string(length) + ", " + layouts(family) + ">(job, " +
+           registry::functionName(family, length, element) + ");\n}\n";
+}
+
+template <class Visit>
+void forEachEntry(Visit visit) {
+    for (const Family& family : registry::families())
+        for (const Element* element : family.elements) visit(family, *element);
+}
+
+std::string parameters(const Family& family, const Element& element) {
+    const std::string type(element.type), indent = "\n    ";
+    return "(" + indent + "const " + type + " *src, ptrdiff_t srcStride, ptrdiff_t srcDistance," +
+           indent + type + " *dst, ptrdiff_t dstStride, ptrdiff_t dstDistance," + indent + "int " +
+           (family.byOrder ? "order" : "length") + ", ptrdiff_t rows, int flag" +
+           (family.byOrder ? ", Kfm8u *buffer" : "") + ")";
+}
+
+}   // namespace
+
+RowsForm rowsForm(std::string_view source, int length, const Element& element,
+                  const Target& target) {
+    static constexpr struct {
+        std::string_view target, source, element;
+        const char* lengths;
+    } singly[] = {
+#define KFM_ROWS_SINGLY(target, source, element, lengths) {#target, #source, #element, #lengths},
+#include "rows/singly.def"
+        {}};
+    for (const auto& row : singly) {
+        if (row.target != target.name || row.source != source || row.element != element.suffix)
+            continue;
+        std::istringstream lengths(row.lengths);
+        const std::vector<int> all{std::istream_iterator<int>(lengths), {}};
+        if (std::ranges::count(all, length) > 0) return RowsForm::single;
+    }
+    if (!(element.complex && element.doublePrecision)) return RowsForm::lanes;
+    return target.vectorBytes > 16 ? RowsForm::pairs : RowsForm::single;
+}
+
+std::string describeRows(const KernelFamily& kernels, int length, const Element& element,
+                         const Target& target) {
+    switch (rowsForm(kernels.source, length, element, target)) {
+    case RowsForm::single:
+        return "one after the other";
+    case RowsForm::pairs:
+        return "2 in the halves of vectors";
+    case RowsForm::lanes:
+        break;
+    }
+    const Graph graph = kernels.graph(length, element, target, false);
+    return std::to_string(rowsAtOnce(graph, element, target)) + " in lanes";
+}
+
+std::string rowsKernelSource(const KernelFamily& kernels, int length, const Element& element,
+                             const Target& target) {
+    const RowsForm form = rowsForm(kernels.source, length, element, target);
+    std::ostringstream out, functions;
+    out << "// Generated by kernelgen; do not edit.\n"
+        << "// Rows of " << length << ": " << kernels.describe(length, element) << "\n"
+        << "#include \"rows/run.h\"\n\nnamespace kfm::rows {\nnamespace {\n\n";
+    std::set<std::string> written;
+    for (const Family* family : registry::familiesOf(kernels.source)) {
+        if (form != RowsForm::single && written.insert(direction(*family)).second)
+            out << transformStruct(kernels, *family, length, element, target, form);
+        functions << function(*family, length, element, form) << "\n";
+    }
+    out << "}   // namespace\n\n" << functions.str() << "}   // namespace kfm::rows\n";
+    return out.str();
+}
+
+std::string rowsEntries() {
+    std::ostringstream out;
+    out << "// Made by kernelgen from the registry. Do not edit.\n#include \"rows/entry.h\"\n\n";
+    forEachEntry([&](const Family& family, const Element& element) {
+        if (family.byOrder) return;
+        out << "namespace kfm::rows {\n";
+        for (int length = family.first; length <= family.last; ++length)
+            out << "KfmStatus " << rowsFunction(family, length, element) << jobParameter(element)
+                << ";\n";
+        out << "}\n\nextern \"C\" KfmStatus " << registry::rowsName(family, element)
+            << parameters(family, element) << " {\n"
+            << "    static constexpr kfm::rows::Function<" << element.type << ">* functions[] = {\n";
+        for (int length = family.first; length <= family.last; ++length)
+            out << "        kfm::rows::" << rowsFunction(family, length, element) << ",\n";
+        out << "    };\n    return kfm::rows::call<" << element.type << ">(functions, " << family.first
+            << ", length,\n        {src, srcStride, srcDistance, dst, dstStride, dstDistance, rows, "
+               "flag});\n}\n\n";
+    });
+    return out.str();
+}
+
+std::string withRowsDeclarations(std::string_view header) {
+    std::string text;
+    forEachEntry([&](const Family& family, const Element& element) {
+        text += "KFM_API KfmStatus " + registry::rowsName(family, element) +
+                parameters(family, element) + ";\n";
+    });
+    return renewed(std::string(header), "/* declarations of families */\n", text);
+}
+
+}   // namespace kfm::kernelgen
