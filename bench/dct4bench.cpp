@@ -51,13 +51,10 @@ public:
         };
     }
     std::function<void(long)> transforming(const registry::Element& element) const {
-        return [this, batch = 0, signals = std::make_shared<Signals>(length_, element)](
-                   long count) mutable {
-            const int placement = batch++ % Signals::placements;
-            const void* source = signals->source(placement);
-            void* destination = signals->destination(placement);
-            for (long i = 0; i < count; ++i) calls_.transform(source, destination, spec_);
-        };
+        return repeatOn(std::make_shared<Signals>(length_, element),
+                        [this](const void* source, void* destination) {
+                            calls_.transform(source, destination, spec_);
+                        });
     }
 
 private:

@@ -1,13 +1,12 @@
 // Times the functions of the registry, each next to FFTW's best plan or a plain loop for the
 // same transform.
 #include <CLI/CLI.hpp>
-#include <fstream>
-#include <iostream>
 #include <memory>
 #include <optional>
 
 #include "ours.h"
 #include "result.h"
+#include "run.h"
 #include "selection.h"
 #include "sides.h"
 #include "timer.h"
@@ -17,31 +16,21 @@ namespace {
 
 struct Options {
     Selection selection;
-    int batches = 40, rounds = 3;
+    Run run;
     Sides sides;
     Manner manner;
-    bool summary = false;
-    std::string csv;
-    int core = lastCore();
 };
 
 void addOptions(CLI::App& app, Options& options) {
     options.selection.addFamily(app);
     options.selection.addElement(app);
     options.selection.addLengths(app);
-    app.add_option("--batches", options.batches, "timed batches of each function")
-        ->check(CLI::Range(1, 100000))->capture_default_str();
-    app.add_option("--rounds", options.rounds,
-                   "how often to go through all functions; of each side the fastest round counts")
-        ->check(CLI::Range(1, 1000))->capture_default_str();
+    options.run.addOptions(app);
     app.add_flag("--unaligned", options.manner.unaligned, "start our arrays 8 bytes off alignment");
     app.add_flag("--in-place", options.manner.inPlace, "let our destination be our source");
     app.add_flag("--no-buffer", options.manner.noBuffer,
                  "let functions allocate their work buffers");
-    app.add_option("--csv", options.csv, "write the CSV to this file");
-    app.add_flag("--summary", options.summary, "print a summary; without --csv, instead of it");
     options.sides.addOptions(app);
-    app.add_option("--core", options.core, "processor to run on")->capture_default_str();
 }
 
 KfmStatus doNothing(const void*, void*, int) { return kfmOk; }
@@ -57,7 +46,7 @@ void measureInPlace(Result& result, void (*other)(), const Options& options) {
     const Arrays arrays(*result.function, manner);
     Subject mine(arrays.repeat(result.function->address)), theirs(arrays.repeat(other));
     Subject* const both[] = {&mine, &theirs};
-    runAgainst(theirs, both, options.batches);
+    runAgainst(theirs, both, options.run.batches);
     result.inPlaceNs = mine.minimum();
     result.otherInPlaceNs = theirs.minimum();
 }
@@ -79,11 +68,11 @@ Result measure(const registry::Function& function, const OtherLibrary* library,
     if (library) {
         const auto address = library->find<void()>(function.name);
         subjects.push_back(&other.emplace(arrays.repeat(address)));
-        runAgainst(*other, subjects, options.batches);
+        runAgainst(*other, subjects, options.run.batches);
         result.otherNs = other->minimum();
         measureInPlace(result, address, options);
     } else {
-        runInterleaved(subjects, options.batches);
+        runInterleaved(subjects, options.run.batches);
     }
     result.ns = mine.minimum();
     result.medianNs = mine.median();
@@ -94,20 +83,19 @@ Result measure(const registry::Function& function, const OtherLibrary* library,
 
 std::vector<Result> measureAll(const OtherLibrary* other, const Options& options) {
     const OpCountTable counts = readOpCounts(KFM_OP_COUNTS);
-    std::vector<Result> results;
-    for (const registry::Function* function : options.selection.functions()) {
-        Result& result = results.emplace_back(measure(*function, other, options));
-        const registry::Family& family = *registry::findFamily(function->family);
+    std::vector<Result> results = options.run.measureAll(
+        options.selection.functions(),
+        [&](const registry::Function& function) { return measure(function, other, options); });
+    for (Result& result : results) {
+        const registry::Function& function = *result.function;
+        const registry::Family& family = *registry::findFamily(function.family);
         const std::string kernels(family.kernelSource);
-        const auto row = counts.find({kernels, function->length, function->element});
+        const auto row = counts.find({kernels, function.length, function.element});
         if (family.byOrder)
-            result.counts = countsOfOrder(function->length,
-                                          *registry::findElement(function->element));
+            result.counts = countsOfOrder(function.length,
+                                          *registry::findElement(function.element));
         if (row != counts.end()) result.counts = row->second;
     }
-    // A neighbour's work can last longer than all batches of a function.
-    for (int round = 1; round < options.rounds; ++round)
-        for (Result& result : results) result.keepFaster(measure(*result.function, other, options));
     return results;
 }
 
@@ -123,17 +111,6 @@ void printClock() {
                  call.minimum());
 }
 
-void report(const Options& options, const std::vector<Result>& results) {
-    if (!options.csv.empty()) {
-        std::ofstream file(options.csv);
-        writeCsv(file, results);
-        if (!file.flush()) throw std::runtime_error("cannot write " + options.csv);
-    } else if (!options.summary) {
-        writeCsv(std::cout, results);
-    }
-    if (options.summary) writeSummary(std::cout, results);
-}
-
 }   // namespace
 }   // namespace kfm::bench
 
@@ -144,9 +121,9 @@ int main(int argc, char** argv) try {
     addOptions(app, options);
     CLI11_PARSE(app, argc, argv);
     const auto other = options.sides.open();
-    const PinnedToCore pinned(options.core);
+    const PinnedToCore pinned(options.run.core);
     printClock();
-    report(options, measureAll(other.get(), options));
+    options.run.report(measureAll(other.get(), options));
 } catch (const std::exception& error) {
     std::fprintf(stderr, "kfmbench: %s\n", error.what());
     return 1;

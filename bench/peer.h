@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "registry/functions.h"
+#include "rows.h"
 
 namespace kfm::bench {
 
@@ -31,6 +32,10 @@ struct PeerPlan {
 // without a like transform in it. Where a plan may overwrite its source, it does so if that is
 // faster.
 PeerPlan fftwPlan(const registry::Function& function);
+
+// The same for an array of rows; those of a half spectrum are of complex numbers. Beyond 64 rows it
+// is what FFTW_MEASURE finds.
+PeerPlan fftwRowsPlan(const registry::Function& function, const Rows& rows);
 
 // The same for the DCT-IV of a length; unscaled it is twice the sum. Beyond 65536 it is what
 // FFTW_MEASURE finds.

@@ -49,8 +49,17 @@ using SourceRules = std::vector<unsigned>;
 const SourceRules keepSource = {FFTW_PRESERVE_INPUT};
 const SourceRules anyRule = {FFTW_PRESERVE_INPUT, FFTW_DESTROY_INPUT};
 
-// A patient search for a length of millions takes minutes.
+// A patient search for a length of millions takes minutes; for thousands of rows it takes seconds at
+// each length.
 unsigned effortFor(int length) { return length > 65536 ? FFTW_MEASURE : FFTW_PATIENT; }
+unsigned effortFor(const Rows& rows) { return rows.count > 64 ? FFTW_MEASURE : FFTW_PATIENT; }
+
+// Planning overwrites its arrays; the timed calls work on fresh ones.
+using MakeSignals = std::function<std::shared_ptr<const Signals>()>;
+
+MakeSignals signalsOf(int length, const registry::Element& element) {
+    return [=, &element] { return std::make_shared<const Signals>(length, element); };
+}
 
 // The roots of rotateInputs and rotateOutputs.
 template <class Real>
@@ -69,13 +78,13 @@ class Api {
 public:
     Api(const std::string& path, const std::string& prefix) {
         void* library = openLibrary(path);
-        find(library, prefix + "plan_dft_1d", planDft);
+        find(library, prefix + "plan_many_dft", planDft);
         find(library, prefix + "execute_dft", executeDft);
-        find(library, prefix + "plan_dft_r2c_1d", planForward);
+        find(library, prefix + "plan_many_dft_r2c", planForward);
         find(library, prefix + "execute_dft_r2c", executeForward);
-        find(library, prefix + "plan_dft_c2r_1d", planInverse);
+        find(library, prefix + "plan_many_dft_c2r", planInverse);
         find(library, prefix + "execute_dft_c2r", executeInverse);
-        find(library, prefix + "plan_r2r_1d", planReal);
+        find(library, prefix + "plan_many_r2r", planReal);
         find(library, prefix + "execute_r2r", executeReal);
         find(library, prefix + "version", version);
     }
@@ -86,36 +95,37 @@ public:
 
     const char* version = nullptr;   // "fftw-3.3.10-sse2-avx"
 
-    std::vector<PeerPlan> like(const registry::Family& family, int length,
-                               const registry::Element& element) const {
-        const auto complexPlan = [&](Complex* from, Complex* to, unsigned flags) {
-            return planDft(length, from, to, family.inverse() ? FFTW_BACKWARD : FFTW_FORWARD,
-                           flags);
-        };
-        const auto hartleyPlan = [&](Real* from, Real* to, unsigned flags) {
-            return planReal(length, from, to, FFTW_DHT, flags);
-        };
+    // A function's transform of every row.
+    std::vector<PeerPlan> like(const registry::Function& function, const Rows& rows,
+                               const MakeSignals& makeSignals) const {
+        const registry::Family& family = *registry::findFamily(function.family);
+        const int n = function.length, stride = rows.stride(), distance = rows.distance(n);
+        const int halfDistance = rows.distance(n / 2 + 1);   // of half spectra
+        const unsigned effort = effortFor(rows);
         const auto forwardPlan = [&](Real* from, Complex* to, unsigned flags) {
-            return planForward(length, from, to, flags);
+            return planForward(1, &n, rows.count, from, nullptr, stride, distance, to, nullptr,
+                               stride, halfDistance, flags);
         };
         const auto inversePlan = [&](Complex* from, Real* to, unsigned flags) {
-            return planInverse(length, from, to, flags);
+            return planInverse(1, &n, rows.count, from, nullptr, stride, halfDistance, to, nullptr,
+                               stride, distance, flags);
         };
-        if (element.complex)
-            return plans<Complex, Complex>(length, element, executeDft, complexPlan, keepSource);
+        if (registry::findElement(function.element)->complex)
+            return plans<Complex, Complex>(makeSignals, executeDft,
+                                           complexPlan(n, rows, family.inverse()), keepSource,
+                                           effort);
         if (family.name == "Hartley")
-            return plans<Real, Real>(length, element, executeReal, hartleyPlan, anyRule);
+            return plans<Real, Real>(makeSignals, executeReal, realPlan(n, rows, FFTW_DHT),
+                                     anyRule, effort);
         if (!family.name.starts_with("DFT")) return {};
         if (family.inverse())
-            return plans<Complex, Real>(length, element, executeInverse, inversePlan, anyRule);
-        return plans<Real, Complex>(length, element, executeForward, forwardPlan, anyRule);
+            return plans<Complex, Real>(makeSignals, executeInverse, inversePlan, anyRule, effort);
+        return plans<Real, Complex>(makeSignals, executeForward, forwardPlan, anyRule, effort);
     }
 
     std::vector<PeerPlan> dct4(int length, const registry::Element& element) const {
-        const auto plan = [&](Real* from, Real* to, unsigned flags) {
-            return planReal(length, from, to, FFTW_REDFT11, flags);
-        };
-        return plans<Real, Real>(length, element, executeReal, plan, anyRule, effortFor(length));
+        return plans<Real, Real>(signalsOf(length, element), executeReal,
+                                 realPlan(length, {}, FFTW_REDFT11), anyRule, effortFor(length));
     }
 
     // Between the rotations stand arrays of its own, which the transform may overwrite.
@@ -126,8 +136,8 @@ public:
             std::make_shared<const Signals>(m, *registry::findElement(complexSuffix));
         const auto roots = std::make_shared<const std::vector<Real>>(halfLengthRoots<Real>(m));
         const auto plan = [&](Real*, Real*, unsigned flags) {
-            return planDft(m, static_cast<Complex*>(between->source()),
-                           static_cast<Complex*>(between->destination()), FFTW_FORWARD, flags);
+            return complexPlan(m, {}, false)(static_cast<Complex*>(between->source()),
+                                             static_cast<Complex*>(between->destination()), flags);
         };
         const auto execute = [=, transform = executeDft](Plan plan, Real* source,
                                                          Real* destination) {
@@ -137,46 +147,57 @@ public:
             transform(plan, from, to);
             rotateOutputs(*to, roots->data(), destination, m);
         };
-        return plans<Real, Real>(length, element, execute, plan, {FFTW_DESTROY_INPUT},
+        return plans<Real, Real>(signalsOf(length, element), execute, plan, {FFTW_DESTROY_INPUT},
                                  effortFor(m));
     }
 
 private:
+    auto complexPlan(int length, const Rows& rows, bool inverse) const {
+        return [=, this](Complex* from, Complex* to, unsigned flags) {
+            const int stride = rows.stride(), distance = rows.distance(length);
+            return planDft(1, &length, rows.count, from, nullptr, stride, distance, to, nullptr,
+                           stride, distance, inverse ? FFTW_BACKWARD : FFTW_FORWARD, flags);
+        };
+    }
+    auto realPlan(int length, const Rows& rows, fftw_r2r_kind kind) const {
+        return [=, this](Real* from, Real* to, unsigned flags) {
+            const int stride = rows.stride(), distance = rows.distance(length);
+            return planReal(1, &length, rows.count, from, nullptr, stride, distance, to, nullptr,
+                            stride, distance, &kind, flags);
+        };
+    }
+
     template <class Source, class Destination, class Execute, class MakePlan>
-    std::vector<PeerPlan> plans(int length, const registry::Element& element, Execute execute,
-                                MakePlan makePlan, const SourceRules& rules,
-                                unsigned effort = FFTW_PATIENT) const {
-        // Planning overwrites its arrays; the timed calls work on fresh ones.
-        const Signals scratch(length, element);
+    std::vector<PeerPlan> plans(const MakeSignals& makeSignals, Execute execute, MakePlan makePlan,
+                                const SourceRules& rules, unsigned effort) const {
+        const auto scratch = makeSignals();
         std::vector<PeerPlan> result;
         for (const unsigned rule : rules) {
             const Plan plan =
-                makePlan(static_cast<Source*>(scratch.source()),
-                         static_cast<Destination*>(scratch.destination()), effort | rule);
+                makePlan(static_cast<Source*>(scratch->source()),
+                         static_cast<Destination*>(scratch->destination()), effort | rule);
             if (plan == nullptr) continue;
-            const auto signals = std::make_shared<Signals>(length, element);
-            const auto repeat = [=, batch = 0](long calls) mutable {
-                const int placement = batch++ % Signals::placements;
-                const auto source = static_cast<Source*>(signals->source(placement));
-                const auto destination = static_cast<Destination*>(signals->destination(placement));
-                for (long i = 0; i < calls; ++i) execute(plan, source, destination);
-            };
             const auto once = [=](void* source, void* destination) {
                 execute(plan, static_cast<Source*>(source),
                         static_cast<Destination*>(destination));
             };
-            result.push_back({repeat, once, version});
+            result.push_back({repeatOn(makeSignals(), once), once, version});
         }
         return result;
     }
 
-    Plan (*planDft)(int, Complex*, Complex*, int, unsigned) = nullptr;
+    // Of each array its address, outer length, stride and distance.
+    Plan (*planDft)(int, const int*, int, Complex*, const int*, int, int, Complex*, const int*, int,
+                    int, int, unsigned) = nullptr;
     void (*executeDft)(Plan, Complex*, Complex*) = nullptr;
-    Plan (*planForward)(int, Real*, Complex*, unsigned) = nullptr;
+    Plan (*planForward)(int, const int*, int, Real*, const int*, int, int, Complex*, const int*,
+                        int, int, unsigned) = nullptr;
     void (*executeForward)(Plan, Real*, Complex*) = nullptr;
-    Plan (*planInverse)(int, Complex*, Real*, unsigned) = nullptr;
+    Plan (*planInverse)(int, const int*, int, Complex*, const int*, int, int, Real*, const int*,
+                        int, int, unsigned) = nullptr;
     void (*executeInverse)(Plan, Complex*, Real*) = nullptr;
-    Plan (*planReal)(int, Real*, Real*, fftw_r2r_kind, unsigned) = nullptr;
+    Plan (*planReal)(int, const int*, int, Real*, const int*, int, int, Real*, const int*, int, int,
+                     const fftw_r2r_kind*, unsigned) = nullptr;
     void (*executeReal)(Plan, Real*, Real*) = nullptr;
 };
 
@@ -232,10 +253,16 @@ std::string describePeers() {
 
 PeerPlan fftwPlan(const registry::Function& function) {
     const registry::Element& element = *registry::findElement(function.element);
-    const registry::Family& family = *registry::findFamily(function.family);
     return fastestOf(element, [&](const auto& api) {
-        return api.like(family, function.length, element);
+        return api.like(function, {}, signalsOf(function.length, element));
     });
+}
+
+PeerPlan fftwRowsPlan(const registry::Function& function, const Rows& rows) {
+    const registry::Element& element = *registry::findElement(function.element);
+    const auto arrays = [&] { return Signals::ofRows(rows.count, function.length, element); };
+    return fastestOf(element,
+                     [&](const auto& api) { return api.like(function, rows, arrays); });
 }
 
 PeerPlan fftwDct4Plan(int length, const registry::Element& element) {

@@ -2,11 +2,10 @@
 #include "result.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iomanip>
-#include <map>
 #include <ostream>
 
+#include "ratios.h"
 #include "timer.h"
 
 namespace kfm::bench {
@@ -23,53 +22,9 @@ void cell(std::ostream& out, const std::optional<Value>& value) {
     if (value) out << *value;
 }
 
-using Group = std::vector<const Result*>;
 using Ratio = std::optional<double> (Result::*)() const;
 
-// One ratio over the results that have it.
-class Ratios {
-public:
-    Ratios(const Group& group, Ratio ratio) {
-        for (const Result* result : group)
-            if (const auto value = (result->*ratio)())
-                rows.push_back({*value, result->function->length});
-    }
-    bool empty() const { return rows.empty(); }
-
-    void printMean(std::ostream& out) const {
-        double logarithms = 0;
-        for (const Row& row : rows) logarithms += std::log(row.ratio);
-        out << "geometric mean " << std::exp(logarithms / rows.size()) << " of " << rows.size()
-            << " lengths, ";
-        printWorst(out);
-    }
-    void printWorst(std::ostream& out) const {
-        const Row& worst = *std::ranges::max_element(rows, {}, &Row::ratio);
-        out << "worst " << worst.ratio << " at " << worst.length;
-    }
-    void printBeyond(std::ostream& out, double limit) const {
-        bool none = true;
-        for (const Row& row : rows) {
-            if (row.ratio <= limit) continue;
-            out << ' ' << row.length << " (" << row.ratio << ')';
-            none = false;
-        }
-        if (none) out << " none";
-    }
-    int beyond(double limit) const {
-        return static_cast<int>(
-            std::ranges::count_if(rows, [&](const Row& row) { return row.ratio > limit; }));
-    }
-
-private:
-    struct Row {
-        double ratio;
-        int length;
-    };
-    std::vector<Row> rows;
-};
-
-void summarisePeer(std::ostream& out, const Group& group) {
+void summarisePeer(std::ostream& out, const Group<Result>& group) {
     const Ratios ratios(group, &Result::ratio);
     if (ratios.empty()) return;
     const std::string peer =
@@ -81,7 +36,8 @@ void summarisePeer(std::ostream& out, const Group& group) {
     out << '\n';
 }
 
-void summariseOther(std::ostream& out, const Group& group, const std::string& manner, Ratio ratio) {
+void summariseOther(std::ostream& out, const Group<Result>& group, const std::string& manner,
+                    Ratio ratio) {
     const Ratios ratios(group, ratio);
     if (ratios.empty()) return;
     out << "  ours/other file, " << manner << ": ";
@@ -91,11 +47,11 @@ void summariseOther(std::ostream& out, const Group& group, const std::string& ma
     out << '\n';
 }
 
-void summarise(std::ostream& out, const Group& group) {
+void summarise(std::ostream& out, const Group<Result>& group) {
     summarisePeer(out, group);
     summariseOther(out, group, "apart", &Result::otherRatio);
     summariseOther(out, group, "in place", &Result::inPlaceRatio);
-    Group bound;   // shorter kernels are bound by the call itself
+    Group<Result> bound;   // shorter kernels are bound by the call itself
     for (const Result* result : group)
         if (result->function->length >= 8) bound.push_back(result);
     const Ratios ratios(bound, &Result::boundRatio);
@@ -153,15 +109,10 @@ void writeCsv(std::ostream& out, const std::vector<Result>& results) {
 }
 
 void writeSummary(std::ostream& out, const std::vector<Result>& results) {
-    std::map<std::string, Group> groups;
-    Group all;
-    for (const Result& result : results) {
-        groups[std::string(result.function->family) + " " + result.function->element].push_back(
-            &result);
-        all.push_back(&result);
-    }
+    Group<Result> all;
+    for (const Result& result : results) all.push_back(&result);
     out << std::fixed << std::setprecision(2);
-    for (const auto& [name, group] : groups) {
+    for (const auto& [name, group] : grouped(results)) {
         out << name << '\n';
         summarise(out, group);
     }

@@ -18,11 +18,14 @@ struct Sides {
     bool withoutPeers = false;
     std::string against;
 
-    void addOptions(CLI::App& app) {
+    void addPeerOptions(CLI::App& app) {
         app.add_option("--fftw-folder", peerFolders,
                        "folder of FFTW's libraries; of several the fastest plan counts")
             ->allow_extra_args(false);   // once for each
         app.add_flag("--without-peers", withoutPeers, "compare with no other program");
+    }
+    void addOptions(CLI::App& app) {
+        addPeerOptions(app);
         app.add_option("--against", against, "another file of the library to compare with");
     }
 
@@ -40,7 +43,6 @@ struct Sides {
         return nullptr;
     }
 
-private:
     static void tell(const char* side, const registry::LoadedLibrary& library) {
         std::fprintf(stderr, "%s: %s, vectors of %d bits\n", side, library.file.c_str(),
                      library.vectorBits);

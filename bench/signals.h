@@ -21,10 +21,27 @@ class Signals {
 public:
     Signals(int length, const registry::Element& element, bool unaligned = false,
             bool inPlace = false)
-        // A half spectrum takes up to two reals more than the signal.
-        : bytes(((length + (element.complex ? 0 : 2)) * element.bytes + lineBytes) / lineBytes *
-                lineBytes),
-          stride((2 * bytes + pageBytes / placements) / lineBytes * lineBytes),
+        : Signals(element, bytesOf(1, length, element) / lineBytes * lineBytes, unaligned,
+                  inPlace) {}
+
+    // Arrays of rows. Loads of the next row follow stores of the last one within a call, and many
+    // rows come past every offset: half a page between the two is as far apart as they get.
+    static std::shared_ptr<const Signals> ofRows(int rows, int length,
+                                                 const registry::Element& element) {
+        const std::size_t halves = (bytesOf(rows, length, element) / halfPage + 1) | 1;
+        return std::shared_ptr<const Signals>(
+            new Signals(element, halves * halfPage, false, false));
+    }
+
+    static constexpr int placements = 4;
+    void* source(int placement = 0) const { return start + placement * stride; }
+    void* destination(int placement = 0) const {
+        return start + placement * stride + (inPlace ? 0 : bytes);
+    }
+
+private:
+    Signals(const registry::Element& element, std::size_t bytes, bool unaligned, bool inPlace)
+        : bytes(bytes), stride((2 * bytes + pageBytes / placements) / lineBytes * lineBytes),
           block(static_cast<std::byte*>(std::aligned_alloc(lineBytes, placements * stride)),
                 &std::free),
           start(block.get() + (unaligned ? 8 : 0)), inPlace(inPlace) {
@@ -35,13 +52,12 @@ public:
                 fill<float>(placement);
     }
 
-    static constexpr int placements = 4;
-    void* source(int placement = 0) const { return start + placement * stride; }
-    void* destination(int placement = 0) const {
-        return start + placement * stride + (inPlace ? 0 : bytes);
+    // With room for the offset of an unaligned signal. A half spectrum takes up to two reals more
+    // than the signal.
+    static std::size_t bytesOf(std::size_t rows, int length, const registry::Element& element) {
+        return rows * (length + (element.complex ? 0 : 2)) * element.bytes + lineBytes;
     }
 
-private:
     template <class Real>
     void fill(int placement) {
         std::minstd_rand random;
@@ -50,8 +66,8 @@ private:
                         [&] { return random() % 2 ? magnitude(random) : -magnitude(random); });
     }
 
-    static constexpr std::size_t lineBytes = 64, pageBytes = 4096;
-    std::size_t bytes;    // of each signal, with room for the offset of an unaligned one
+    static constexpr std::size_t lineBytes = 64, pageBytes = 4096, halfPage = pageBytes / 2;
+    std::size_t bytes;    // from a source to its destination
     std::size_t stride;   // between placements
     std::unique_ptr<std::byte, decltype(&std::free)> block;
     std::byte* start;
@@ -62,16 +78,24 @@ private:
 using Transform = KfmStatus (*)(const void*, void*, int);
 using BufferedTransform = KfmStatus (*)(const void*, void*, int, Kfm8u*);
 
+// Makes calls on the placements, which batches take in turns.
+template <class Call>
+std::function<void(long)> repeatOn(std::shared_ptr<const Signals> signals, Call call) {
+    return [=, batch = 0](long calls) mutable {
+        const int placement = batch++ % Signals::placements;
+        void* const source = signals->source(placement);
+        void* const destination = signals->destination(placement);
+        for (long i = 0; i < calls; ++i) call(source, destination);
+    };
+}
+
 template <class... Further>
 std::function<void(long)> repeatCall(KfmStatus (*transform)(const void*, void*, int, Further...),
                                      std::shared_ptr<const Signals> signals, int flag,
                                      std::type_identity_t<Further>... further) {
-    return [=, batch = 0](long calls) mutable {
-        const int placement = batch++ % Signals::placements;
-        const void* source = signals->source(placement);
-        void* destination = signals->destination(placement);
-        for (long i = 0; i < calls; ++i) transform(source, destination, flag, further...);
-    };
+    return repeatOn(std::move(signals), [=](const void* source, void* destination) {
+        transform(source, destination, flag, further...);
+    });
 }
 
 }   // namespace kfm::bench
