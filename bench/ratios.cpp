@@ -6,6 +6,22 @@
 
 namespace kfm::bench {
 
+void Ratios::printPeer(std::ostream& out, const std::string& ours, const std::string& peer) const {
+    out << "  " << ours << '/' << peer << ": ";
+    printMean(out);
+    out << "\n  slower than " << peer << ':';
+    printBeyond(out, 1);
+    out << '\n';
+}
+
+void Ratios::printLevel(std::ostream& out, const std::string& sides, double limit) const {
+    out << "  " << sides << ": ";
+    printMean(out);
+    out << "; beyond " << limit << ':';
+    printBeyond(out, limit);
+    out << '\n';
+}
+
 void Ratios::printMean(std::ostream& out) const {
     double logarithms = 0;
     for (const Row& row : rows) logarithms += std::log(row.ratio);

@@ -36,12 +36,17 @@ public:
     }
     bool empty() const { return rows.empty(); }
 
-    void printMean(std::ostream& out) const;
+    // "  ours/FFTW: " and the mean, then where it is slower.
+    void printPeer(std::ostream& out, const std::string& ours, const std::string& peer) const;
+    // "  <sides>: " and the mean, then what is beyond a limit.
+    void printLevel(std::ostream& out, const std::string& sides, double limit) const;
     void printWorst(std::ostream& out) const;
-    void printBeyond(std::ostream& out, double limit) const;
     int beyond(double limit) const;
 
 private:
+    void printMean(std::ostream& out) const;
+    void printBeyond(std::ostream& out, double limit) const;
+
     struct Row {
         double ratio;
         int length;

@@ -29,22 +29,13 @@ void summarisePeer(std::ostream& out, const Group<Result>& group) {
     if (ratios.empty()) return;
     const std::string peer =
         registry::findFamily(group.front()->function->family)->byOrder ? "plain loop" : "FFTW";
-    out << "  ours/" << peer << ": ";
-    ratios.printMean(out);
-    out << "\n  slower than " << peer << ':';
-    ratios.printBeyond(out, 1);
-    out << '\n';
+    ratios.printPeer(out, "ours", peer);
 }
 
 void summariseOther(std::ostream& out, const Group<Result>& group, const std::string& manner,
                     Ratio ratio) {
     const Ratios ratios(group, ratio);
-    if (ratios.empty()) return;
-    out << "  ours/other file, " << manner << ": ";
-    ratios.printMean(out);
-    out << "; beyond " << levelRatio << ':';
-    ratios.printBeyond(out, levelRatio);
-    out << '\n';
+    if (!ratios.empty()) ratios.printLevel(out, "ours/other file, " + manner, levelRatio);
 }
 
 void summarise(std::ostream& out, const Group<Result>& group) {

@@ -13,19 +13,9 @@ namespace {
 constexpr double singleLevel = 1.02;
 
 void summarise(std::ostream& out, const Group<RowsResult>& group) {
-    const Ratios toSingle(group, &RowsResult::ratioToSingle);
-    out << "  rows/single functions: ";
-    toSingle.printMean(out);
-    out << "; beyond " << singleLevel << ':';
-    toSingle.printBeyond(out, singleLevel);
-    out << '\n';
+    Ratios(group, &RowsResult::ratioToSingle).printLevel(out, "rows/single functions", singleLevel);
     const Ratios toPeer(group, &RowsResult::ratioToPeer);
-    if (toPeer.empty()) return;
-    out << "  rows/FFTW: ";
-    toPeer.printMean(out);
-    out << "\n  slower than FFTW:";
-    toPeer.printBeyond(out, 1);
-    out << '\n';
+    if (!toPeer.empty()) toPeer.printPeer(out, "rows", "FFTW");
 }
 
 }   // namespace

@@ -47,8 +47,9 @@ void addOptions(CLI::App& app, Options& options) {
 using RowsFunction = KfmStatus (*)(const void*, std::ptrdiff_t, std::ptrdiff_t, void*,
                                    std::ptrdiff_t, std::ptrdiff_t, int, std::ptrdiff_t, int);
 
-RowsFunction rowsFunction(std::string_view family, std::string_view element) {
-    const std::string name = "kfmr" + std::string(family) + "_" + std::string(element);
+RowsFunction rowsFunction(const registry::Function& function) {
+    const std::string name = registry::rowsName(*registry::findFamily(function.family),
+                                                *registry::findElement(function.element));
     void* const address = dlsym(RTLD_DEFAULT, name.c_str());
     if (address == nullptr) throw std::runtime_error(dlerror());
     return reinterpret_cast<RowsFunction>(address);
@@ -117,7 +118,7 @@ RowsResult measure(const registry::Function& function, const registry::Element& 
                    const Options& options) {
     const Rows& rows = options.rows;
     const Widths widths(function);
-    const auto byRows = [=, address = rowsFunction(function.family, function.element),
+    const auto byRows = [=, address = rowsFunction(function),
                          length = function.length](const void* source, void* destination) {
         return address(source, rows.stride(), rows.distance(widths.source), destination,
                        rows.stride(), rows.distance(widths.destination), length, rows.count,
@@ -166,7 +167,7 @@ std::vector<const registry::Function*> selected(const Selection& selection) {
 }
 
 void tellRowsLibrary(const registry::Function& some) {
-    const RowsFunction address = rowsFunction(some.family, some.element);
+    const RowsFunction address = rowsFunction(some);
     Sides::tell("rows", registry::libraryOf(reinterpret_cast<const void*>(address)));
 }
 

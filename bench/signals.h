@@ -33,6 +33,11 @@ public:
             new Signals(element, halves * halfPage, false, false));
     }
 
+    // A half spectrum takes up to two reals more than the signal.
+    static int mostElements(int length, const registry::Element& element) {
+        return length + (element.complex ? 0 : 2);
+    }
+
     static constexpr int placements = 4;
     void* source(int placement = 0) const { return start + placement * stride; }
     void* destination(int placement = 0) const {
@@ -52,10 +57,9 @@ private:
                 fill<float>(placement);
     }
 
-    // With room for the offset of an unaligned signal. A half spectrum takes up to two reals more
-    // than the signal.
+    // With room for the offset of an unaligned signal.
     static std::size_t bytesOf(std::size_t rows, int length, const registry::Element& element) {
-        return rows * (length + (element.complex ? 0 : 2)) * element.bytes + lineBytes;
+        return rows * mostElements(length, element) * element.bytes + lineBytes;
     }
 
     template <class Real>

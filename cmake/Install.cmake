@@ -6,8 +6,8 @@ install(CODE "
     cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX NORMALIZE OUTPUT_VARIABLE libraries)
     cmake_path(APPEND libraries [[${CMAKE_INSTALL_LIBDIR}]])
     set(folders \"\$ENV{DESTDIR}\${libraries}/glibc-hwcaps/*\")
-    file(GLOB variants \${folders}/$<TARGET_FILE_NAME:kfmgenw7>
-        \${folders}/$<TARGET_FILE_NAME:kfmrows>)
+    file(GLOB variants \"\${folders}/$<TARGET_FILE_NAME:kfmgenw7>\"
+        \"\${folders}/$<TARGET_FILE_NAME:kfmrows>\")
     if(variants)
         file(REMOVE \${variants})
     endif()")

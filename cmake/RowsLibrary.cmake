@@ -10,16 +10,7 @@ function(kfm_add_rows_library name)
     list(TRANSFORM kernels REPLACE "^.*/" "${generated}/rows/")
     set(entries ${generated}/rows/entries.cpp)
     set(map ${generated}/kfmrows.map)
-    set(stamp ${generated}.stamp)
-    add_custom_command(
-        OUTPUT ${stamp}
-        BYPRODUCTS ${kernels} ${entries} ${map}
-        COMMAND kernelgen rows --target ${arg_INSTRUCTIONS} --output ${generated}
-        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-        DEPENDS kernelgen ${KFM_KERNELGEN}
-        COMMENT "Generating kernels of rows for ${arg_INSTRUCTIONS}"
-        VERBATIM)
-    add_custom_target(${name}-sources DEPENDS ${stamp})
+    kfm_run_kernelgen(${name} rows ${arg_INSTRUCTIONS} ${generated} ${kernels} ${entries} ${map})
 
     add_library(${name}-kernels OBJECT ${kernels})
     target_compile_options(${name}-kernels PRIVATE ${KFM_GENERATED_FLAGS} ${arg_FLAGS})
@@ -27,14 +18,10 @@ function(kfm_add_rows_library name)
     add_library(${name} SHARED ${entries} rows/any_spacing.cpp rows/dct4.cpp
         rows/wht.cpp $<TARGET_OBJECTS:${name}-kernels>)
     target_compile_options(${name} PRIVATE ${arg_FLAGS})
-    foreach(part IN ITEMS ${name} ${name}-kernels)
-        add_dependencies(${part} ${name}-sources)
-        target_link_libraries(${part} PRIVATE library_flags)
-        target_include_directories(${part} PRIVATE
-            ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
-        set_target_properties(${part} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-    endforeach()
-    target_link_libraries(${name} PUBLIC ${arg_OF} PRIVATE kfmcore)
+    kfm_library_part(${name}-kernels ${name}-sources)
+    add_dependencies(${name} ${name}-sources)
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${arg_OF} PRIVATE library_flags kfmcore)
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmrows)
     kfm_place_variant(${name} kfmrows "${arg_FOLDER}")

@@ -13,18 +13,8 @@ function(kfm_add_transform_library name)
     set(entries ${generated}/core/generic_entries.cpp)
     set(map ${generated}/kfmgenw7.map)
 
-    # The stamp is what depends on the generator: kernelgen leaves files that would not change
-    # alone, so their objects are not compiled again.
-    set(stamp ${generated}.stamp)
-    add_custom_command(
-        OUTPUT ${stamp}
-        BYPRODUCTS ${kernels} ${codelets} ${entries} ${generated}/registry/functions.cpp ${map}
-        COMMAND kernelgen build --target ${arg_INSTRUCTIONS} --output ${generated}
-        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-        DEPENDS kernelgen ${KFM_KERNELGEN}
-        COMMENT "Generating kernels for ${arg_INSTRUCTIONS}"
-        VERBATIM)
-    add_custom_target(${name}-sources DEPENDS ${stamp})
+    kfm_run_kernelgen(${name} build ${arg_INSTRUCTIONS} ${generated}
+        ${kernels} ${codelets} ${entries} ${generated}/registry/functions.cpp ${map})
 
     add_library(${name}-kernels OBJECT ${kernels})
     target_compile_options(${name}-kernels PRIVATE ${KFM_GENERATED_FLAGS} ${arg_FLAGS})
@@ -40,11 +30,7 @@ function(kfm_add_transform_library name)
         target_compile_options(${name}-${part} PRIVATE -fstack-clash-protection ${arg_FLAGS})
     endforeach()
     foreach(part IN ITEMS kernels codelets planner)
-        add_dependencies(${name}-${part} ${name}-sources)
-        target_link_libraries(${name}-${part} PRIVATE library_flags)
-        target_include_directories(${name}-${part} PUBLIC
-            ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
-        set_target_properties(${name}-${part} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+        kfm_library_part(${name}-${part} ${name}-sources)
     endforeach()
 
     add_library(${name} SHARED ${entries} core/version.cpp wht/buffer_size.cpp dct4/calls.cpp
@@ -57,6 +43,31 @@ function(kfm_add_transform_library name)
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmgenw7)
     kfm_place_variant(${name} kfmgenw7 "${arg_FOLDER}")
+endfunction()
+
+# kfm_run_kernelgen(<name> <command> <row of the generator> <folder> <file>...): the target
+# <name>-sources, which writes the files. The stamp is what depends on the generator: kernelgen leaves
+# files that would not change alone, so their objects are not compiled again.
+function(kfm_run_kernelgen name command instructions folder)
+    set(stamp ${folder}.stamp)
+    add_custom_command(
+        OUTPUT ${stamp}
+        BYPRODUCTS ${ARGN}
+        COMMAND kernelgen ${command} --target ${instructions} --output ${folder}
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS kernelgen ${KFM_KERNELGEN}
+        COMMENT "Generating ${name} for ${instructions}"
+        VERBATIM)
+    add_custom_target(${name}-sources DEPENDS ${stamp})
+endfunction()
+
+# kfm_library_part(<objects> <sources>): objects of a library that are compiled from these sources.
+function(kfm_library_part objects sources)
+    add_dependencies(${objects} ${sources})
+    target_link_libraries(${objects} PRIVATE library_flags)
+    target_include_directories(${objects} PUBLIC
+        ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+    set_target_properties(${objects} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
 # kfm_place_variant(<name> <base> <folder>): where a library goes below lib: the base itself, or in

@@ -2,6 +2,7 @@
 // and not a byte beside them touched.
 #include <dlfcn.h>
 
+#include <utility>
 #include <vector>
 
 #include "kfmrows.h"
@@ -18,7 +19,7 @@ using RowsFunction = KfmStatus(const void*, Offset, Offset, void*, Offset, Offse
 
 RowsFunction* rowsFunction(const Transform& generic) {
     static void* const library = dlopen(KFM_ROWS_NAME, RTLD_NOW);
-    const std::string name = "kfmr" + generic.name();
+    const std::string name = registry::rowsName(*generic.family, *generic.element);
     return reinterpret_cast<RowsFunction*>(dlsym(library, name.c_str()));
 }
 
@@ -47,11 +48,16 @@ protected:
         return *findTransform(family().family->name, length, family().element->suffix);
     }
 
+    // Of source and destination.
+    std::pair<int, int> elements(const Transform& one) const {
+        return {int(one.sourceBytes() / elementBytes()),
+                int(one.destinationBytes() / elementBytes())};
+    }
+
     // One call beside single calls on the same rows.
     void compare(const Transform& one, int length, Offset rows, Spacing from, Spacing to, int flag,
                  Flush flush, int offset, Random& random) const {
-        const int in = int(one.sourceBytes() / elementBytes());
-        const int out = int(one.destinationBytes() / elementBytes());
+        const auto [in, out] = elements(one);
         Side src(in, rows, from, elementBytes(), flush, offset);
         const Side dst(out, rows, to, elementBytes(), flush, 3 * offset % 5);
         const Side expected(out, rows, to, elementBytes(), flush, 3 * offset % 5);
@@ -73,8 +79,7 @@ TEST_P(Rows, GiveTheBitsOfSingleCalls) {
     int turn = 0;
     for (int length = first(); length <= last(); ++length) {
         const Transform& one = single(length);
-        const int in = int(one.sourceBytes() / elementBytes());
-        const int out = int(one.destinationBytes() / elementBytes());
+        const auto [in, out] = elements(one);
         const int ways = one.length > 64 ? 3 : spacingCount;
         for (int from = 0; from < spacingCount; from += spacingCount / ways)
             for (int to = 0; to < spacingCount; to += spacingCount / ways) {
@@ -94,19 +99,19 @@ TEST_P(Rows, WorkInPlace) {
     int turn = 0;
     for (int length = first(); length <= last(); ++length) {
         const Transform& one = single(length);
-        const int in = int(one.sourceBytes() / elementBytes());
-        const int out = int(one.destinationBytes() / elementBytes());
+        const auto [in, out] = elements(one);
+        const int most = std::max(in, out);
         for (const Offset rows : {1, 3, 8, 13})
-            for (const Spacing& spacing : spacings(std::max(in, out), rows)) {
+            for (const Spacing& spacing : spacings(most, rows)) {
                 const int flag = allFlags[++turn % allFlags.size()];
-                const Side data(std::max(in, out), rows, spacing, elementBytes(), Flush::end);
-                const Side expected(std::max(in, out), rows, spacing, elementBytes(), Flush::end);
+                const Side data(most, rows, spacing, elementBytes(), Flush::end);
+                const Side expected(most, rows, spacing, elementBytes(), Flush::end);
                 for (Offset row = 0; row < rows; ++row) {
                     Bytes values = encode(randomSignal(one, random), one);
                     Bytes results = run(one, values, flag);
-                    results.insert(results.end(), values.begin() + std::min(values.size(), results.size()),
-                                   values.end());
-                    const Bytes rest(std::max(in, out) * elementBytes(), std::byte{0x5a});
+                    const std::size_t written = std::min(values.size(), results.size());
+                    results.insert(results.end(), values.begin() + written, values.end());
+                    const Bytes rest(most * elementBytes(), std::byte{0x5a});
                     for (Bytes* each : {&values, &results})
                         each->insert(each->end(), rest.begin() + each->size(), rest.end());
                     data.put(row, values);

@@ -140,9 +140,8 @@ void tune(const KernelSource& kernel, const registry::Element& element, const Wo
     std::vector<Candidate> candidates;
     const auto winnerWith = [&](const std::vector<std::string>& schedules) {
         std::ranges::move(workshop.make(kernel, schedules), std::back_inserter(candidates));
-        // A half spectrum takes up to two reals more than the signal.
-        const int values = kernel.arrayLength + (element.complex ? 0 : 2);
-        requireSameBits(candidates, *patterns.apart, values * element.bytes);
+        requireSameBits(candidates, *patterns.apart,
+                        bench::Signals::mostElements(kernel.arrayLength, element) * element.bytes);
         return choose(candidates, table.find(name), patterns, options).schedule;
     };
     std::string winner = winnerWith(workshop.schedules(kernel));

@@ -34,4 +34,9 @@ inline const Real* chooseScale(const ScaleFactors<Real>& factors, int flag) {
     return nullptr;
 }
 
+inline bool isFlag(int flag) {
+    static constexpr ScaleFactors<float> any = {};
+    return chooseScale<Direction::both>(any, flag) != nullptr;
+}
+
 }   // namespace kfm

@@ -9,12 +9,14 @@ namespace kfm {
 
 template <int n>
 struct PackLayout {
+    static constexpr int slots = n;   // array elements
     static constexpr int at(int i) { return i; }
 };
 
 // Like Pack, but X(n/2) follows X(0).
 template <int n>
 struct PermLayout {
+    static constexpr int slots = n;
     static constexpr int at(int i) {
         if (n % 2 != 0 || i == 0) return i;
         return i == n - 1 ? 1 : i + 1;
@@ -24,12 +26,14 @@ struct PermLayout {
 // Complex pairs throughout: X(0) and X(n/2) have imaginary parts, which are zero.
 template <int n>
 struct CcsLayout {
+    static constexpr int slots = 2 * (n / 2 + 1);
+    static constexpr int zeros[] = {1, n % 2 == 0 ? n + 1 : 1};
     static constexpr int at(int i) { return i == 0 ? 0 : i + 1; }
 
     template <class Real>
     static void storeZeros(Real* spectrum) {
-        spectrum[1] = 0;
-        if (n % 2 == 0) spectrum[n + 1] = 0;
+        spectrum[zeros[0]] = 0;
+        if (n % 2 == 0) spectrum[zeros[1]] = 0;
     }
 };
 

@@ -17,12 +17,6 @@ std::string beginMarker(const Family& family) {
     return "/* declarations: " + std::string(family.name) + " */\n";
 }
 
-template <class Visit>
-void forEachVariant(Visit visit) {
-    for (const Family& family : registry::families())
-        for (const Element* element : family.elements) visit(family, *element);
-}
-
 std::string lengthName(const Family& family) { return family.byOrder ? "order" : "length"; }
 
 std::string parameters(const Family& family, const Element& element, bool generic = false) {

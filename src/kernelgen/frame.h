@@ -29,6 +29,13 @@ std::string functionsTable();
 // C declarations of all families, in the form in which they stand in the header.
 std::string declarations();
 
+// Calls visit(family, element) for every family and element type.
+template <class Visit>
+void forEachVariant(Visit visit) {
+    for (const registry::Family& family : registry::families())
+        for (const registry::Element* element : family.elements) visit(family, *element);
+}
+
 // `header` with the declarations between its markers made anew. Throws when a family has no
 // markers.
 std::string withDeclarations(std::string_view header);

@@ -1,6 +1,7 @@
 #include "kernelgen/kernel_file.h"
 
 #include <sstream>
+#include <utility>
 
 #include "kernelgen/report.h"
 
@@ -37,6 +38,14 @@ std::string scaleFactors(int n, const Constant& bySqrtN, const registry::Element
     if (lanes == 1) type = "OneLane<" + type + ">";
     return "static constexpr kfm::ScaleFactors<" + type + "> scales = {" + print(1) + ", " +
            print(Constant::ratio(1, n)) + ", " + print(bySqrtN) + "};\n";
+}
+
+std::string packedLayout(const registry::Family& family, int n) {
+    const auto names = {std::pair{"CCS", "Ccs"}, {"Pack", "Pack"}, {"Perm", "Perm"}};
+    for (const auto& [name, type] : names)
+        if (family.name.find(name) != std::string_view::npos)
+            return std::string("kfm::") + type + "Layout<" + std::to_string(n) + ">";
+    return {};
 }
 
 std::string printRealKernel(const RealKernelFile& file, const Graph& g, int n,

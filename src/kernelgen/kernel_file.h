@@ -33,6 +33,9 @@ std::string fileHead(std::string_view title, const Graph& g, const ScheduleChoic
 std::string scaleFactors(int n, const Constant& bySqrtN, const registry::Element& element,
                          int lanes);
 
+// The layout of a family's packed spectrum as a type; empty where it has none.
+std::string packedLayout(const registry::Family& family, int n);
+
 // The file of a kernel on real data: its graph as a transform, its scale factors, and `functions`,
 // which run the type `Kernel`.
 struct RealKernelFile {

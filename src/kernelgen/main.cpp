@@ -124,11 +124,15 @@ void writeResult(const Arguments& arguments, const std::string& text) {
         writeFile(file, text);
 }
 
+std::string fileName(std::string_view source, int length, const registry::Element& element) {
+    return std::string(source) + "_" + std::to_string(length) + "_" + std::string(element.suffix) +
+           ".cpp";
+}
+
 void build(const Arguments& arguments) {
     OutputFolder folder(arguments.required("--output"));
     for (const auto& [below, source, length, element] : kernelFiles())
-        folder.write(fs::path(below) / (std::string(source) + "_" + std::to_string(length) + "_" +
-                                        std::string(element->suffix) + ".cpp"),
+        folder.write(fs::path(below) / fileName(source, length, *element),
                      kernelSource(source, length, *element, target(arguments)));
     folder.write("core/generic_entries.cpp", genericEntries());
     folder.write("registry/functions.cpp", functionsTable());
@@ -140,8 +144,7 @@ void buildRows(const Arguments& arguments) {
     OutputFolder folder(arguments.required("--output"));
     for (const auto& [below, source, length, element] : kernelFiles())
         if (kernelFamily(source).graphOf)
-            folder.write("rows/" + std::string(source) + "_" + std::to_string(length) + "_" +
-                             std::string(element->suffix) + ".cpp",
+            folder.write(fs::path("rows") / fileName(source, length, *element),
                          rowsKernelSource(kernelFamily(source), length, *element,
                                           target(arguments)));
     folder.write("rows/entries.cpp", rowsEntries());

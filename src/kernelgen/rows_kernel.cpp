@@ -71,11 +71,11 @@ std::string transformStruct(const KernelFamily& kernels, const Family& family, i
 }
 
 // How source and destination of a family are laid out.
-std::string layouts(const Family& family) {
-    for (const std::string packed : {"CCS", "Pack", "Perm"})
-        if (family.name.find(packed) != std::string_view::npos)
-            return family.inverse() ? packed + ", Plain" : "Plain, " + packed;
-    return "Plain, Plain";
+std::string layouts(const Family& family, int length) {
+    const std::string plain = "Plain<" + std::to_string(length) + ">";
+    const std::string packed = packedLayout(family, length);
+    if (packed.empty()) return plain + ", " + plain;
+    return family.inverse() ? packed + ", " + plain : plain + ", " + packed;
 }
 
 std::string rowsFunction(const Family& family, int length, const Element& element) {
@@ -89,19 +89,14 @@ std::string jobParameter(const Element& element) {
 }
 
 std::string function(const Family& family, int length, const Element& element, RowsForm form) {
-    const std::string transform = direction(family) + "Transform, ";
-    const std::string run = form == RowsForm::single  ? "runSingly<"
-                            : form == RowsForm::pairs ? "runInPairs<" + transform
-                                                      : "runInLanes<" + transform;
-    return "KfmStatus " + rowsFunction(family, length, element) + jobParameter(element) +
-           " {\n    return " + run + std::to_string(length) + ", " + layouts(family) + ">(job, " +
+    const std::string run = form == RowsForm::pairs ? "runInPairs<" : "runInLanes<";
+    const std::string how =
+        form == RowsForm::single
+            ? "runSingly<"
+            : run + direction(family) + "Transform, " + std::to_string(length) + ", ";
+    return "void " + rowsFunction(family, length, element) + jobParameter(element) + " {\n    " +
+           how + layouts(family, length) + ">(job, " +
            registry::functionName(family, length, element) + ");\n}\n";
-}
-
-template <class Visit>
-void forEachEntry(Visit visit) {
-    for (const Family& family : registry::families())
-        for (const Element* element : family.elements) visit(family, *element);
 }
 
 std::string parameters(const Family& family, const Element& element) {
@@ -168,11 +163,11 @@ std::string rowsKernelSource(const KernelFamily& kernels, int length, const Elem
 std::string rowsEntries() {
     std::ostringstream out;
     out << "// Made by kernelgen from the registry. Do not edit.\n#include \"rows/entry.h\"\n\n";
-    forEachEntry([&](const Family& family, const Element& element) {
+    forEachVariant([&](const Family& family, const Element& element) {
         if (family.byOrder) return;
         out << "namespace kfm::rows {\n";
         for (int length = family.first; length <= family.last; ++length)
-            out << "KfmStatus " << rowsFunction(family, length, element) << jobParameter(element)
+            out << "void " << rowsFunction(family, length, element) << jobParameter(element)
                 << ";\n";
         out << "}\n\nextern \"C\" KfmStatus " << registry::rowsName(family, element)
             << parameters(family, element) << " {\n"
@@ -180,7 +175,7 @@ std::string rowsEntries() {
         for (int length = family.first; length <= family.last; ++length)
             out << "        kfm::rows::" << rowsFunction(family, length, element) << ",\n";
         out << "    };\n    return kfm::rows::call<" << element.type << ">(functions, " << family.first
-            << ", length,\n        {src, srcStride, srcDistance, dst, dstStride, dstDistance, rows, "
+            << ", length,\n        {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, "
                "flag});\n}\n\n";
     });
     return out.str();
@@ -188,7 +183,7 @@ std::string rowsEntries() {
 
 std::string withRowsDeclarations(std::string_view header) {
     std::string text;
-    forEachEntry([&](const Family& family, const Element& element) {
+    forEachVariant([&](const Family& family, const Element& element) {
         text += "KFM_API KfmStatus " + registry::rowsName(family, element) +
                 parameters(family, element) + ";\n";
     });

@@ -56,7 +56,7 @@ void sendOutColumns(const Real* buffer, int slots, Side<Real> dst) {
 }   // namespace
 
 template <int rows, int numbers, class Real>
-void runAnySpacing(Remaining<Real> left, const BufferKernel<Real>& kernel) {
+void runAnySpacing(Job<Real> left, const BufferKernel<Real>& kernel) {
     alignas(32) Real in[mostSlots * rows], out[mostSlots * rows];
     for (const int slot : kernel.zeros) std::fill_n(out + slot * rows, rows, Real(0));
     while (left.rows > 0) {
@@ -74,9 +74,9 @@ void runAnySpacing(Remaining<Real> left, const BufferKernel<Real>& kernel) {
 
 // As many rows as the lanes of the widest vector: complex elements of single precision, real ones of
 // single precision that are computed in double precision, real ones of double precision.
-template void runAnySpacing<simd::vectorBytes / 4, 2>(Remaining<float>, const BufferKernel<float>&);
-template void runAnySpacing<simd::vectorBytes / 8, 1>(Remaining<float>, const BufferKernel<float>&);
-template void runAnySpacing<simd::vectorBytes / 8, 1>(Remaining<double>,
+template void runAnySpacing<simd::vectorBytes / 4, 2>(Job<float>, const BufferKernel<float>&);
+template void runAnySpacing<simd::vectorBytes / 8, 1>(Job<float>, const BufferKernel<float>&);
+template void runAnySpacing<simd::vectorBytes / 8, 1>(Job<double>,
                                                       const BufferKernel<double>&);
 
 }   // namespace kfm::rows

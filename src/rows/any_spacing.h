@@ -21,30 +21,8 @@ struct BufferKernel {
     std::array<int, 2> zeros;
 };
 
-// The rows of a call that are left.
-template <class Real>
-struct Remaining {
-    Side<const Real> src;
-    Side<Real> dst;
-    std::ptrdiff_t rows;
-
-    template <class Job>
-    Remaining(const Job& job, int numbers)
-        : src{reinterpret_cast<const Real*>(job.src), job.srcStride * numbers,
-              job.srcDistance * numbers},
-          dst{reinterpret_cast<Real*>(job.dst), job.dstStride * numbers, job.dstDistance * numbers},
-          rows(job.rows) {}
-
-    void advance(int count) {
-        rows -= count;
-        if (rows == 0) return;   // there may be no address behind the last row
-        src.data += count * src.distance;
-        dst.data += count * dst.distance;
-    }
-};
-
 // `numbers`: of an element.
 template <int rows, int numbers, class Real>
-void runAnySpacing(Remaining<Real> left, const BufferKernel<Real>& kernel);
+void runAnySpacing(Job<Real> left, const BufferKernel<Real>& kernel);
 
 }   // namespace kfm::rows

@@ -1,7 +1,7 @@
 // Rows of the DCT-IV: one after the other, each through a contiguous copy where its elements are not
 // side by side.
+#include "core/work_buffer.h"
 #include "dct4/root.h"
-#include "kfmcore.h"
 #include "kfmrows.h"
 #include "rows/strided_row.h"
 
@@ -12,21 +12,18 @@ template <class Real, class Spec>
 KfmStatus transform(const Job<Real>& job, const Spec* spec,
                     KfmStatus (*single)(const Real*, Real*, const Spec*)) {
     if (job.rows < 0) return kfmErrSize;
-    if (spec == nullptr || job.src == nullptr || job.dst == nullptr) return kfmErrNullPtr;
+    if (spec == nullptr || job.src.data == nullptr || job.dst.data == nullptr) return kfmErrNullPtr;
     const auto* root = reinterpret_cast<const dct4::Env1<Real>*>(spec);
     if (!root->planned()) return kfmErrBadSpec;
     if (job.rows == 0) return kfmOk;
     const std::int64_t row = root->len * std::int64_t{sizeof(Real)};
-    void* owned = nullptr;
-    if (job.dstStride != 1 && row > rowOnStack) {
-        owned = kfmMalloc(static_cast<int>(row));
-        if (owned == nullptr) return kfmErrNullPtr;
-    }
+    const bool needsCopy = job.dst.stride != 1 && row > rowOnStack;
+    const WorkBuffer copy(nullptr, needsCopy ? row : 0);
+    if (needsCopy && copy.template as<Real>() == nullptr) return kfmErrNullPtr;
     KfmStatus status = kfmOk;
-    forEachRow(job, root->len, static_cast<Real*>(owned), [&](const Real* src, Real* dst) {
+    forEachRow(job, root->len, copy.template as<Real>(), [&](const Real* src, Real* dst) {
         if (status == kfmOk) status = single(src, dst, spec);
     });
-    if (owned != nullptr) kfmFree(owned);
     return status;
 }
 
@@ -39,8 +36,8 @@ KfmStatus transform(const Job<Real>& job, const Spec* spec,
         ptrdiff_t dstStride, ptrdiff_t dstDistance, ptrdiff_t rows,                               \
         const KfmDCT4Spec_##precision* spec) {                                                    \
         return kfm::rows::transform<Real>(                                                        \
-            {src, srcStride, srcDistance, dst, dstStride, dstDistance, rows, kfmScaleNone}, spec, \
-            kfmgDCT4_##precision);                                                                \
+            {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, kfmScaleNone},   \
+            spec, kfmgDCT4_##precision);                                                          \
     }
 
 KFM_ROWS_OF_DCT4(32f, Kfm32f)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "rows/operations.h"
+#include "rows/transpose.h"
 
 namespace kfm::rows {
 
@@ -57,34 +58,25 @@ struct PackedWriter : PlainWriter<Real, rows> {
 };
 
 #ifdef __AVX2__
-// A complex element of two rows, `distance` elements apart, in the halves of a vector.
-class PairReader {
-public:
-    PairReader(const Kfm64fc* low, std::ptrdiff_t distance) : low_(low), distance_(distance) {}
+// A complex element of two rows, `distance` numbers apart, in the halves of a vector.
+struct PairReader {
+    const double* low;
+    std::ptrdiff_t distance;
 
     KFM_OPERATION simd::f64x4 load(int i) const {
-        return simd::join<0, 0>(half(low_ + i), half(low_ + distance_ + i));
+        return RowPart<double, true>::load(low + 2 * i, distance);
     }
     KFM_OPERATION static simd::f64x2 everywhere(const double* factor) {
         return simd::broadcast(factor);
     }
-
-private:
-    KFM_OPERATION static simd::f64x4 half(const Kfm64fc* element) {
-        return simd::asLower(simd::loadUnaligned<simd::f64x2>(&element->re));
-    }
-
-    const Kfm64fc* low_;
-    std::ptrdiff_t distance_;
 };
 
 struct PairWriter {
-    Kfm64fc* low;
+    double* low;
     std::ptrdiff_t distance;
 
     KFM_OPERATION void store(int i, simd::f64x4 v) const {
-        simd::storeUnaligned(&low[i].re, simd::lower(v));
-        simd::storeUnaligned(&low[distance + i].re, simd::upper(v));
+        RowPart<double, true>::store(low + 2 * i, distance, v);
     }
 };
 #endif

@@ -1,41 +1,29 @@
-// Where the values of one row stand, in memory and in the buffers of a group: values in the order of
-// a packed spectrum, as slots of an array.
+// Where the values of one row stand, in memory and in the buffers of a group: in the slots of an array.
+// A layout is Plain or one of a packed spectrum.
 #pragma once
 
 #include <array>
 
+#include "core/packed_layouts.h"
+
 namespace kfm::rows {
 
-// A value after the other; two of them are a complex element.
+// A value after the other.
+template <int values>
 struct Plain {
-    static constexpr bool packed = false;
-    static constexpr int slots(int values) { return values; }
-    // Slots of a result that hold no value; slot 0 is written anyway.
-    static constexpr std::array<int, 2> zeros(int) { return {}; }
+    static constexpr int slots = values;
 };
 
-// Packed spectra: value 0 stands in slot 0, the last of an even number in slot `last`, the others
-// follow each other from slot `first` on.
-struct Pack : Plain {
-    static constexpr bool packed = true;
-    static constexpr int first(int) { return 1; }
-    static constexpr int last(int values) { return values - 1; }
-};
+template <class Layout>
+concept Packed = requires { Layout::at(0); };
+template <class Layout>
+concept WithZeros = requires { Layout::zeros[0]; };
 
-struct Perm : Pack {
-    static constexpr int first(int values) { return values % 2 == 0 ? 2 : 1; }
-    static constexpr int last(int) { return 1; }
-};
-
-// With the imaginary parts that are always zero: slot 1, and slot n + 1 of an even number.
-struct CCS {
-    static constexpr bool packed = true;
-    static constexpr int slots(int values) { return values % 2 == 0 ? values + 2 : values + 1; }
-    static constexpr int first(int) { return 2; }
-    static constexpr int last(int values) { return values; }
-    static constexpr std::array<int, 2> zeros(int values) {
-        return {1, values % 2 == 0 ? values + 1 : 1};
-    }
-};
+// Slots of a result that hold no value; without any it is slot 0, which is written anyway.
+template <class Layout>
+constexpr std::array<int, 2> zeroSlots() {
+    if constexpr (WithZeros<Layout>) return {Layout::zeros[0], Layout::zeros[1]};
+    else return {};
+}
 
 }   // namespace kfm::rows

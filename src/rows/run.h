@@ -9,6 +9,7 @@
 #include "rows/group.h"
 #include "rows/job.h"
 #include "rows/places.h"
+#include "rows/strided_row.h"
 #include "rows/transpose.h"
 
 namespace kfm::rows {
@@ -22,16 +23,16 @@ using RealOf = std::conditional_t<sizeof(Element) / width<Element> == 4, float, 
 
 template <class Real, int rows, int n, class Layout>
 auto reader(const Real* buffer) {
-    if constexpr (!Layout::packed) return PlainReader<Real, rows>{buffer};
-    else return PackedReader<Real, rows, n>{{buffer}, buffer + Layout::first(n) * rows,
-                                            buffer + Layout::last(n) * rows};
+    if constexpr (!Packed<Layout>) return PlainReader<Real, rows>{buffer};
+    else return PackedReader<Real, rows, n>{{buffer}, buffer + Layout::at(1) * rows,
+                                            buffer + Layout::at(n - 1) * rows};
 }
 
 template <class Real, int rows, int n, class Layout>
 auto writer(Real* buffer) {
-    if constexpr (!Layout::packed) return PlainWriter<Real, rows>{buffer};
-    else return PackedWriter<Real, rows, n>{{buffer}, buffer + Layout::first(n) * rows,
-                                            buffer + Layout::last(n) * rows};
+    if constexpr (!Packed<Layout>) return PlainWriter<Real, rows>{buffer};
+    else return PackedWriter<Real, rows, n>{{buffer}, buffer + Layout::at(1) * rows,
+                                            buffer + Layout::at(n - 1) * rows};
 }
 
 // One text for all layouts of a spectrum and all spacings.
@@ -47,19 +48,19 @@ void transformBuffers(const Real* in, Real* out, const Real* factor) {
 }
 
 template <class Transform, int n, class In, class Out, class Element>
-KfmStatus runInLanes(const Job<Element>& job, Single<Element>* single) {
+void runInLanes(const Job<Element>& job, Single<Element>* single) {
     using Real = RealOf<Element>;
     constexpr int rows = Transform::rows, numbers = width<Element>;
-    constexpr int inSlots = In::slots(n * numbers), outSlots = Out::slots(n * numbers);
+    constexpr int inSlots = In::slots * numbers, outSlots = Out::slots * numbers;
     const Real* factor = chooseScale<Transform::direction>(Transform::scales, job.flag);
-    Remaining<Real> left(job, numbers);
+    Job<Real> left = onNumbers<Real>(job);
     if constexpr (inSlots >= Block<Real, rows>::columns && outSlots >= Block<Real, rows>::columns)
-        if (job.srcStride == 1 && job.dstStride == 1) {
+        if (job.contiguous()) {
             // Of short rows the values stay in registers.
             constexpr bool inRegisters = inSlots <= 16;
             alignas(32) Real in[inSlots * rows], out[outSlots * rows];
-            if constexpr (Out::packed)
-                for (const int slot : Out::zeros(n))
+            if constexpr (WithZeros<Out>)
+                for (const int slot : zeroSlots<Out>())
                     for (int row = 0; row < rows; ++row) out[slot * rows + row] = 0;
             for (; left.rows >= rows; left.advance(rows)) {
                 bringInBlocks<rows, inSlots>(left.src, in);
@@ -75,59 +76,48 @@ KfmStatus runInLanes(const Job<Element>& job, Single<Element>* single) {
         }
     if (left.rows > 0)
         runAnySpacing<rows, numbers>(left, {transformBuffers<Transform, n, In, Out, Real>, factor,
-                                            inSlots, outSlots, Out::zeros(n)});
-    return kfmOk;
+                                            inSlots, outSlots, zeroSlots<Out>()});
 }
 
-// Rows of elements, moved to contiguous rows and back.
-template <int inLength, int outLength, int count, class Element, class Transform>
-void throughCopies(const Job<Element>& left, Transform transform) {
-    Element in[count * inLength], out[count * outLength];
-    for (int row = 0; row < count; ++row)
-        for (int k = 0; k < inLength; ++k)
-            in[row * inLength + k] = left.src[k * left.srcStride + row * left.srcDistance];
-    transform(in, inLength, out, outLength);
-    for (int row = 0; row < count; ++row)
-        for (int k = 0; k < outLength; ++k)
-            left.dst[k * left.dstStride + row * left.dstDistance] = out[row * outLength + k];
-}
-
-template <class Element>
-void advance(Job<Element>& left, int count) {
-    left.rows -= count;
-    if (left.rows == 0) return;   // there may be no address behind the last row
-    left.src += count * left.srcDistance;
-    left.dst += count * left.dstDistance;
-}
-
-// Groups of `count` rows as transform(src, distance, dst, distance) of contiguous ones.
+// Groups of `count` rows as transform(src, distance, dst, distance) of contiguous ones, which rows
+// with strides are copied to and from.
 template <int inLength, int outLength, int count, class Element, class Transform>
 void forEachGroup(Job<Element>& left, Transform transform) {
-    const bool contiguous = left.srcStride == 1 && left.dstStride == 1;
-    for (; left.rows >= count; advance(left, count)) {
-        if (contiguous) transform(left.src, left.srcDistance, left.dst, left.dstDistance);
-        else throughCopies<inLength, outLength, count>(left, transform);
+    const bool contiguous = left.contiguous();
+    for (; left.rows >= count; left.advance(count)) {
+        const auto [src, srcStride, srcDistance] = left.src;
+        const auto [dst, dstStride, dstDistance] = left.dst;
+        if (contiguous) {
+            transform(src, srcDistance, dst, dstDistance);
+            continue;
+        }
+        Element in[count * inLength], out[count * outLength];
+        for (int row = 0; row < count; ++row)
+            copyStrided(src + row * srcDistance, srcStride, in + row * inLength, 1, inLength);
+        transform(in, inLength, out, outLength);
+        for (int row = 0; row < count; ++row)
+            copyStrided(out + row * outLength, 1, dst + row * dstDistance, dstStride, outLength);
     }
 }
 
-template <int n, class In, class Out, class Element>
-KfmStatus runSingly(Job<Element> left, Single<Element>* single) {
-    forEachGroup<In::slots(n), Out::slots(n), 1>(
+template <class In, class Out, class Element>
+void runSingly(Job<Element> left, Single<Element>* single) {
+    forEachGroup<In::slots, Out::slots, 1>(
         left, [&](const Element* src, std::ptrdiff_t, Element* dst, std::ptrdiff_t) {
             single(src, dst, left.flag);
         });
-    return kfmOk;
 }
 
 #ifdef __AVX2__
 template <class Transform, int n, class In, class Out>
-KfmStatus runInPairs(Job<Kfm64fc> left, Single<Kfm64fc>* single) {
+void runInPairs(Job<Kfm64fc> left, Single<Kfm64fc>* single) {
     const double* factor = chooseScale<Transform::direction>(Transform::scales, left.flag);
     forEachGroup<n, n, 2>(left, [&](const Kfm64fc* src, std::ptrdiff_t srcDistance, Kfm64fc* dst,
-                                 std::ptrdiff_t dstDistance) {
-        Transform::run(PairReader(src, srcDistance), PairWriter{dst, dstDistance}, factor);
+                                    std::ptrdiff_t dstDistance) {
+        Transform::run(PairReader{&src->re, 2 * srcDistance}, PairWriter{&dst->re, 2 * dstDistance},
+                       factor);
     });
-    return left.rows == 0 ? kfmOk : runSingly<n, In, Out>(left, single);
+    if (left.rows > 0) runSingly<In, Out>(left, single);
 }
 #endif
 

@@ -11,17 +11,21 @@ namespace kfm::rows {
 // Rows of up to so many bytes are copied to the stack.
 inline constexpr std::int64_t rowOnStack = 8192;
 
+template <class Element>
+void copyStrided(const Element* from, std::ptrdiff_t stride, Element* to, std::ptrdiff_t toStride,
+                 int length) {
+    for (int k = 0; k < length; ++k) to[k * toStride] = from[k * stride];
+}
+
 // Through contiguous rows of the destination themselves, else through `copy`.
 template <class Real, class Transform>
-void throughCopy(const Job<Real>& job, int length, Real* copy, Transform transform) {
-    for (std::ptrdiff_t row = 0; row < job.rows; ++row) {
-        const Real* from = job.src + row * job.srcDistance;
-        Real* to = job.dst + row * job.dstDistance;
-        Real* contiguous = job.dstStride == 1 ? to : copy;
-        for (int k = 0; k < length; ++k) contiguous[k] = from[k * job.srcStride];
+void throughCopy(Job<Real> job, int length, Real* copy, Transform transform) {
+    for (; job.rows > 0; job.advance(1)) {
+        Real* contiguous = job.dst.stride == 1 ? job.dst.data : copy;
+        copyStrided(job.src.data, job.src.stride, contiguous, 1, length);
         transform(contiguous, contiguous);
-        if (contiguous == to) continue;
-        for (int k = 0; k < length; ++k) to[k * job.dstStride] = contiguous[k];
+        if (contiguous != job.dst.data)
+            copyStrided(contiguous, 1, job.dst.data, job.dst.stride, length);
     }
 }
 
@@ -34,10 +38,9 @@ template <class Real, class Transform>
 // Calls transform(src, dst) for each row of `length`. Longer rows than the stack takes are copied to
 // `copy`, unless those of the destination are contiguous.
 template <class Real, class Transform>
-void forEachRow(const Job<Real>& job, int length, Real* copy, Transform transform) {
-    if (job.srcStride == 1 && job.dstStride == 1)
-        for (std::ptrdiff_t row = 0; row < job.rows; ++row)
-            transform(job.src + row * job.srcDistance, job.dst + row * job.dstDistance);
+void forEachRow(Job<Real> job, int length, Real* copy, Transform transform) {
+    if (job.contiguous())
+        for (; job.rows > 0; job.advance(1)) transform(job.src.data, job.dst.data);
     else if (length * std::int64_t{sizeof(Real)} <= rowOnStack)
         throughStack(job, length, transform);
     else throughCopy(job, length, copy, transform);

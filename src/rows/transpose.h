@@ -3,18 +3,10 @@
 
 #include <cstddef>
 
+#include "rows/job.h"
 #include "rows/operations.h"
 
-#define KFM_INLINED __attribute__((always_inline))
-
 namespace kfm::rows {
-
-// Values of `width` numbers: number i of value k of row r stands at k * stride + r * distance + i.
-template <class Real>
-struct Side {
-    Real* data;
-    std::ptrdiff_t stride, distance;
-};
 
 // 16 bytes of a row, or in wider vectors of two rows `columns` apart.
 template <class Real, bool wide>
@@ -105,7 +97,7 @@ KFM_OPERATION void forEachBlock(Body body) {
 template <int rows, int slots, class Real>
 KFM_OPERATION void bringInBlocks(Side<const Real> src, Real* buffer) {
     using RowBlock = Block<Real, rows>;
-    forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINED {
+    forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINE {
         RowBlock::in(src.data + at, src.distance, buffer + at * rows);
     });
 }
@@ -113,7 +105,7 @@ KFM_OPERATION void bringInBlocks(Side<const Real> src, Real* buffer) {
 template <int rows, int slots, class Real>
 KFM_OPERATION void sendOutBlocks(const Real* buffer, Side<Real> dst) {
     using RowBlock = Block<Real, rows>;
-    forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINED {
+    forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINE {
         RowBlock::out(buffer + at * rows, dst.data + at, dst.distance);
     });
 }

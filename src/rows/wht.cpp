@@ -1,19 +1,12 @@
 // Rows of the Walsh-Hadamard transform: one after the other, each through a contiguous copy where its
 // elements are not side by side.
-#include <algorithm>
-
-#include "kfmcore.h"
-#include "kfmrows.h"
+#include "core/work_buffer.h"
 #include "rows/entry.h"
 #include "rows/strided_row.h"
 #include "wht/blocking.h"
 
 namespace kfm::rows {
 namespace {
-
-constexpr int lastOrder = std::end(wht::singleBlockings)[-1].order();
-
-bool refused(int order) { return static_cast<unsigned>(order) - 1 > lastOrder - 1; }
 
 // For one transform, and behind it for a copy of a row that is too long for the stack.
 template <class Real>
@@ -28,25 +21,23 @@ std::int64_t bufferBytes(int order) {
 
 template <class Real>
 KfmStatus bufferSize(int order, int* size) {
-    if (refused(order)) return kfmErrSize;
+    if (!wht::isOrder(order)) return kfmErrSize;
     *size = static_cast<int>(bufferBytes<Real>(order));
     return kfmOk;
 }
 
 template <class Real>
-KfmStatus transform(Job<Real> job, int order, Kfm8u* buffer,
+KfmStatus transform(const Job<Real>& job, int order, Kfm8u* buffer,
                     KfmStatus (*single)(const Real*, Real*, int, int, Kfm8u*)) {
-    if (refused(order) || job.rows < 0) return kfmErrSize;
-    if (job.src == nullptr || job.dst == nullptr) return kfmErrNullPtr;
-    if (!isFlag(job.flag)) return kfmErrFlag;
-    if (job.rows == 0) return kfmOk;
+    if (!wht::isOrder(order) || job.rows < 0) return kfmErrSize;
+    const KfmStatus status = checkPointersAndFlag(job);
+    if (status != kfmOk || job.rows == 0) return status;
     const std::int64_t bytes = bufferBytes<Real>(order);
-    void* owned = bytes > 0 && buffer == nullptr ? kfmMalloc(static_cast<int>(bytes)) : nullptr;
-    if (owned != nullptr) buffer = static_cast<Kfm8u*>(owned);
-    if (bytes > 0 && buffer == nullptr) return kfmErrNullPtr;
-    forEachRow(job, 1 << order, reinterpret_cast<Real*>(buffer + transformBytes<Real>(order)),
-               [&](const Real* src, Real* dst) { single(src, dst, order, job.flag, buffer); });
-    if (owned != nullptr) kfmFree(owned);
+    const WorkBuffer work(buffer, bytes);
+    auto* const block = work.template as<Kfm8u>();
+    if (bytes > 0 && block == nullptr) return kfmErrNullPtr;
+    forEachRow(job, 1 << order, reinterpret_cast<Real*>(block + transformBytes<Real>(order)),
+               [&](const Real* src, Real* dst) { single(src, dst, order, job.flag, block); });
     return kfmOk;
 }
 
@@ -62,7 +53,7 @@ KfmStatus transform(Job<Real> job, int order, Kfm8u* buffer,
         ptrdiff_t dstStride, ptrdiff_t dstDistance, int order, ptrdiff_t rows, int flag,          \
         Kfm8u* buffer) {                                                                          \
         return kfm::rows::transform<Real>(                                                        \
-            {src, srcStride, srcDistance, dst, dstStride, dstDistance, rows, flag}, order,        \
+            {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, flag}, order,    \
             buffer, kfmgWHT_##precision);                                                         \
     }
 

@@ -4,6 +4,9 @@
 
 #define KFM_OPERATION [[gnu::always_inline]] inline
 
+// Of functions and lambdas that must vanish: their arguments turn into registers and constants.
+#define KFM_INLINE __attribute__((always_inline))
+
 namespace kfm::simd {
 
 // Whether vectors move from and to any address as fast as from and to aligned ones.

@@ -28,6 +28,10 @@ inline constexpr Blocking doubleBlockings[] = {
     {5, 3, 0}, {5, 4, 0}, {7, 3, 0}, {5, 3, 3}, {5, 3, 4}, {7, 3, 3},
 };
 
+// Both precisions have the same orders.
+inline constexpr int lastOrder = std::end(singleBlockings)[-1].order();
+constexpr bool isOrder(int order) { return order >= 1 && order <= lastOrder; }
+
 // Nothing for the orders below, which take one pass and no buffer.
 constexpr std::optional<Blocking> findBlocking(bool doublePrecision, int order) {
     const std::span<const Blocking> rows =

@@ -5,8 +5,7 @@
 namespace {
 
 KfmStatus bufferSize(bool doublePrecision, int order, int* size) {
-    constexpr int last = std::end(kfm::wht::singleBlockings)[-1].order();
-    if (static_cast<unsigned>(order) - 1 > last - 1) return kfmErrSize;
+    if (!kfm::wht::isOrder(order)) return kfmErrSize;
     *size = static_cast<int>(kfm::wht::bufferBytes(doublePrecision, order));
     return kfmOk;
 }

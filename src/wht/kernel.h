@@ -5,32 +5,10 @@
 #include <numbers>
 
 #include "core/run_kernel.h"
-#include "kfmcore.h"
+#include "core/work_buffer.h"
 #include "wht/passes.h"
 
 namespace kfm::wht {
-
-// The caller's block, or one of its own for the time of a call.
-class WorkBuffer {
-public:
-    WorkBuffer(Kfm8u* callers, std::int64_t bytes)
-        : owned_(callers ? nullptr : kfmMalloc(static_cast<int>(bytes))),
-          block_(callers ? callers : owned_) {}
-    ~WorkBuffer() {
-        if (owned_) kfmFree(owned_);
-    }
-    WorkBuffer(const WorkBuffer&) = delete;
-    WorkBuffer& operator=(const WorkBuffer&) = delete;
-
-    template <class Real>
-    Real* as() const {
-        return static_cast<Real*>(block_);
-    }
-
-private:
-    void* owned_;
-    void* block_;
-};
 
 template <class Real, int order>
 struct Kernel {

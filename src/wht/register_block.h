@@ -8,9 +8,6 @@
 
 #include "simd/reals.h"
 
-// Of functions and lambdas that must vanish: their arguments turn into registers and constants.
-#define KFM_INLINE __attribute__((always_inline))
-
 namespace kfm::wht {
 
 // More vectors at once than 2^3 spill: half of the registers hold values, and sums need copies.

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "support/buffer.h"
+#include "support/signal.h"
 
 namespace kfm::tests {
 
-using Bytes = std::vector<std::byte>;
 using Offset = std::ptrdiff_t;
 
 // Where elements stand: element k of row r at k * stride + r * distance.

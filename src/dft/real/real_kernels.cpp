@@ -35,16 +35,8 @@ Constant twoStepInverseSqrt(int n) {
     return Constant(Constant::Wide(1.0 / std::sqrt(static_cast<double>(n))));
 }
 
-std::string layout(const Family& family, int n) {
-    const auto names = {std::pair{"CCS", "Ccs"}, {"Pack", "Pack"}, {"Perm", "Perm"}};
-    for (const auto& [name, type] : names)
-        if (family.name.find(name) != std::string_view::npos)
-            return std::string("kfm::") + type + "Layout<" + std::to_string(n) + ">";
-    return {};
-}
-
 std::string function(const Family& family, int n, const Element& element) {
-    const std::string type(element.type), packed = layout(family, n);
+    const std::string type(element.type), packed = packedLayout(family, n);
     const bool zeros = !family.inverse() && packed.find("Ccs") != std::string::npos;
     std::ostringstream out;
     out << "KfmStatus " << registry::functionName(family, n, element) << "(const " << type
