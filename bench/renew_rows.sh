@@ -1,7 +1,8 @@
 #!/bin/sh
 # renew_rows.sh <target of the generator> <table>...: which rows go singly, from tables of rowsbench
-# that were measured with all rows in groups (an empty src/rows/singly.def). A length counts as slower
-# where it is so by more than 2 % for any function of its kernels, of each side the best of all tables.
+# that were measured with all rows in groups (an empty src/rows/singly.def), contiguous ones and
+# columns. A length counts as slower where it is so by more than 2 % for any function of its kernels,
+# of each side the best of all tables.
 set -eu
 target=$1
 shift
@@ -14,10 +15,11 @@ file=$(dirname "$0")/../src/rows/singly.def
             count = split($1, part, "_")
             source = $1 ~ /CToC/ ? "DFT_CToC" : $1 ~ /RTo/ ? "DFTFwd_RToPacked" \
                    : $1 ~ /ToR_/ ? "DFTInv_PackedToR" : "Hartley"
-            name = $1
+            name = $2 " " $1
+            spacing = $2 ~ /columns/ ? "spaced" : "contiguous"
             if (!(name in best) || $4 < best[name]) best[name] = $4
             if (!(name in single) || $5 < single[name]) single[name] = $5
-            kernel[name] = source ", " part[count]
+            kernel[name] = source ", " part[count] ", " spacing
             length_of[name] = part[count - 1]
         }
         END {

@@ -40,6 +40,12 @@ std::vector<ScheduleChoice> scheduleCandidates() {
     return candidates;
 }
 
+std::vector<ScheduleChoice> rowsCandidates() {
+    return {{24, 0, false, Pin::none, false}, {24, 0, false, Pin::sums, false},
+            {24, 0, true, Pin::sums, false},  {6, 0, false, Pin::sums, false},
+            {80, 0, false, Pin::none, false}, {80, 0, true, Pin::all, false}};
+}
+
 std::vector<ScheduleChoice> pairingCandidates(const Graph& g, const ScheduleChoice& recorded,
                                               int times) {
     std::vector<std::vector<PairingChoice>> ways = {{}};

@@ -8,6 +8,8 @@
 namespace kfm::kernelgen {
 
 std::vector<ScheduleChoice> scheduleCandidates();
+// Few, because kernels of rows are many: what won where rows were tried in all of the above.
+std::vector<ScheduleChoice> rowsCandidates();
 // The same for vectors that pairs fill, in two rounds: the cheapest pairings, so many times one
 // after the other at most, and none, in the order on record and in one that often wins; then other
 // orders of the winner.

@@ -93,6 +93,16 @@ std::vector<KernelFile> kernelFiles() {
 
 std::string kernelSource(std::string_view source, int length, const Element& element,
                          const Target& target, std::string_view choice) {
+    if (source.starts_with(rowsFolder)) {
+        source.remove_prefix(rowsFolder.size());
+        const KernelFamily& family = kernelFamily(source);
+        if (choice.empty())
+            return rowsKernelSource(family, length, element, target,
+                                    rowsForms(source, length, element, target),
+                                    rowsSchedule(source, length, element, target));
+        return rowsKernelSource(family, length, element, target, widestForms(element, target),
+                                ScheduleChoice::parse(choice));
+    }
     const KernelFamily& family = kernelFamily(source);
     return family.emit(length, element, target,
                        !family.choice   ? ScheduleChoice()
@@ -103,6 +113,8 @@ std::string kernelSource(std::string_view source, int length, const Element& ele
 
 std::vector<ScheduleChoice> candidates(std::string_view source, int length, const Element& element,
                                        const Target& target, std::string_view winner) {
+    if (source.starts_with(rowsFolder))
+        return winner.empty() ? rowsCandidates() : std::vector<ScheduleChoice>();
     const KernelFamily& family = kernelFamily(source);
     if (!family.graph)
         throw std::invalid_argument(std::string(source) + " kernels have no schedules");

@@ -19,7 +19,11 @@ struct KernelFile {
 };
 std::vector<KernelFile> kernelFiles();
 
-// The source of one kernel; an empty schedule takes the one on record.
+// Before the name of a source: its kernels for rows.
+inline constexpr std::string_view rowsFolder = "rows/";
+
+// The source of one kernel; an empty schedule takes the one on record. Given one, a kernel of rows
+// takes all of them in groups.
 std::string kernelSource(std::string_view source, int length, const registry::Element& element,
                          const Target& target, std::string_view schedule = {});
 

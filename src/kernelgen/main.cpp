@@ -144,9 +144,9 @@ void buildRows(const Arguments& arguments) {
     OutputFolder folder(arguments.required("--output"));
     for (const auto& [below, source, length, element] : kernelFiles())
         if (kernelFamily(source).graphOf)
-            folder.write(fs::path("rows") / fileName(source, length, *element),
-                         rowsKernelSource(kernelFamily(source), length, *element,
-                                          target(arguments)));
+            folder.write(fs::path(rowsFolder) / fileName(source, length, *element),
+                         kernelSource(std::string(rowsFolder) + std::string(source), length,
+                                      *element, target(arguments)));
     folder.write("rows/entries.cpp", rowsEntries());
     folder.write("kfmrows.map", symbolMap(registry::exportedRowsNames()));
     folder.removeOthers();

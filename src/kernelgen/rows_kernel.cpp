@@ -1,7 +1,5 @@
 #include "kernelgen/rows_kernel.h"
 
-#include <algorithm>
-#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -44,6 +42,14 @@ std::string realType(const Element& element) {
     return element.doublePrecision ? "double" : "float";
 }
 
+// What a vector has one of for every row, and how many of them an element is.
+std::string values(const Element& element, RowsForm form) {
+    const bool lanes = form == RowsForm::lanes;
+    return "    using Value = " + (lanes ? realType(element) : std::string(element.type)) +
+           ";\n    static constexpr int perElement = " +
+           (lanes && element.complex ? "2" : "1") + ";\n";
+}
+
 std::string direction(const Family& family) {
     if (family.inverse()) return "inverse";
     return family.name.starts_with("DFTFwd") ? "forward" : "both";
@@ -51,14 +57,15 @@ std::string direction(const Family& family) {
 
 // The transform of one direction as a struct, for as many rows as it takes at a time.
 std::string transformStruct(const KernelFamily& kernels, const Family& family, int length,
-                            const Element& element, const Target& target, RowsForm form) {
+                            const Element& element, const Target& target, RowsForm form,
+                            const ScheduleChoice& choice) {
     const Graph single = kernels.graph(length, element, target, family.inverse());
     const int rows = form == RowsForm::pairs ? 2 : rowsAtOnce(single, element, target);
     const Body body = emitBody(form == RowsForm::pairs ? twoRowsGraph(single, length)
                                                        : spreadGraph(single, rows),
-                               element, ScheduleChoice(), RowPorts(form));
+                               element, choice, RowPorts(form));
     std::ostringstream out;
-    out << "struct " << direction(family) << "Transform {\n"
+    out << "struct " << direction(family) << "Transform {\n" << values(element, form)
         << "    static constexpr int rows = " << rows << ";\n"
         << "    static constexpr kfm::Direction direction = kfm::Direction::" << direction(family)
         << ";\n    " << scaleFactors(length, kernels.inverseSqrt(length), element, 0) << body.tables
@@ -88,15 +95,22 @@ std::string jobParameter(const Element& element) {
     return "(const Job<" + std::string(element.type) + ">& job)";
 }
 
-std::string function(const Family& family, int length, const Element& element, RowsForm form) {
-    const std::string run = form == RowsForm::pairs ? "runInPairs<" : "runInLanes<";
-    const std::string how =
-        form == RowsForm::single
-            ? "runSingly<"
-            : run + direction(family) + "Transform, " + std::to_string(length) + ", ";
-    return "void " + rowsFunction(family, length, element) + jobParameter(element) + " {\n    " +
-           how + layouts(family, length) + ">(job, " +
-           registry::functionName(family, length, element) + ");\n}\n";
+std::string function(const Family& family, int length, const Element& element,
+                     const RowsForms& forms) {
+    const std::string transform = direction(family) + "Transform, " + std::to_string(length) + ", ";
+    const std::string places = layouts(family, length);
+    const std::string single = registry::functionName(family, length, element);
+    const std::string contiguous =
+        forms.contiguous == RowsForm::single
+            ? "contiguousSingly"
+            : (forms.contiguous == RowsForm::pairs ? "contiguousInPairs<" : "contiguousInLanes<") +
+                  transform + places + ">";
+    const std::string spaced = forms.spaced == RowsForm::single
+                                   ? "spacedSingly<" + places + ">(job, " + single + ")"
+                                   : "spacedInGroups<" + transform + places + ">(job)";
+    return "void " + rowsFunction(family, length, element) + jobParameter(element) +
+           " {\n    if (job.contiguous()) " + contiguous + "(job, " + single + ");\n    else " +
+           spaced + ";\n}\n";
 }
 
 std::string parameters(const Family& family, const Element& element) {
@@ -109,52 +123,41 @@ std::string parameters(const Family& family, const Element& element) {
 
 }   // namespace
 
-RowsForm rowsForm(std::string_view source, int length, const Element& element,
-                  const Target& target) {
-    static constexpr struct {
-        std::string_view target, source, element;
-        const char* lengths;
-    } singly[] = {
-#define KFM_ROWS_SINGLY(target, source, element, lengths) {#target, #source, #element, #lengths},
-#include "rows/singly.def"
-        {}};
-    for (const auto& row : singly) {
-        if (row.target != target.name || row.source != source || row.element != element.suffix)
-            continue;
-        std::istringstream lengths(row.lengths);
-        const std::vector<int> all{std::istream_iterator<int>(lengths), {}};
-        if (std::ranges::count(all, length) > 0) return RowsForm::single;
-    }
-    if (!(element.complex && element.doublePrecision)) return RowsForm::lanes;
-    return target.vectorBytes > 16 ? RowsForm::pairs : RowsForm::single;
-}
-
 std::string describeRows(const KernelFamily& kernels, int length, const Element& element,
                          const Target& target) {
-    switch (rowsForm(kernels.source, length, element, target)) {
-    case RowsForm::single:
-        return "one after the other";
-    case RowsForm::pairs:
-        return "2 in the halves of vectors";
-    case RowsForm::lanes:
-        break;
-    }
-    const Graph graph = kernels.graph(length, element, target, false);
-    return std::to_string(rowsAtOnce(graph, element, target)) + " in lanes";
+    const auto describe = [&](RowsForm form) -> std::string {
+        switch (form) {
+        case RowsForm::single:
+            return "one after the other";
+        case RowsForm::pairs:
+            return "2 in the halves of vectors";
+        case RowsForm::lanes:
+            break;
+        }
+        const Graph graph = kernels.graph(length, element, target, false);
+        return std::to_string(rowsAtOnce(graph, element, target)) + " in lanes";
+    };
+    const auto [contiguous, spaced] = rowsForms(kernels.source, length, element, target);
+    std::string text = describe(contiguous);
+    if (spaced != contiguous) text += "; with strides " + describe(spaced);
+    if (contiguous == RowsForm::single && spaced == RowsForm::single) return text;
+    return text + "; " + rowsSchedule(kernels.source, length, element, target).text();
 }
 
 std::string rowsKernelSource(const KernelFamily& kernels, int length, const Element& element,
-                             const Target& target) {
-    const RowsForm form = rowsForm(kernels.source, length, element, target);
+                             const Target& target, const RowsForms& forms,
+                             const ScheduleChoice& choice) {
+    const RowsForm groups =
+        forms.contiguous == RowsForm::single ? forms.spaced : forms.contiguous;
     std::ostringstream out, functions;
     out << "// Generated by kernelgen; do not edit.\n"
         << "// Rows of " << length << ": " << kernels.describe(length, element) << "\n"
         << "#include \"rows/run.h\"\n\nnamespace kfm::rows {\nnamespace {\n\n";
     std::set<std::string> written;
     for (const Family* family : registry::familiesOf(kernels.source)) {
-        if (form != RowsForm::single && written.insert(direction(*family)).second)
-            out << transformStruct(kernels, *family, length, element, target, form);
-        functions << function(*family, length, element, form) << "\n";
+        if (groups != RowsForm::single && written.insert(direction(*family)).second)
+            out << transformStruct(kernels, *family, length, element, target, groups, choice);
+        functions << function(*family, length, element, forms) << "\n";
     }
     out << "}   // namespace\n\n" << functions.str() << "}   // namespace kfm::rows\n";
     return out.str();

@@ -6,25 +6,18 @@
 #include <vector>
 
 #include "kernelgen/generator.h"
+#include "kernelgen/rows_records.h"
 
 namespace kfm::kernelgen {
 
-// How a kernel takes rows.
-enum class RowsForm {
-    single,   // one after the other, by the function for one transform
-    pairs,    // complex elements of two rows in one vector
-    lanes,    // a row in every lane
-};
-// The one on record: the widest, unless rows are faster singly.
-RowsForm rowsForm(std::string_view source, int length, const registry::Element& element,
-                  const Target& target);
-// In words: "4 rows in lanes".
+// In words, with the schedule: "4 in lanes; 24:0:1:sums:0".
 std::string describeRows(const KernelFamily& family, int length, const registry::Element& element,
                          const Target& target);
 
 // The C++ source of the row functions of one length and element type.
 std::string rowsKernelSource(const KernelFamily& family, int length,
-                             const registry::Element& element, const Target& target);
+                             const registry::Element& element, const Target& target,
+                             const RowsForms& forms, const ScheduleChoice& choice);
 
 // The exported functions of all families, which choose among those by length.
 std::string rowsEntries();

@@ -5,24 +5,42 @@
 #include <array>
 #include <cstddef>
 
-#include "rows/transpose.h"
+#include "rows/job.h"
+#include "rows/operations.h"
 
 namespace kfm::rows {
 
-// The longest row in numbers: 64 complex elements.
+// The longest row in values that have a vector: 64 complex elements of two numbers.
 inline constexpr int mostSlots = 128;
 
-// A kernel between two buffers, each of so many vectors; two of the results stay zero.
-template <class Real>
+// A kernel to a buffer, from another or from columns, `step` values from one vector to the next; either
+// side is so many vectors. Two of the results stay zero.
+template <class Value>
 struct BufferKernel {
-    void (*run)(const Real* in, Real* out, const Real* factor);
-    const Real* factor;
+    void (*run)(const Value* in, std::ptrdiff_t step, Value* out, const RealOf<Value>* factor);
+    const RealOf<Value>* factor;
+    bool readsColumns;
     int inSlots, outSlots;
     std::array<int, 2> zeros;
 };
 
-// `numbers`: of an element.
-template <int rows, int numbers, class Real>
-void runAnySpacing(Job<Real> left, const BufferKernel<Real>& kernel);
+// `slots`: values of a row that have a vector, `perElement` of an element.
+template <int rows, int perElement, class Value>
+void runAnySpacing(Job<Value> left, const BufferKernel<Value>& kernel);
+
+// Neighbouring rows: between their places and a buffer.
+template <int rows, class Value>
+KFM_OPERATION void bringInColumns(Side<const Value> src, int slots, Value* buffer) {
+    using Row = VectorOfRows<Value, rows>;
+    for (int slot = 0; slot < slots; ++slot)
+        Row::storeAnywhere(buffer + slot * rows, Row::loadAnywhere(src.data + slot * src.stride));
+}
+
+template <int rows, class Value>
+KFM_OPERATION void sendOutColumns(const Value* buffer, int slots, Side<Value> dst) {
+    using Row = VectorOfRows<Value, rows>;
+    for (int slot = 0; slot < slots; ++slot)
+        Row::storeAnywhere(dst.data + slot * dst.stride, Row::loadAnywhere(buffer + slot * rows));
+}
 
 }   // namespace kfm::rows

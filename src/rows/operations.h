@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 
+#include "kfmgen.h"
 #ifdef __AVX2__
 #include "simd/f32x2_pairs.h"
 #endif
@@ -18,16 +20,25 @@ using simd::add, simd::flip, simd::mul, simd::narrow, simd::pin, simd::sub, simd
 using simd::constantHalves, simd::selectHalves, simd::twice;
 #endif
 
-// Two floats are the lower half of a vector.
-template <class Real, int rows>
-struct VectorOfRows {
-    using Type = typename simd::VectorWith<Real, rows>::Type;
+// Numbers of a value, and their type.
+template <class Value>
+inline constexpr int width =
+    std::is_same_v<Value, Kfm32fc> || std::is_same_v<Value, Kfm64fc> ? 2 : 1;
+template <class Value>
+using RealOf = std::conditional_t<sizeof(Value) / width<Value> == 4, float, double>;
 
-    KFM_OPERATION static Type load(const Real* p) { return simd::loadAligned<Type>(p); }
-    KFM_OPERATION static Type loadAnywhere(const Real* p) { return simd::loadUnaligned<Type>(p); }
-    KFM_OPERATION static void store(Real* p, Type v) { simd::storeAligned(p, v); }
-    KFM_OPERATION static void storeAnywhere(Real* p, Type v) { simd::storeUnaligned(p, v); }
+// A value of each of so many rows, which stand side by side in memory.
+template <class Value, int rows>
+struct VectorOfRows {
+    using Type = typename simd::VectorWith<Value, rows>::Type;
+
+    KFM_OPERATION static Type load(const Value* p) { return simd::loadAligned<Type>(p); }
+    KFM_OPERATION static Type loadAnywhere(const Value* p) { return simd::loadUnaligned<Type>(p); }
+    KFM_OPERATION static void store(Value* p, Type v) { simd::storeAligned(p, v); }
+    KFM_OPERATION static void storeAnywhere(Value* p, Type v) { simd::storeUnaligned(p, v); }
+    KFM_OPERATION static Type everywhere(const Value* p) { return simd::loadEverywhere<Type>(p); }
 };
+// Two floats are the lower half of a vector.
 template <>
 struct VectorOfRows<float, 2> {
     using Type = simd::f32x2;
@@ -36,13 +47,23 @@ struct VectorOfRows<float, 2> {
     KFM_OPERATION static Type loadAnywhere(const float* p) { return simd::HalfSingle::load(p); }
     KFM_OPERATION static void store(float* p, Type v) { simd::HalfSingle::store(p, v); }
     KFM_OPERATION static void storeAnywhere(float* p, Type v) { simd::HalfSingle::store(p, v); }
+    KFM_OPERATION static Type everywhere(const float* p) { return simd::loadEverywhere<Type>(p); }
 };
+#ifdef __AVX2__
+template <>
+struct VectorOfRows<Kfm64fc, 2> {
+    using Type = simd::f64x4;
 
-template <class Real, int rows>
-using Vector = typename VectorOfRows<Real, rows>::Type;
+    KFM_OPERATION static Type loadAnywhere(const Kfm64fc* p) { return _mm256_loadu_pd(&p->re); }
+    KFM_OPERATION static void storeAnywhere(Kfm64fc* p, Type v) { _mm256_storeu_pd(&p->re, v); }
+    // Of one element; the kernel repeats it in the other half.
+    KFM_OPERATION static simd::f64x2 everywhere(const double* p) { return simd::broadcast(p); }
+};
+#endif
 
 // Of as many rows as doubles fill a vector.
-KFM_OPERATION Vector<double, simd::vectorBytes / 8> widen(simd::f32x4 narrow) {
+KFM_OPERATION typename VectorOfRows<double, simd::vectorBytes / 8>::Type
+widen(simd::f32x4 narrow) {
 #ifdef __AVX2__
     return simd::widenHalves(narrow);
 #else
@@ -54,8 +75,7 @@ KFM_OPERATION Vector<double, simd::vectorBytes / 8> widen(simd::f32x4 narrow) {
 template <int rows, class Real>
 KFM_OPERATION auto constantRow(const Real* table, int index) {
     constexpr int length = rows * sizeof(Real) < 16 ? 16 / sizeof(Real) : rows;
-    using Row = VectorOfRows<Real, length>;
-    return Row::load(table + index * length);
+    return VectorOfRows<Real, length>::load(table + index * length);
 }
 
 }   // namespace kfm::rows

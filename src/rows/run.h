@@ -1,8 +1,6 @@
-// How the rows of a call go through a kernel: contiguous rows in groups of as many as it takes at a
-// time, in code of their own; all others, and what is left over, by any_spacing.h.
+// How the rows of a call go through a kernel: contiguous rows, and rows with any other spacing, in
+// groups of as many as it takes at a time or one after the other.
 #pragma once
-
-#include <type_traits>
 
 #include "kfmgen.h"
 #include "rows/any_spacing.h"
@@ -14,111 +12,127 @@
 
 namespace kfm::rows {
 
-// Numbers of an element, and their type.
-template <class Element>
-inline constexpr int width =
-    std::is_same_v<Element, Kfm32fc> || std::is_same_v<Element, Kfm64fc> ? 2 : 1;
-template <class Element>
-using RealOf = std::conditional_t<sizeof(Element) / width<Element> == 4, float, double>;
-
-template <class Real, int rows, int n, class Layout>
-auto reader(const Real* buffer) {
-    if constexpr (!Packed<Layout>) return PlainReader<Real, rows>{buffer};
-    else return PackedReader<Real, rows, n>{{buffer}, buffer + Layout::at(1) * rows,
-                                            buffer + Layout::at(n - 1) * rows};
-}
-
-template <class Real, int rows, int n, class Layout>
-auto writer(Real* buffer) {
-    if constexpr (!Packed<Layout>) return PlainWriter<Real, rows>{buffer};
-    else return PackedWriter<Real, rows, n>{{buffer}, buffer + Layout::at(1) * rows,
-                                            buffer + Layout::at(n - 1) * rows};
-}
-
 // One text for all layouts of a spectrum and all spacings.
 template <class Transform, class In, class Out, class Real>
 [[gnu::noinline]] void transformOutOfLine(In in, Out out, const Real* factor) {
     Transform::run(in, out, factor);
 }
 
-template <class Transform, int n, class In, class Out, class Real>
-void transformBuffers(const Real* in, Real* out, const Real* factor) {
-    transformOutOfLine<Transform>(reader<Real, Transform::rows, n, In>(in),
-                                  writer<Real, Transform::rows, n, Out>(out), factor);
+// Whether a kernel reads columns where they are. From a packed spectrum, which has two places of its
+// own, that was measured to cost more than a copy; the numbers of an element have to be separated.
+template <class Transform, class In>
+inline constexpr bool readsColumns = !Packed<In> && Transform::perElement == 1;
+
+template <class Transform, int n, class In, class Out, class Value>
+void toBuffer(const Value* in, std::ptrdiff_t step, Value* out, const RealOf<Value>* factor) {
+    constexpr int rows = Transform::rows;
+    const auto results = writer<Out, rows, n>(out, Known<rows>());
+    if constexpr (readsColumns<Transform, In>)
+        transformOutOfLine<Transform>(reader<In, rows, n>(in, step), results, factor);
+    else transformOutOfLine<Transform>(reader<In, rows, n>(in, Known<rows>()), results, factor);
+}
+
+// Values of short rows stay in registers.
+template <int slots>
+inline constexpr bool inRegisters = slots <= 16;
+
+// The buffers of a group of rows and the kernel between them. In Transform::Value a kernel computes
+// and a vector has lanes: the numbers of an element, or elements.
+template <class Transform, int n, class In, class Out>
+class Group {
+public:
+    using Value = typename Transform::Value;
+    static constexpr int rows = Transform::rows;
+    static constexpr int perElement = Transform::perElement;
+    static constexpr int inSlots = In::slots * perElement, outSlots = Out::slots * perElement;
+
+    explicit Group(int flag)
+        : factor_(chooseScale<Transform::direction>(Transform::scales, flag)) {}
+
+    void contiguous(Job<Value>& left) const {
+        alignas(32) Value in[inSlots * rows], out[outSlots * rows];
+        setZeros(out);
+        for (; left.rows >= rows; left.advance(rows)) {
+            bringInBlocks<rows, inSlots>(left.src, in);
+            if constexpr (inRegisters<inSlots>)
+                Transform::run(reader<In, rows, n>(in, Known<rows>()),
+                               writer<Out, rows, n>(out, Known<rows>()), factor_);
+            else toBuffer<Transform, n, In, Out>(in, rows, out, factor_);
+            sendOutBlocks<rows, outSlots>(out, left.dst);
+        }
+    }
+
+    void anySpacing(Job<Value> left) const {
+        if constexpr (inRegisters<inSlots> && perElement == 1)
+            if (left.src.distance == 1 && left.dst.distance == 1) columns(left);
+        if (left.rows > 0)
+            runAnySpacing<rows, perElement>(
+                left, {toBuffer<Transform, n, In, Out, Value>, factor_,
+                       readsColumns<Transform, In>, inSlots, outSlots, zeroSlots<Out>()});
+    }
+
+private:
+    static void setZeros(Value* out) {
+        if constexpr (WithZeros<Out>)
+            for (const int slot : zeroSlots<Out>())
+                for (int row = 0; row < rows; ++row) out[slot * rows + row] = 0;
+    }
+
+    // All is read before anything is written: both sides may be the same.
+    void columns(Job<Value>& left) const {
+        alignas(32) Value out[outSlots * rows];
+        setZeros(out);
+        for (; left.rows >= rows; left.advance(rows)) {
+            Transform::run(reader<In, rows, n>(left.src.data, left.src.stride),
+                           writer<Out, rows, n>(out, Known<rows>()), factor_);
+            sendOutColumns<rows>(out, outSlots, left.dst);
+        }
+    }
+
+    const RealOf<Value>* factor_;
+};
+
+template <class Element>
+void contiguousSingly(Job<Element> left, Single<Element>* single) {
+    for (; left.rows > 0; left.advance(1)) single(left.src.data, left.dst.data, left.flag);
 }
 
 template <class Transform, int n, class In, class Out, class Element>
-void runInLanes(const Job<Element>& job, Single<Element>* single) {
-    using Real = RealOf<Element>;
-    constexpr int rows = Transform::rows, numbers = width<Element>;
-    constexpr int inSlots = In::slots * numbers, outSlots = Out::slots * numbers;
-    const Real* factor = chooseScale<Transform::direction>(Transform::scales, job.flag);
-    Job<Real> left = onNumbers<Real>(job);
-    if constexpr (inSlots >= Block<Real, rows>::columns && outSlots >= Block<Real, rows>::columns)
-        if (job.contiguous()) {
-            // Of short rows the values stay in registers.
-            constexpr bool inRegisters = inSlots <= 16;
-            alignas(32) Real in[inSlots * rows], out[outSlots * rows];
-            if constexpr (WithZeros<Out>)
-                for (const int slot : zeroSlots<Out>())
-                    for (int row = 0; row < rows; ++row) out[slot * rows + row] = 0;
-            for (; left.rows >= rows; left.advance(rows)) {
-                bringInBlocks<rows, inSlots>(left.src, in);
-                if constexpr (inRegisters)
-                    Transform::run(reader<Real, rows, n, In>(in), writer<Real, rows, n, Out>(out),
-                                   factor);
-                else transformBuffers<Transform, n, In, Out>(in, out, factor);
-                sendOutBlocks<rows, outSlots>(out, left.dst);
-            }
-            for (; left.rows > 0 && left.rows <= rows / 2; left.advance(1))
-                single(reinterpret_cast<const Element*>(left.src.data),
-                       reinterpret_cast<Element*>(left.dst.data), job.flag);
-        }
-    if (left.rows > 0)
-        runAnySpacing<rows, numbers>(left, {transformBuffers<Transform, n, In, Out, Real>, factor,
-                                            inSlots, outSlots, zeroSlots<Out>()});
-}
-
-// Groups of `count` rows as transform(src, distance, dst, distance) of contiguous ones, which rows
-// with strides are copied to and from.
-template <int inLength, int outLength, int count, class Element, class Transform>
-void forEachGroup(Job<Element>& left, Transform transform) {
-    const bool contiguous = left.contiguous();
-    for (; left.rows >= count; left.advance(count)) {
-        const auto [src, srcStride, srcDistance] = left.src;
-        const auto [dst, dstStride, dstDistance] = left.dst;
-        if (contiguous) {
-            transform(src, srcDistance, dst, dstDistance);
-            continue;
-        }
-        Element in[count * inLength], out[count * outLength];
-        for (int row = 0; row < count; ++row)
-            copyStrided(src + row * srcDistance, srcStride, in + row * inLength, 1, inLength);
-        transform(in, inLength, out, outLength);
-        for (int row = 0; row < count; ++row)
-            copyStrided(out + row * outLength, 1, dst + row * dstDistance, dstStride, outLength);
-    }
-}
-
-template <class In, class Out, class Element>
-void runSingly(Job<Element> left, Single<Element>* single) {
-    forEachGroup<In::slots, Out::slots, 1>(
-        left, [&](const Element* src, std::ptrdiff_t, Element* dst, std::ptrdiff_t) {
-            single(src, dst, left.flag);
-        });
+void contiguousInLanes(const Job<Element>& job, Single<Element>* single) {
+    const Group<Transform, n, In, Out> group(job.flag);
+    auto left = onNumbers<typename Transform::Value>(job);
+    group.contiguous(left);
+    for (; left.rows > 0 && left.rows <= group.rows / 2; left.advance(1))
+        single(reinterpret_cast<const Element*>(left.src.data),
+               reinterpret_cast<Element*>(left.dst.data), job.flag);
+    if (left.rows > 0) group.anySpacing(left);
 }
 
 #ifdef __AVX2__
 template <class Transform, int n, class In, class Out>
-void runInPairs(Job<Kfm64fc> left, Single<Kfm64fc>* single) {
+void contiguousInPairs(Job<Kfm64fc> left, Single<Kfm64fc>* single) {
     const double* factor = chooseScale<Transform::direction>(Transform::scales, left.flag);
-    forEachGroup<n, n, 2>(left, [&](const Kfm64fc* src, std::ptrdiff_t srcDistance, Kfm64fc* dst,
-                                    std::ptrdiff_t dstDistance) {
-        Transform::run(PairReader{&src->re, 2 * srcDistance}, PairWriter{&dst->re, 2 * dstDistance},
-                       factor);
-    });
-    if (left.rows > 0) runSingly<In, Out>(left, single);
+    for (; left.rows >= 2; left.advance(2))
+        Transform::run(PairReader{{left.src.data, {}}, left.src.distance},
+                       PairWriter{{left.dst.data, {}}, left.dst.distance}, factor);
+    contiguousSingly(left, single);
 }
 #endif
+
+template <class Transform, int n, class In, class Out, class Element>
+void spacedInGroups(const Job<Element>& job) {
+    Group<Transform, n, In, Out>(job.flag).anySpacing(
+        onNumbers<typename Transform::Value>(job));
+}
+
+template <class In, class Out, class Element>
+void spacedSingly(Job<Element> left, Single<Element>* single) {
+    Element in[In::slots], out[Out::slots];
+    for (; left.rows > 0; left.advance(1)) {
+        copyStrided(left.src.data, left.src.stride, in, 1, In::slots);
+        single(in, out, left.flag);
+        copyStrided(out, 1, left.dst.data, left.dst.stride, Out::slots);
+    }
+}
 
 }   // namespace kfm::rows

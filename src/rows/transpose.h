@@ -86,6 +86,47 @@ private:
     }
 };
 
+// Rows of two or three floats: 8 bytes of every row, of two rows in one vector.
+template <int rows>
+struct ShortBlock {
+    static constexpr int columns = 2;
+    using Row = VectorOfRows<float, rows>;
+
+    KFM_OPERATION static void in(const float* src, std::ptrdiff_t distance, float* buffer) {
+        const simd::f32x4 low = loadTwo(src, distance);
+        const simd::f32x4 high = rows == 2 ? low : loadTwo(src + 2 * distance, distance);
+        const auto [first, second] = simd::separated(low, high);
+        Row::store(buffer, first);
+        Row::store(buffer + rows, second);
+    }
+    KFM_OPERATION static void out(const float* buffer, float* dst, std::ptrdiff_t distance) {
+        const auto [low, high] = simd::interleaved(Row::load(buffer), Row::load(buffer + rows));
+        storeTwo(dst, distance, low);
+        if constexpr (rows == 4) storeTwo(dst + 2 * distance, distance, high);
+    }
+
+private:
+    using Half = simd::HalfSingle;
+
+    KFM_OPERATION static simd::f32x4 loadTwo(const float* row, std::ptrdiff_t distance) {
+        return simd::select<0, 1, 4, 5>(Half::load(row), Half::load(row + distance));
+    }
+    KFM_OPERATION static void storeTwo(float* row, std::ptrdiff_t distance, simd::f32x4 v) {
+        Half::store(row, v);
+        Half::store(row + distance, simd::select<2, 3, 2, 3>(v, v));
+    }
+};
+
+template <class Real, int rows, int slots>
+struct BlockFor {
+    using Type = Block<Real, rows>;
+};
+template <int rows, int slots>
+    requires(slots < 4)
+struct BlockFor<float, rows, slots> {
+    using Type = ShortBlock<rows>;
+};
+
 // Blocks at 0, columns, 2 * columns ...; the last one ends where the row does.
 template <int slots, int columns, class Body>
 KFM_OPERATION void forEachBlock(Body body) {
@@ -96,7 +137,7 @@ KFM_OPERATION void forEachBlock(Body body) {
 
 template <int rows, int slots, class Real>
 KFM_OPERATION void bringInBlocks(Side<const Real> src, Real* buffer) {
-    using RowBlock = Block<Real, rows>;
+    using RowBlock = typename BlockFor<Real, rows, slots>::Type;
     forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINE {
         RowBlock::in(src.data + at, src.distance, buffer + at * rows);
     });
@@ -104,7 +145,7 @@ KFM_OPERATION void bringInBlocks(Side<const Real> src, Real* buffer) {
 
 template <int rows, int slots, class Real>
 KFM_OPERATION void sendOutBlocks(const Real* buffer, Side<Real> dst) {
-    using RowBlock = Block<Real, rows>;
+    using RowBlock = typename BlockFor<Real, rows, slots>::Type;
     forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINE {
         RowBlock::out(buffer + at * rows, dst.data + at, dst.distance);
     });
