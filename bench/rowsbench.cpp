@@ -55,24 +55,14 @@ RowsFunction rowsFunction(const registry::Function& function) {
     return reinterpret_cast<RowsFunction>(address);
 }
 
-// Elements of a row on each side. Only the complex pairs of CCS are more than the signal's.
-struct Widths {
-    explicit Widths(const registry::Function& function) {
-        const std::string_view family = function.family;
-        const int pairs = 2 * (function.length / 2 + 1);
-        source = family.ends_with("_CCSToR") ? pairs : function.length;
-        destination = family.ends_with("_RToCCS") ? pairs : function.length;
-    }
-    int source, destination;
-};
-
 // The transforms of all rows by calls of the function for one. Columns are no rows to it: a user
 // copies each out and back.
 template <class Value>
 class SingleCalls {
 public:
     SingleCalls(const registry::Function& function, const Rows& rows)
-        : transform(reinterpret_cast<Transform>(function.address)), rows(rows), widths(function),
+        : transform(reinterpret_cast<Transform>(function.address)), rows(rows),
+          widths(function.family, function.length),
           one(std::make_shared<Signals>(function.length,
                                         *registry::findElement(function.element))) {}
 
@@ -117,7 +107,7 @@ template <class Value>
 RowsResult measure(const registry::Function& function, const registry::Element& element,
                    const Options& options) {
     const Rows& rows = options.rows;
-    const Widths widths(function);
+    const Widths widths(function.family, function.length);
     const auto byRows = [=, address = rowsFunction(function),
                          length = function.length](const void* source, void* destination) {
         return address(source, rows.stride(), rows.distance(widths.source), destination,

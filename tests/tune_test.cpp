@@ -70,15 +70,17 @@ TEST_F(ScheduleTableTest, ReplacesOnlyChosenRowsAndSorts) {
                       "KFM_SCHEDULE(b, 10, 32fc, 2:0:0:none:0)\n");
 }
 
-TEST_F(ScheduleTableTest, KeepsCodeletsOfOneSizeApart) {
+TEST_F(ScheduleTableTest, KeepsFunctionsOfOneSizeApart) {
     write("KFM_SCHEDULE(a, inputStage, 8, 32f, 1:0:0:none:0)\n"
-          "KFM_SCHEDULE(a, inputBlock, 8, 32f, 2:0:0:none:0)\n");
+          "KFM_SCHEDULE(a, inputBlock, 8, 32f, 2:0:0:none:0)\n"
+          "KFM_SCHEDULE(a, DFTFwd_RToPacked, 8, 32f, 3:0:0:none:0)\n");
     ScheduleTable table(file);
     EXPECT_EQ(table.find({"a", "32f", 8, "inputBlock"}), "2:0:0:none:0");
     EXPECT_EQ(table.find({"a", "32f", 8}), "");
     table.choose({"a", "32f", 8, "inputBlock"}, "7:1:1:all:1");
     table.write();
-    EXPECT_EQ(read(), "KFM_SCHEDULE(a, inputBlock, 8, 32f, 7:1:1:all:1)\n"
+    EXPECT_EQ(read(), "KFM_SCHEDULE(a, DFTFwd_RToPacked, 8, 32f, 3:0:0:none:0)\n"
+                      "KFM_SCHEDULE(a, inputBlock, 8, 32f, 7:1:1:all:1)\n"
                       "KFM_SCHEDULE(a, inputStage, 8, 32f, 1:0:0:none:0)\n");
 }
 

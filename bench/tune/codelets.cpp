@@ -37,7 +37,8 @@ std::vector<KernelSource> codelets(std::string_view function, const registry::El
                 codelet.length = size;
                 codelet.arrayLength = codeletArrayLength;
                 codelet.functions = {"calledCodelet"};
-                codelet.furtherText = "#include \"" KFM_CODELET_CALLS "\"\nKFM_CALL_CODELET(" +
+                codelet.furtherText = "#include \"" KFM_TUNE_FOLDER
+                                      "/codelet_calls.h\"\nKFM_CALL_CODELET(" +
                                       codelet.source + ", " + real + ", " + std::to_string(size) +
                                       ")\n";
             }

@@ -5,9 +5,11 @@
 #include <cstring>
 #include <functional>
 #include <set>
+#include <sstream>
 
 #include "codelets.h"
 #include "contest.h"
+#include "rows.h"
 #include "schedule_table.h"
 #include "selection.h"
 #include "signals.h"
@@ -20,9 +22,10 @@ namespace {
 struct Options {
     bench::Selection selection;
     std::string target = KFM_TARGET, generated = "generated";
-    std::filesystem::path sources = KFM_SOURCES;
+    std::filesystem::path sources = KFM_SOURCES, work = KFM_WORK_FOLDER;
     int batches = 10;
     int core = bench::lastCore();
+    bool rows = false;
 };
 
 void requireSameBits(const std::vector<Candidate>& candidates, const bench::Signals& signals,
@@ -49,14 +52,25 @@ int indexOf(const std::vector<Candidate>& candidates, const std::string& schedul
 
 // Calls from one array to another, and calls in place that wait for each other's results.
 struct CallPatterns {
-    std::shared_ptr<const bench::Signals> apart, inPlace;
+    std::vector<std::shared_ptr<const bench::Signals>> signals;
+
+    // Rows are not transformed in place: that takes the same kernels between buffers.
+    CallPatterns(const KernelSource& kernel, const registry::Element& element) {
+        if (kernel.rows > 1) {
+            signals = {bench::Signals::ofRows(kernel.rows, kernel.length, element)};
+            return;
+        }
+        for (const bool inPlace : {false, true})
+            signals.push_back(std::make_shared<const bench::Signals>(kernel.arrayLength, element,
+                                                                     false, inPlace));
+    }
 
     // Of every function in either pattern.
     std::vector<std::function<void(long)>> calls(const Candidate& candidate) const {
         std::vector<std::function<void(long)>> result;
         for (const bench::Transform function : candidate.functions)
-            for (const auto& signals : {apart, inPlace})
-                result.push_back(bench::repeatCall(function, signals, kfmScaleNone));
+            for (const auto& each : signals)
+                result.push_back(bench::repeatCall(function, each, kfmScaleNone));
         return result;
     }
 
@@ -114,15 +128,35 @@ Candidate choose(std::vector<Candidate> field, const std::string& current,
     return reference;
 }
 
+// What calls a kernel of rows.
+void addRowsCalls(KernelSource& kernel, const registry::Family& family,
+                  const registry::Element& element) {
+    const std::string function = std::string(family.name) + "_" + std::to_string(kernel.length) +
+                                 "_" + kernel.element;
+    const bench::Widths widths(family.name, kernel.length);
+    std::ostringstream text;
+    text << "KFM_CALL_ROWS(" << function << ", weak "
+         << registry::functionName(family, kernel.length, element) << ", " << element.type << ", "
+         << kernel.rows << ", " << widths.source << ", " << widths.destination << ")\n";
+    kernel.furtherText += text.str();
+    for (const char* spacing : {"contiguous_", "columns_"})
+        kernel.functions.push_back(spacing + function);
+}
+
 std::vector<KernelSource> kernels(const registry::Family& family, const registry::Element& element,
-                                  const bench::Selection& selection) {
+                                  const Options& options) {
     std::vector<KernelSource> result;
     for (int length = family.first; length <= family.last; ++length) {
-        if (!selection.hasLength(length)) continue;
+        if (!options.selection.hasLength(length)) continue;
         KernelSource kernel{std::string(family.kernelSource), std::string(element.suffix), length,
                             length};
+        if (options.rows) {
+            kernel.rows = 64;
+            kernel.furtherText = "#include \"" KFM_TUNE_FOLDER "/rows_calls.h\"\n";
+        }
         for (const registry::Family* member : registry::familiesOf(family.kernelSource))
-            kernel.functions.push_back(registry::functionName(*member, length, element));
+            if (options.rows) addRowsCalls(kernel, *member, element);
+            else kernel.functions.push_back(registry::functionName(*member, length, element));
         result.push_back(std::move(kernel));
     }
     return result;
@@ -131,17 +165,16 @@ std::vector<KernelSource> kernels(const registry::Family& family, const registry
 void tune(const KernelSource& kernel, const registry::Element& element, const Workshop& workshop,
           ScheduleTable& table, const Options& options) {
     const KernelName name{options.target, kernel.element, kernel.length,
-                          kernel.isCodelet() ? kernel.source : ""};
+                          kernel.sharesTable() ? kernel.source : ""};
     std::printf("%-18s ", kernel.stem().c_str());
     std::fflush(stdout);
-    const CallPatterns patterns{
-        std::make_shared<const bench::Signals>(kernel.arrayLength, element),
-        std::make_shared<const bench::Signals>(kernel.arrayLength, element, false, true)};
+    const CallPatterns patterns(kernel, element);
     std::vector<Candidate> candidates;
     const auto winnerWith = [&](const std::vector<std::string>& schedules) {
         std::ranges::move(workshop.make(kernel, schedules), std::back_inserter(candidates));
-        requireSameBits(candidates, *patterns.apart,
-                        bench::Signals::mostElements(kernel.arrayLength, element) * element.bytes);
+        requireSameBits(candidates, *patterns.signals.front(),
+                        kernel.rows * bench::Signals::mostElements(kernel.arrayLength, element) *
+                            element.bytes);
         return choose(candidates, table.find(name), patterns, options).schedule;
     };
     std::string winner = winnerWith(workshop.schedules(kernel));
@@ -169,20 +202,24 @@ bool tuneCodelets(const Workshop& workshop, const Options& options) {
     return some;
 }
 
+std::string tableOf(const registry::Family& family) {
+    return std::string(family.folder) + "/" + std::string(family.kernelSource) + "_schedules.def";
+}
+
 void tuneAll(const Options& options) {
     const Workshop workshop(KFM_KERNELGEN, options.target, options.generated, KFM_COMPILE_COMMANDS,
-                            KFM_WORK_FOLDER);
+                            options.work);
     std::set<std::string_view> seen;
-    bool some = tuneCodelets(workshop, options);
+    bool some = !options.rows && tuneCodelets(workshop, options);
     for (const registry::Family& family : registry::families()) {
         // Kernels of orders are templates without schedules.
         if (family.byOrder || !options.selection.hasFamily(family.name)) continue;
         if (!seen.insert(family.kernelSource).second) continue;
-        ScheduleTable table(options.sources / family.folder /
-                            (std::string(family.kernelSource) + "_schedules.def"));
+        ScheduleTable table(options.sources / (options.rows ? "rows/schedules.def"
+                                                            : tableOf(family)));
         for (const registry::Element* element : family.elements)
             if (options.selection.hasElement(element->suffix))
-                for (const KernelSource& kernel : kernels(family, *element, options.selection)) {
+                for (const KernelSource& kernel : kernels(family, *element, options)) {
                     tune(kernel, *element, workshop, table, options);
                     some = true;
                 }
@@ -200,8 +237,10 @@ int main(int argc, char** argv) try {
     options.selection.addElement(app);
     options.selection.addLengths(app);
     app.add_option("--target", options.target, "row of the table")->capture_default_str();
+    app.add_flag("--rows", options.rows, "tune the kernels of rows, not those of single transforms");
     app.add_option("--generated", options.generated, "folder of its sources in the build folder")
         ->capture_default_str();
+    app.add_option("--work", options.work, "folder for candidates")->capture_default_str();
     app.add_option("--sources", options.sources, "source tree whose tables are rewritten");
     app.add_option("--batches", options.batches, "timed batches of every candidate")
         ->check(CLI::Range(1, 10000))->capture_default_str();

@@ -9,7 +9,7 @@ namespace kfm::tune {
 
 ScheduleTable::ScheduleTable(std::filesystem::path path) : file(std::move(path)) {
     static const std::regex row(
-        R"(KFM_SCHEDULE\(([^,]+), (?:([a-zA-Z]+), )?(\d+), ([^,]+), ([^)]+)\))");
+        R"(KFM_SCHEDULE\(([^,]+), (?:([a-zA-Z_]+), )?(\d+), ([^,]+), ([^)]+)\))");
     std::ifstream in(file);
     for (std::string line; std::getline(in, line);) {
         std::smatch match;

@@ -1,6 +1,6 @@
 // The committed choice of schedules of one kernel source: its _schedules.def, as text rows
 // KFM_SCHEDULE(target, length, element, schedule) below a comment that is kept as it stands.
-// Codelets share a table, whose rows name the function behind the target.
+// Codelets share a table, whose rows name the function behind the target; so do kernels of rows.
 #pragma once
 
 #include <filesystem>
@@ -13,7 +13,7 @@ namespace kfm::tune {
 struct KernelName {
     std::string target, element;
     int length;
-    std::string function = {};   // of a codelet
+    std::string function = {};   // where a table is shared
     auto operator<=>(const KernelName&) const = default;   // the order of the rows
 };
 

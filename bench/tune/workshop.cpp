@@ -66,6 +66,8 @@ std::string KernelSource::stem() const {
     return source + "_" + std::to_string(length) + "_" + element;
 }
 
+std::string KernelSource::kernels() const { return (rows > 1 ? "rows/" : "") + source; }
+
 Workshop::Workshop(std::string kernelgen, std::string target, std::string generated,
                    std::filesystem::path compileCommands, std::filesystem::path folder)
     : kernelgen(std::move(kernelgen)), target(std::move(target)),
@@ -91,7 +93,7 @@ std::string Workshop::path(std::size_t candidate, const char* extension) const {
 
 std::string Workshop::generating(const char* command, const KernelSource& kernel) const {
     return shellWord(kernelgen) + " " + command + " " + std::to_string(kernel.length) + " " +
-           kernel.element + " --kernels " + kernel.source + " --target " + target;
+           kernel.element + " --kernels " + kernel.kernels() + " --target " + target;
 }
 
 std::vector<std::string> Workshop::schedules(const KernelSource& kernel,

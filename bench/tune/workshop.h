@@ -12,16 +12,19 @@
 namespace kfm::tune {
 
 // A kernel source file, "DFT_CToC", 16, "32fc", and the functions of all families in it: they share
-// a schedule. The function that calls a codelet comes with the text that follows its source.
+// a schedule. Functions that call a codelet or a kernel of rows come with the text that follows its
+// source.
 struct KernelSource {
     std::string source, element;
     int length, arrayLength;
     std::vector<std::string> functions = {};
     std::string furtherText = {};
+    int rows = 1;   // of a call
 
-    bool isCodelet() const { return !furtherText.empty(); }
-
-    std::string stem() const;   // "DFT_CToC_16_32fc"
+    // Other kernels have a table of schedules for each source.
+    bool sharesTable() const { return !furtherText.empty(); }
+    std::string stem() const;      // "DFT_CToC_16_32fc"
+    std::string kernels() const;   // to the generator: "DFT_CToC", "rows/DFT_CToC"
 };
 
 struct Candidate {
