@@ -1,20 +1,40 @@
 /* Signal transforms of short fixed length: the public face of libkfmgenw7.
  *
  * Each function computes one transform of one length, with all of its constants built in. There
- * is nothing to initialise: include this file, call, link with -lkfmgenw7. No function keeps state
- * between calls, so any number of threads may call at once. Signals are contiguous arrays without
- * stride; the library reads the source and writes the destination, and allocates only where the
- * text of a family says so. The DCT-IV, at the end of this file, takes its length at run time and
- * works differently.
- *
- * Where results are said to be the same bit for bit, or to hold the same bits, a NaN may still
- * differ in its sign and payload.
+ * is nothing to initialise: include this file, call, link with -lkfmgenw7. Signals are contiguous
+ * arrays without stride; the library reads the source and writes the destination, and allocates only
+ * where the text of a family says so. The DCT-IV, at the end of this file, takes its length at run
+ * time and works differently.
  *
  * A name is built as kfmg<transform>_<length>_<element>; without the length it is the generic
  * entry, which takes the length as an argument.
+ *
+ * Contents, each with its formula, scaling, alignment, aliasing, stack and statuses:
+ *   Version
+ *   Element types, statuses, scaling flags
+ *   Complex DFT              lengths 2 to 64
+ *   Real DFT                 lengths 2 to 64, to and from half a spectrum in three packed layouts
+ *   Hartley transform        lengths 2 to 64
+ *   Walsh-Hadamard           orders 1 to 13: lengths 2 to 8192
+ *   DCT-IV                   powers of two from 2 to 2^27, planned at run time
+ * In C++20 kfmgen.hpp is the same with ranges; kfmrows.h takes many signals at a time.
+ *
+ * Threads: no function keeps state between calls, so any number of threads may call at once. They may
+ * share what is only read: sources, and plans of the DCT-IV up to length 32. A destination, a work
+ * buffer and a longer plan belong to one call at a time.
+ *
+ * NaN and infinity are numbers like any other: no call fails or takes longer because of them, and what
+ * depends on them is a NaN or infinite. Where results are said to be the same bit for bit, or to hold
+ * the same bits, a NaN may still differ in its sign and payload. Rounding, and whether tiny numbers
+ * are flushed to zero, are as the calling thread has set them; everything that is said of bits holds
+ * for the default, rounding to nearest without flushing.
  */
 #ifndef KFMGEN_H
 #define KFMGEN_H
+
+/* Of this file; kfmgenGetLibVersion tells that of the library. */
+#define KFMGEN_VERSION_MAJOR 6
+#define KFMGEN_VERSION_MINOR 1
 
 #if defined(__GNUC__)
 #define KFM_API __attribute__((visibility("default")))
@@ -51,6 +71,18 @@ enum {
     kfmErrNullPtr = -8,  /* a required pointer is null */
     kfmErrFlag = -16     /* a scaling flag that is none of the four below */
 };
+
+/* The same as a list: status(name, text) for each. A function from statuses to texts is
+ *
+ *   #define CASE(name, text) case name: return text;
+ *   switch (status) { KFM_STATUSES(CASE) default: return "unknown status"; }
+ */
+#define KFM_STATUSES(status)                                               \
+    status(kfmOk, "done")                                                  \
+    status(kfmErrBadSpec, "a specification object that no planner made")   \
+    status(kfmErrSize, "a length or order outside the range of the family") \
+    status(kfmErrNullPtr, "a required pointer is null, or memory is exhausted") \
+    status(kfmErrFlag, "a scaling flag that is none of the four")
 
 /* Scaling flags: the factor that multiplies every output. Pass exactly one; combinations are
  * refused. A forward transform and an inverse one with the same flag, one of the first three,

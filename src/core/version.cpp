@@ -4,8 +4,8 @@
 namespace {
 
 constexpr KfmLibraryVersion version = {
-    6,
-    1,
+    KFMGEN_VERSION_MAJOR,
+    KFMGEN_VERSION_MINOR,
     137,
     336,
     {'w', '7', 0, 0},
