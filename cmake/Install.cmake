@@ -19,8 +19,7 @@ foreach(variant IN LISTS variants)
     install(TARGETS ${variant}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
 endforeach()
-install(FILES include/kfmgen.h include/kfmrows.h include/kfmcore.h
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 # In a folder that CMake searches for every target: lib32 it does not search on Debian.
 set(package_dir ${CMAKE_INSTALL_DATADIR}/cmake/kfmgen)

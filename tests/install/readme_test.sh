@@ -1,8 +1,8 @@
 #!/bin/sh
 # readme_test.sh <source folder> <build folder of x86-64> <scratch folder>: does what the README
 # says, block after block. A block of shell runs as it stands. A block of C is saved under the name
-# in its first line, built and run by the command beside that name, and once more as C++. A block of
-# CMake becomes CMakeLists.txt.
+# in its first line, built and run by the command beside that name, and once more as C++. One of C++ is
+# built and run by its own command alone. A block of CMake becomes CMakeLists.txt.
 #
 # Only make is another: of its goals, which all have to exist, it does "install PREFIX=..." alone,
 # with what is built already.
@@ -44,6 +44,9 @@ awk '
             save(words[2])
             run(words[3])
             sub(/^cc/, "c++ -Wall -Wextra -pedantic -Werror -x c++", words[3])
+            run(words[3])
+        } else if (language == "cpp" && split(first, words, /^\/\/ |: /) == 3) {
+            save(words[2])
             run(words[3])
         } else refuse("what to do with a block of \"" language "\"?")
     }
