@@ -10,7 +10,7 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench tune install header clean
+.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -53,6 +53,9 @@ install:
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=AUTO
 	@tools/install.sh "$(PREFIX)" $$(sed "s,[^ ]*,$$BUILD/&,g" "$$BUILD/targets")
 	@[ "$$(id -u)" -ne 0 ] || chown -R --reference=. "$$BUILD"   # a user's, who goes on with it
+
+uninstall:
+	@tools/uninstall.sh "$(PREFIX)" $$(sed "s,[^ ]*,$$BUILD/&,g" "$$BUILD/targets")
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"

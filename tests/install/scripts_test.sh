@@ -35,16 +35,17 @@ echo sudo >> log
 exec "$@"
 END
 fake bin/cmake <<'END'
-mkdir -p prefix/lib
-touch prefix/lib/libkfmcore.so.6.1
+mkdir -p prefix/lib prefix/include/kfmgen
+touch prefix/lib/libkfmcore.so.6.1 prefix/include/kfmcore.h prefix/include/kfmgen/dct4.hpp
 ln -sf libkfmcore.so.6.1 prefix/lib/libkfmcore.so
-printf '%s\n' "$PWD/prefix/include/kfmcore.h" "$PWD/prefix/lib/libkfmcore.so.6.1" \
-    "$PWD/prefix/lib/libkfmcore.so" > install_manifest.txt
+# CMake ends the list without a new line.
+printf '%s\n%s\n%s\n%s' "$PWD/prefix/include/kfmcore.h" "$PWD/prefix/include/kfmgen/dct4.hpp" \
+    "$PWD/prefix/lib/libkfmcore.so.6.1" "$PWD/prefix/lib/libkfmcore.so" > install_manifest.txt
 END
 fake bin/ldconfig <<'END'
 if [ "${1:-}" = -p ]; then cat cache; else echo ldconfig >> log; fi
 END
-for command in cat env grep ln mkdir realpath sed sh touch xargs; do
+for command in cat env find grep ln mkdir realpath rm rmdir sed sh sort touch tr xargs; do
     ln -s "$(command -v "$command")" bin/
 done
 
@@ -108,4 +109,14 @@ expect "into another" 0 "" "export PKG_CONFIG_PATH=.$lib/pkgconfig. LD_LIBRARY_P
     "$tools/install.sh" prefix .
 fresh 0 0 "" ""
 expect "for a package" 0 "" "" env DESTDIR=stage "$tools/install.sh" prefix .
+
+fresh 1000 0 "" ""
+touch prefix/lib/of_others
+"$machine/bin/cmake"
+expect "what was installed elsewhere" 1 "" "nothing was last installed into $machine/other" \
+    "$tools/uninstall.sh" other .
+expect "removed again" 0 "" "" "$tools/uninstall.sh" prefix/../prefix .
+expect "what is left" 0 "" "^prefix prefix/include prefix/lib prefix/lib/of_others $" \
+    sh -c 'find prefix | sort | tr "\n" " "'
+expect "not once more" 1 "" "nothing was last installed" "$tools/uninstall.sh" prefix .
 exit "$failures"
