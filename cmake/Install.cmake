@@ -11,8 +11,9 @@ install(CODE "
     if(variants)
         file(REMOVE \${variants})
     endif()")
-install(TARGETS kfmgenw7 kfmrows kfmcore EXPORT kfmgen-targets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(TARGETS kfmgenw7 kfmrows kfmcore kfmgen-static EXPORT kfmgen-targets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 get_property(variants GLOBAL PROPERTY KFM_VARIANTS)
 foreach(variant IN LISTS variants)
     get_target_property(folder ${variant} KFM_FOLDER)

@@ -1,7 +1,7 @@
 # kfm_add_transform_library(<name> INSTRUCTIONS <row of the generator> [FOLDER <below lib>]
 # [FLAGS <compiler flags>...]): generates the kernels for an instruction set and builds the library
-# from them. Its parts are targets as well: <name>-sources, <name>-kernels, and the DCT-IV below its
-# public calls as objects that tests reach, <name>-codelets and <name>-planner.
+# from them. Its parts are targets as well: <name>-sources, <name>-kernels, the DCT-IV below its public
+# calls as objects that tests reach, <name>-codelets and <name>-planner, and the rest, <name>-calls.
 function(kfm_add_transform_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "INSTRUCTIONS;FOLDER" "FLAGS")
     string(REPLACE kfmgenw7 generated folder ${name})
@@ -29,19 +29,20 @@ function(kfm_add_transform_library name)
     foreach(part IN ITEMS codelets planner)
         target_compile_options(${name}-${part} PRIVATE -fstack-clash-protection ${arg_FLAGS})
     endforeach()
-    foreach(part IN ITEMS kernels codelets planner)
+    add_library(${name}-calls OBJECT
+        ${entries} core/version.cpp wht/buffer_size.cpp dct4/calls.cpp)
+    target_compile_options(${name}-calls PRIVATE ${arg_FLAGS})
+    foreach(part IN ITEMS kernels codelets planner calls)
         kfm_library_part(${name}-${part} ${name}-sources)
     endforeach()
 
-    add_library(${name} SHARED ${entries} core/version.cpp wht/buffer_size.cpp dct4/calls.cpp
+    add_library(${name} SHARED
         $<TARGET_OBJECTS:${name}-kernels> $<TARGET_OBJECTS:${name}-codelets>
-        $<TARGET_OBJECTS:${name}-planner>)
-    add_dependencies(${name} ${name}-sources)
-    target_compile_options(${name} PRIVATE ${arg_FLAGS})
-    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+        $<TARGET_OBJECTS:${name}-planner> $<TARGET_OBJECTS:${name}-calls>)
     target_link_libraries(${name} PRIVATE library_flags kfmcore m)
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
-    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map} OUTPUT_NAME kfmgenw7)
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map}
+        OUTPUT_NAME kfmgenw7 LINKER_LANGUAGE CXX)
     kfm_place_variant(${name} kfmgenw7 "${arg_FOLDER}")
 endfunction()
 
@@ -61,9 +62,11 @@ function(kfm_run_kernelgen name command instructions folder)
     add_custom_target(${name}-sources DEPENDS ${stamp})
 endfunction()
 
-# kfm_library_part(<objects> <sources>): objects of a library that are compiled from these sources.
-function(kfm_library_part objects sources)
-    add_dependencies(${objects} ${sources})
+# kfm_library_part(<objects> [<sources>]): objects of a library, compiled when these sources are there.
+function(kfm_library_part objects)
+    if(ARGN)
+        add_dependencies(${objects} ${ARGN})
+    endif()
     target_link_libraries(${objects} PRIVATE library_flags)
     target_include_directories(${objects} PUBLIC
         ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)

@@ -83,3 +83,12 @@ set(ENV{LD_LIBRARY_PATH} ${libraries})
 run(${scratch}/pathless)
 takes(${libraries} ldd ${scratch}/pathless)
 takes(${libraries} ${scratch}/pathless_by_name)
+
+# Linked statically, the program needs no library any more.
+set(ENV{LD_LIBRARY_PATH})
+execute_process(COMMAND ${pkg_config} --static --cflags --libs kfmgen kfmcore
+    OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(flags UNIX_COMMAND "${flags}")
+run(${compile} -static ${consumer}/consumer.c -o ${scratch}/static ${flags})
+file(REMOVE_RECURSE ${libraries})
+run(${scratch}/static)
