@@ -61,12 +61,15 @@ std::string transformStruct(const KernelFamily& kernels, const Family& family, i
                             const ScheduleChoice& choice) {
     const Graph single = kernels.graph(length, element, target, family.inverse());
     const int rows = form == RowsForm::pairs ? 2 : rowsAtOnce(single, element, target);
+    const RowPorts ports(form);
     const Body body = emitBody(form == RowsForm::pairs ? twoRowsGraph(single, length)
                                                        : spreadGraph(single, rows),
-                               element, choice, RowPorts(form));
+                               element, choice, ports);
     std::ostringstream out;
     out << "struct " << direction(family) << "Transform {\n" << values(element, form)
         << "    static constexpr int rows = " << rows << ";\n"
+        << "    static constexpr bool overlapping = " << (ports.overlapping() ? "true" : "false")
+        << ";\n"
         << "    static constexpr kfm::Direction direction = kfm::Direction::" << direction(family)
         << ";\n    " << scaleFactors(length, kernels.inverseSqrt(length), element, 0) << body.tables
         << "\n    template <class In, class Out>\n"

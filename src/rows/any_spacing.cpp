@@ -21,29 +21,6 @@ void sendOutPart(const Value* buffer, int slots, int present, Side<Value> dst) {
             for (int row = 0; row < present; ++row) dst.data[row * dst.distance + i] = buffer[row];
 }
 
-// Complex elements of neighbouring rows, as a vector of their real parts and one of their imaginary
-// parts.
-template <int rows, class Real>
-void bringInSeparated(Side<const Real> src, int slots, Real* buffer) {
-    using Row = VectorOfRows<Real, rows>;
-    for (; slots > 0; slots -= 2, src.data += src.stride, buffer += 2 * rows) {
-        const auto [re, im] =
-            simd::separated(Row::loadAnywhere(src.data), Row::loadAnywhere(src.data + rows));
-        Row::store(buffer, re);
-        Row::store(buffer + rows, im);
-    }
-}
-
-template <int rows, class Real>
-void sendOutInterleaved(const Real* buffer, int slots, Side<Real> dst) {
-    using Row = VectorOfRows<Real, rows>;
-    for (; slots > 0; slots -= 2, dst.data += dst.stride, buffer += 2 * rows) {
-        const auto [low, high] = simd::interleaved(Row::load(buffer), Row::load(buffer + rows));
-        Row::storeAnywhere(dst.data, low);
-        Row::storeAnywhere(dst.data + rows, high);
-    }
-}
-
 }   // namespace
 
 template <int rows, int perElement, class Value>
@@ -57,14 +34,12 @@ void runAnySpacing(Job<Value> left, const BufferKernel<Value>& kernel) {
         if (fromColumns && kernel.readsColumns) {
             kernel.run(left.src.data, left.src.stride, out, kernel.factor);
         } else {
-            if (!fromColumns) bringInPart<rows, perElement>(left.src, kernel.inSlots, present, in);
-            else if constexpr (perElement == 2) bringInSeparated<rows>(left.src, kernel.inSlots, in);
-            else bringInColumns<rows>(left.src, kernel.inSlots, in);
+            if (fromColumns) bringInColumns<rows, perElement>(left.src, kernel.inSlots, in);
+            else bringInPart<rows, perElement>(left.src, kernel.inSlots, present, in);
             kernel.run(in, rows, out, kernel.factor);
         }
-        if (!toColumns) sendOutPart<rows, perElement>(out, kernel.outSlots, present, left.dst);
-        else if constexpr (perElement == 2) sendOutInterleaved<rows>(out, kernel.outSlots, left.dst);
-        else sendOutColumns<rows>(out, kernel.outSlots, left.dst);
+        if (toColumns) sendOutColumns<rows, perElement>(out, kernel.outSlots, left.dst);
+        else sendOutPart<rows, perElement>(out, kernel.outSlots, present, left.dst);
         left.advance(present);
     }
 }

@@ -28,19 +28,38 @@ struct BufferKernel {
 template <int rows, int perElement, class Value>
 void runAnySpacing(Job<Value> left, const BufferKernel<Value>& kernel);
 
-// Neighbouring rows: between their places and a buffer.
-template <int rows, class Value>
+// Neighbouring rows, between their places and a buffer. Of elements with two numbers each is a vector of
+// its own there.
+template <int rows, int perElement, class Value>
 KFM_OPERATION void bringInColumns(Side<const Value> src, int slots, Value* buffer) {
     using Row = VectorOfRows<Value, rows>;
-    for (int slot = 0; slot < slots; ++slot)
-        Row::storeAnywhere(buffer + slot * rows, Row::loadAnywhere(src.data + slot * src.stride));
+    for (int slot = 0; slot < slots; slot += perElement, src.data += src.stride) {
+        Value* const to = buffer + slot * rows;
+        if constexpr (perElement == 1) {
+            Row::storeAnywhere(to, Row::loadAnywhere(src.data));
+        } else {
+            const auto [re, im] =
+                simd::separated(Row::loadAnywhere(src.data), Row::loadAnywhere(src.data + rows));
+            Row::storeAnywhere(to, re);
+            Row::storeAnywhere(to + rows, im);
+        }
+    }
 }
 
-template <int rows, class Value>
+template <int rows, int perElement, class Value>
 KFM_OPERATION void sendOutColumns(const Value* buffer, int slots, Side<Value> dst) {
     using Row = VectorOfRows<Value, rows>;
-    for (int slot = 0; slot < slots; ++slot)
-        Row::storeAnywhere(dst.data + slot * dst.stride, Row::loadAnywhere(buffer + slot * rows));
+    for (int slot = 0; slot < slots; slot += perElement, dst.data += dst.stride) {
+        const Value* const from = buffer + slot * rows;
+        if constexpr (perElement == 1) {
+            Row::storeAnywhere(dst.data, Row::loadAnywhere(from));
+        } else {
+            const auto [low, high] =
+                simd::interleaved(Row::loadAnywhere(from), Row::loadAnywhere(from + rows));
+            Row::storeAnywhere(dst.data, low);
+            Row::storeAnywhere(dst.data + rows, high);
+        }
+    }
 }
 
 }   // namespace kfm::rows

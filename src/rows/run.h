@@ -27,7 +27,10 @@ template <class Transform, int n, class In, class Out, class Value>
 void toBuffer(const Value* in, std::ptrdiff_t step, Value* out, const RealOf<Value>* factor) {
     constexpr int rows = Transform::rows;
     const auto results = writer<Out, rows, n>(out, Known<rows>());
-    if constexpr (readsColumns<Transform, In>)
+    if constexpr (Transform::overlapping)
+        transformOutOfLine<Transform>(reader<In, rows, n>(in, step),
+                                      writer<Out, rows, n>(out, std::ptrdiff_t{rows}), factor);
+    else if constexpr (readsColumns<Transform, In>)
         transformOutOfLine<Transform>(reader<In, rows, n>(in, step), results, factor);
     else transformOutOfLine<Transform>(reader<In, rows, n>(in, Known<rows>()), results, factor);
 }
@@ -63,8 +66,8 @@ public:
     }
 
     void anySpacing(Job<Value> left) const {
-        if constexpr (inRegisters<inSlots> && perElement == 1)
-            if (left.src.distance == 1 && left.dst.distance == 1) columns(left);
+        if constexpr (inRegisters<inSlots> || Transform::overlapping)
+            if (left.src.distance == perElement && left.dst.distance == perElement) columns(left);
         if (left.rows > 0)
             runAnySpacing<rows, perElement>(
                 left, {toBuffer<Transform, n, In, Out, Value>, factor_,
@@ -80,12 +83,26 @@ private:
 
     // All is read before anything is written: both sides may be the same.
     void columns(Job<Value>& left) const {
-        alignas(32) Value out[outSlots * rows];
-        setZeros(out);
-        for (; left.rows >= rows; left.advance(rows)) {
-            Transform::run(reader<In, rows, n>(left.src.data, left.src.stride),
-                           writer<Out, rows, n>(out, Known<rows>()), factor_);
-            sendOutColumns<rows>(out, outSlots, left.dst);
+        if constexpr (Transform::overlapping) {
+            for (; left.rows >= rows; left.advance(rows)) {
+                const auto from = reader<In, rows, n>(left.src.data, left.src.stride);
+                const auto to = writer<Out, rows, n>(left.dst.data, left.dst.stride);
+                if constexpr (inRegisters<inSlots>) Transform::run(from, to, factor_);
+                else transformOutOfLine<Transform>(from, to, factor_);
+            }
+        } else {
+            alignas(32) Value in[inSlots * rows], out[outSlots * rows];
+            const auto to = writer<Out, rows, n>(out, Known<rows>());
+            setZeros(out);
+            for (; left.rows >= rows; left.advance(rows)) {
+                if constexpr (perElement == 1) {
+                    Transform::run(reader<In, rows, n>(left.src.data, left.src.stride), to, factor_);
+                } else {
+                    bringInColumns<rows, perElement>(left.src, inSlots, in);
+                    Transform::run(reader<In, rows, n>(in, Known<rows>()), to, factor_);
+                }
+                sendOutColumns<rows, perElement>(out, outSlots, left.dst);
+            }
         }
     }
 
