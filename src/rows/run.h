@@ -81,7 +81,8 @@ private:
                 for (int row = 0; row < rows; ++row) out[slot * rows + row] = 0;
     }
 
-    // All is read before anything is written: both sides may be the same.
+    // Both sides may be the same: all is read before anything is written there, by kernels that do so
+    // themselves, and by others because they write to a buffer.
     void columns(Job<Value>& left) const {
         if constexpr (Transform::overlapping) {
             for (; left.rows >= rows; left.advance(rows)) {
