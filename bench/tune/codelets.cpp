@@ -27,7 +27,6 @@ std::vector<std::string> codeletFunctions() {
 std::vector<KernelSource> codelets(std::string_view function, const registry::Element& element,
                                    const bench::Selection& selection) {
     std::vector<KernelSource> result;
-    const std::string real = element.doublePrecision ? "double" : "float";
     for (const Codelets& row : all)
         for (int size = row.first; row.function == function && size <= row.last; size *= 2)
             if (selection.hasLength(size)) {
@@ -39,7 +38,7 @@ std::vector<KernelSource> codelets(std::string_view function, const registry::El
                 codelet.functions = {"calledCodelet"};
                 codelet.furtherText = "#include \"" KFM_TUNE_FOLDER
                                       "/codelet_calls.h\"\nKFM_CALL_CODELET(" +
-                                      codelet.source + ", " + real + ", " + std::to_string(size) +
+                                      codelet.source + ", " + element.realType() + ", " + std::to_string(size) +
                                       ")\n";
             }
     return result;

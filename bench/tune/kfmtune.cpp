@@ -131,8 +131,7 @@ Candidate choose(std::vector<Candidate> field, const std::string& current,
 // What calls a kernel of rows.
 void addRowsCalls(KernelSource& kernel, const registry::Family& family,
                   const registry::Element& element) {
-    const std::string function = std::string(family.name) + "_" + std::to_string(kernel.length) +
-                                 "_" + kernel.element;
+    const std::string function = registry::transformName(family, kernel.length, element);
     const bench::Widths widths(family.name, kernel.length);
     std::ostringstream text;
     text << "KFM_CALL_ROWS(" << function << ", weak "

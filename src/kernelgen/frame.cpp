@@ -17,12 +17,10 @@ std::string beginMarker(const Family& family) {
     return "/* declarations: " + std::string(family.name) + " */\n";
 }
 
-std::string lengthName(const Family& family) { return family.byOrder ? "order" : "length"; }
-
 std::string parameters(const Family& family, const Element& element, bool generic = false) {
     const std::string type(element.type);
     return "const " + type + " *src, " + type + " *dst, " +
-           (generic ? "int " + lengthName(family) + ", " : "") + "int flag" +
+           (generic ? "int " + family.lengthName() + ", " : "") + "int flag" +
            (family.byOrder ? ", Kfm8u *buffer" : "");
 }
 
@@ -55,7 +53,7 @@ std::string genericEntry(const Family& family, const Element& element) {
         text += "    " + registry::functionName(family, length, element) + ",\n";
     return text + "};\n\nextern \"C\" KfmStatus " + registry::genericName(family, element) + "(" +
            parameters(family, element, true) + ") {\n    return kfm::callByLength(" + table + ", " +
-           std::to_string(family.first) + ", " + lengthName(family) + ", " + arguments(family) +
+           std::to_string(family.first) + ", " + family.lengthName() + ", " + arguments(family) +
            ");\n}\n\n";
 }
 

@@ -33,7 +33,7 @@ std::string scaleFactors(int n, const Constant& bySqrtN, const registry::Element
         if (pairs) return "{" + text + ", " + text + "}";
         return lanes == 1 ? "{" + text + "}" : text;
     };
-    std::string type = element.doublePrecision ? "double" : "float";
+    std::string type = element.realType();
     if (pairs) type = "DoublePair";
     if (lanes == 1) type = "OneLane<" + type + ">";
     return "static constexpr kfm::ScaleFactors<" + type + "> scales = {" + print(1) + ", " +

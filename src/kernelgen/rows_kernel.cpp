@@ -38,14 +38,10 @@ int rowsAtOnce(const Graph& g, const Element& element, const Target& target) {
     return target.vectorBytes / (element.doublePrecision || g.arithmetic().mixed ? 8 : 4);
 }
 
-std::string realType(const Element& element) {
-    return element.doublePrecision ? "double" : "float";
-}
-
 // What a vector has one of for every row, and how many of them an element is.
 std::string values(const Element& element, RowsForm form) {
     const bool lanes = form == RowsForm::lanes;
-    return "    using Value = " + (lanes ? realType(element) : std::string(element.type)) +
+    return "    using Value = " + (lanes ? element.realType() : std::string(element.type)) +
            ";\n    static constexpr int perElement = " +
            (lanes && element.complex ? "2" : "1") + ";\n";
 }
@@ -74,7 +70,7 @@ std::string transformStruct(const KernelFamily& kernels, const Family& family, i
         << ";\n    " << scaleFactors(length, kernels.inverseSqrt(length), element, 0) << body.tables
         << "\n    template <class In, class Out>\n"
         << "    [[gnu::always_inline]] static void run(const In& in, const Out& out, const "
-        << realType(element) << "* factor) {\n"
+        << element.realType() << "* factor) {\n"
         << "        const auto scale = in.everywhere(factor);\n"
         << body.statements << "    }\n};\n\n";
     return out.str();
@@ -86,11 +82,6 @@ std::string layouts(const Family& family, int length) {
     const std::string packed = packedLayout(family, length);
     if (packed.empty()) return plain + ", " + plain;
     return family.inverse() ? packed + ", " + plain : plain + ", " + packed;
-}
-
-std::string rowsFunction(const Family& family, int length, const Element& element) {
-    return std::string(family.name) + "_" + std::to_string(length) + "_" +
-           std::string(element.suffix);
 }
 
 // "(const Job<Kfm32fc>& job)"
@@ -111,7 +102,7 @@ std::string function(const Family& family, int length, const Element& element,
     const std::string spaced = forms.spaced == RowsForm::single
                                    ? "spacedSingly<" + places + ">(job, " + single + ")"
                                    : "spacedInGroups<" + transform + places + ">(job)";
-    return "void " + rowsFunction(family, length, element) + jobParameter(element) +
+    return "void " + registry::transformName(family, length, element) + jobParameter(element) +
            " {\n    if (job.contiguous()) " + contiguous + "(job, " + single + ");\n    else " +
            spaced + ";\n}\n";
 }
@@ -120,7 +111,7 @@ std::string parameters(const Family& family, const Element& element) {
     const std::string type(element.type), indent = "\n    ";
     return "(" + indent + "const " + type + " *src, ptrdiff_t srcStride, ptrdiff_t srcDistance," +
            indent + type + " *dst, ptrdiff_t dstStride, ptrdiff_t dstDistance," + indent + "int " +
-           (family.byOrder ? "order" : "length") + ", ptrdiff_t rows, int flag" +
+           family.lengthName() + ", ptrdiff_t rows, int flag" +
            (family.byOrder ? ", Kfm8u *buffer" : "") + ")";
 }
 
@@ -173,13 +164,13 @@ std::string rowsEntries() {
         if (family.byOrder) return;
         out << "namespace kfm::rows {\n";
         for (int length = family.first; length <= family.last; ++length)
-            out << "void " << rowsFunction(family, length, element) << jobParameter(element)
+            out << "void " << registry::transformName(family, length, element) << jobParameter(element)
                 << ";\n";
         out << "}\n\nextern \"C\" KfmStatus " << registry::rowsName(family, element)
             << parameters(family, element) << " {\n"
             << "    static constexpr kfm::rows::Function<" << element.type << ">* functions[] = {\n";
         for (int length = family.first; length <= family.last; ++length)
-            out << "        kfm::rows::" << rowsFunction(family, length, element) << ",\n";
+            out << "        kfm::rows::" << registry::transformName(family, length, element) << ",\n";
         out << "    };\n    return kfm::rows::call<" << element.type << ">(functions, " << family.first
             << ", length,\n        {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, "
                "flag});\n}\n\n";

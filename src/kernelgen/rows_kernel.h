@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "kernelgen/generator.h"
 #include "kernelgen/rows_records.h"

@@ -57,9 +57,13 @@ std::vector<const Family*> familiesOf(std::string_view kernelSource) {
     return result;
 }
 
-std::string functionName(const Family& family, int length, const Element& element) {
-    return "kfmg" + std::string(family.name) + "_" + std::to_string(length) + "_" +
+std::string transformName(const Family& family, int length, const Element& element) {
+    return std::string(family.name) + "_" + std::to_string(length) + "_" +
            std::string(element.suffix);
+}
+
+std::string functionName(const Family& family, int length, const Element& element) {
+    return "kfmg" + transformName(family, length, element);
 }
 
 std::string genericName(const Family& family, const Element& element) {
@@ -71,7 +75,7 @@ std::string rowsName(const Family& family, const Element& element) {
 }
 
 std::string unalignedName(const Family& family, int length, const Element& element) {
-    return "owng" + functionName(family, length, element).substr(4) + "_unaligned";
+    return "owng" + transformName(family, length, element) + "_unaligned";
 }
 
 bool testsAlignment(const Family& family, int length, const Element& element) {

@@ -17,6 +17,9 @@ struct Element {
     int bytes;                 // of one element
     bool complex;
     bool doublePrecision;
+
+    // Of its numbers, in C++.
+    std::string realType() const { return doublePrecision ? "double" : "float"; }
 };
 
 struct Family {
@@ -28,6 +31,8 @@ struct Family {
     bool byOrder;   // members are orders, and a work buffer is the last argument
 
     bool inverse() const { return name.starts_with("DFTInv"); }
+    // What declarations call its length.
+    std::string lengthName() const { return byOrder ? "order" : "length"; }
     // Elements in the signal of a member.
     std::size_t samples(int member) const {
         return byOrder ? std::size_t{1} << member : static_cast<std::size_t>(member);
@@ -44,7 +49,9 @@ std::vector<const Family*> familiesOf(std::string_view kernelSource);
 
 // Wherever a length is asked for below, an order is meant in a family of orders.
 
-// "kfmgDFTFwd_CToC_16_32fc", "kfmgDFTFwd_CToC_32fc", "owngDFTFwd_CToC_16_32fc_unaligned".
+// "DFTFwd_CToC_16_32fc", and from it "kfmgDFTFwd_CToC_16_32fc", "kfmgDFTFwd_CToC_32fc",
+// "owngDFTFwd_CToC_16_32fc_unaligned".
+std::string transformName(const Family& family, int length, const Element& element);
 std::string functionName(const Family& family, int length, const Element& element);
 std::string genericName(const Family& family, const Element& element);
 std::string unalignedName(const Family& family, int length, const Element& element);

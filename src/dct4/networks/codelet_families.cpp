@@ -111,7 +111,7 @@ std::string emit(const Kind& kind, int size, const Element& element,
                  const ScheduleChoice& schedule) {
     const Graph g = graph(kind, size, element);
     const OperationCounts counts = countOperations(g);
-    const std::string real = element.doublePrecision ? "double" : "float";
+    const std::string real = element.realType();
     std::string network(kind.function);
     network[0] = static_cast<char>(std::toupper(network[0]));
     std::ostringstream out;
