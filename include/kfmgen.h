@@ -23,8 +23,8 @@
  * share what is only read: sources, and plans of the DCT-IV up to length 32. A destination, a work
  * buffer and a longer plan belong to one call at a time.
  *
- * NaN and infinity are numbers like any other: no call fails or takes longer because of them, and what
- * depends on them is a NaN or infinite. Where results are said to be the same bit for bit, or to hold
+ * NaN and infinity are numbers like any other: no call fails because of them, and what depends on them
+ * is a NaN or infinite. Where results are said to be the same bit for bit, or to hold
  * the same bits, a NaN may still differ in its sign and payload. Rounding, and whether tiny numbers
  * are flushed to zero, are as the calling thread has set them; everything that is said of bits holds
  * for the default, rounding to nearest without flushing.

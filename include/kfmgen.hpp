@@ -99,11 +99,8 @@ Result transform(const Src& src, Dst&& dst, Scale scale = Scale::inverseByN) {
 // Bytes of the buffer in which the Walsh-Hadamard transform of a length works.
 template <detail::Number T>
 Expected<std::size_t> whtBufferSize(std::size_t length) {
-    int size = 0;
     const auto tell = std::same_as<T, float> ? kfmgWHTGetBufferSize_32f : kfmgWHTGetBufferSize_64f;
-    const KfmStatus status = tell(detail::lengthArgument<Wht>(length), &size);
-    if (status != kfmOk) return Result(status);
-    return static_cast<std::size_t>(size);
+    return detail::sizeFrom(tell, detail::lengthArgument<Wht>(length));
 }
 
 // In the caller's buffer, of that size at least, which starts at a multiple of 16: no allocation. One

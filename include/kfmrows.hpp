@@ -9,11 +9,13 @@
 #ifndef KFMROWS_HPP
 #define KFMROWS_HPP
 
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <type_traits>
+#include <utility>
 
 #include "kfmgen.hpp"
 #include "kfmrows.h"
@@ -75,7 +77,8 @@ private:
     bool inside_ = true;
 };
 template <class Array>
-Frames(Array&, std::size_t) -> Frames<typename decltype(std::span(std::declval<Array&>()))::element_type>;
+Frames(Array&, std::size_t)
+    -> Frames<typename decltype(std::span(std::declval<Array&>()))::element_type>;
 
 namespace detail {
 
@@ -102,14 +105,20 @@ KFM_FRAMES(Hartley, Hartley, _32f, _64f)
 KFM_FRAMES(Wht, WHT, _32f, _64f)
 #undef KFM_FRAMES
 
+// As many frames on both sides, all of them inside their arrays.
+template <class Src, class Dst>
+bool match(const Frames<Src>& src, const Frames<Dst>& dst) {
+    return src.insideArray() && dst.insideArray() && src.count() == dst.count() &&
+           src.count() <= PTRDIFF_MAX;
+}
+
 template <class Family, class Src, class Dst, class... Buffer>
 Result callFrames(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale, Buffer... buffer) {
     using Value = std::remove_const_t<Src>;
     using Element = typename Functions<Family, typename Parts<Value>::Of>::Element;
     constexpr std::size_t parts = Parts<Value>::count;
     const std::size_t length = std::min(src.length(), dst.length());
-    if (!src.insideArray() || !dst.insideArray() || src.count() != dst.count() ||
-        src.count() > PTRDIFF_MAX || parts * src.length() != Sides<Family>::sourceSize(length) ||
+    if (!match(src, dst) || parts * src.length() != Sides<Family>::sourceSize(length) ||
         parts * dst.length() != Sides<Family>::destinationSize(length))
         return kfmErrSize;
     return FrameFunction<Family, typename Parts<Value>::Of>::run(
@@ -139,11 +148,8 @@ Result transform(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale = S
 // Bytes of the buffer in which frames of a length go through the Walsh-Hadamard transform.
 template <detail::Number T>
 Expected<std::size_t> whtFramesBufferSize(std::size_t length) {
-    int size = 0;
     const auto tell = std::same_as<T, float> ? kfmrWHTGetBufferSize_32f : kfmrWHTGetBufferSize_64f;
-    const KfmStatus status = tell(detail::lengthArgument<Wht>(length), &size);
-    if (status != kfmOk) return Result(status);
-    return static_cast<std::size_t>(size);
+    return detail::sizeFrom(tell, detail::lengthArgument<Wht>(length));
 }
 
 // In the caller's buffer, as for one frame.
@@ -160,8 +166,7 @@ Result transform(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale,
 template <class Src, detail::Number T, class Release>
     requires std::same_as<std::remove_const_t<Src>, T>
 Result transform(const Frames<Src>& src, const Frames<T>& dst, Dct4Plan<T, Release>& plan) {
-    if (!src.insideArray() || !dst.insideArray() || src.count() != dst.count() ||
-        src.count() > PTRDIFF_MAX || src.length() != plan.size() || dst.length() != plan.size())
+    if (!detail::match(src, dst) || src.length() != plan.size() || dst.length() != plan.size())
         return kfmErrSize;
     const auto run = [&](auto function) {
         return function(src.data(), src.stride(), src.distance(), dst.data(), dst.stride(),

@@ -67,10 +67,7 @@ public:
 
     // Bytes that a plan needs.
     static Expected<std::size_t> memorySize(std::size_t length) {
-        int size = 0;
-        const KfmStatus status = C::size(detail::lengthArgument<void>(length), &size);
-        if (status != kfmOk) return Result(status);
-        return static_cast<std::size_t>(size);
+        return detail::sizeFrom(C::size, detail::lengthArgument<void>(length));
     }
 
     // In the caller's memory, which must stay while the plan is used: memorySize() bytes, starting at

@@ -9,7 +9,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <ranges>
 #include <span>
+#include <type_traits>
 
 #include "../kfmgen.h"
 

@@ -2,6 +2,7 @@
 #ifndef KFMGEN_STATUS_HPP
 #define KFMGEN_STATUS_HPP
 
+#include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -13,7 +14,7 @@ namespace kfm {
 inline const char* statusText(KfmStatus status) {
     switch (status) {
 #define KFM_TEXT(name, text) \
-    case name:                      \
+    case name:               \
         return text;
         KFM_STATUSES(KFM_TEXT)
 #undef KFM_TEXT
@@ -66,6 +67,18 @@ private:
     std::optional<T> value_;
     Result result_ = kfmOk;
 };
+
+namespace detail {
+
+// What a C function for sizes tells: KfmStatus tell(argument, &size).
+inline Expected<std::size_t> sizeFrom(KfmStatus (*tell)(int, int*), int argument) {
+    int size = 0;
+    const Result result = tell(argument, &size);
+    if (!result) return result;
+    return static_cast<std::size_t>(size);
+}
+
+}   // namespace detail
 
 }   // namespace kfm
 
