@@ -38,8 +38,8 @@ std::vector<KernelSource> codelets(std::string_view function, const registry::El
                 codelet.functions = {"calledCodelet"};
                 codelet.furtherText = "#include \"" KFM_TUNE_FOLDER
                                       "/codelet_calls.h\"\nKFM_CALL_CODELET(" +
-                                      codelet.source + ", " + element.realType() + ", " + std::to_string(size) +
-                                      ")\n";
+                                      codelet.source + ", " + element.realType() + ", " +
+                                      std::to_string(size) + ")\n";
             }
     return result;
 }

@@ -13,6 +13,7 @@ namespace {
 
 using registry::Element;
 using registry::Family;
+using registry::transformName;
 
 // Vectors by their numbers, whatever fills their lanes.
 class RowPorts : public Ports {
@@ -102,7 +103,7 @@ std::string function(const Family& family, int length, const Element& element,
     const std::string spaced = forms.spaced == RowsForm::single
                                    ? "spacedSingly<" + places + ">(job, " + single + ")"
                                    : "spacedInGroups<" + transform + places + ">(job)";
-    return "void " + registry::transformName(family, length, element) + jobParameter(element) +
+    return "void " + transformName(family, length, element) + jobParameter(element) +
            " {\n    if (job.contiguous()) " + contiguous + "(job, " + single + ");\n    else " +
            spaced + ";\n}\n";
 }
@@ -164,13 +165,13 @@ std::string rowsEntries() {
         if (family.byOrder) return;
         out << "namespace kfm::rows {\n";
         for (int length = family.first; length <= family.last; ++length)
-            out << "void " << registry::transformName(family, length, element) << jobParameter(element)
+            out << "void " << transformName(family, length, element) << jobParameter(element)
                 << ";\n";
         out << "}\n\nextern \"C\" KfmStatus " << registry::rowsName(family, element)
             << parameters(family, element) << " {\n"
             << "    static constexpr kfm::rows::Function<" << element.type << ">* functions[] = {\n";
         for (int length = family.first; length <= family.last; ++length)
-            out << "        kfm::rows::" << registry::transformName(family, length, element) << ",\n";
+            out << "        kfm::rows::" << transformName(family, length, element) << ",\n";
         out << "    };\n    return kfm::rows::call<" << element.type << ">(functions, " << family.first
             << ", length,\n        {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, "
                "flag});\n}\n\n";
