@@ -23,16 +23,19 @@ template <class Transform, class In, class Out, class Real>
 template <class Transform, class In>
 inline constexpr bool readsColumns = !Packed<In> && Transform::perElement == 1;
 
+// The step of a side that may be columns; of any other it is that of buffers.
+template <bool mayBeColumns, int rows>
+auto stepOf(std::ptrdiff_t step) {
+    if constexpr (mayBeColumns) return step;
+    else return Known<rows>();
+}
+
 template <class Transform, int n, class In, class Out, class Value>
 void toBuffer(const Value* in, std::ptrdiff_t step, Value* out, const RealOf<Value>* factor) {
     constexpr int rows = Transform::rows;
-    const auto results = writer<Out, rows, n>(out, Known<rows>());
-    if constexpr (Transform::overlapping)
-        transformOutOfLine<Transform>(reader<In, rows, n>(in, step),
-                                      writer<Out, rows, n>(out, std::ptrdiff_t{rows}), factor);
-    else if constexpr (readsColumns<Transform, In>)
-        transformOutOfLine<Transform>(reader<In, rows, n>(in, step), results, factor);
-    else transformOutOfLine<Transform>(reader<In, rows, n>(in, Known<rows>()), results, factor);
+    transformOutOfLine<Transform>(
+        reader<In, rows, n>(in, stepOf<readsColumns<Transform, In>, rows>(step)),
+        writer<Out, rows, n>(out, stepOf<Transform::overlapping, rows>(rows)), factor);
 }
 
 // Values of short rows stay in registers.
