@@ -178,7 +178,8 @@ int main(int argc, char** argv) try {
     options.selection.addLengths(app);
     options.sides.addOptions(app);
     app.add_option("--batches", options.batches, "timed batches of each length")
-        ->check(CLI::Range(1, 100000))->capture_default_str();
+        ->check(CLI::Range(1, 100000))
+        ->capture_default_str();
     CLI11_PARSE(app, argc, argv);
     const auto other = options.sides.open();
     const PinnedToCore pinned(lastCore());

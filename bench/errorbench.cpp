@@ -92,8 +92,7 @@ struct Comparison {
             if (n % 2 == 0) source[n + 1] = 0;
         }
         const std::vector<Real> kept(source, source + reals);
-        const Quads exact =
-            definition(family, element.complex, Quads(kept.begin(), kept.end()), n);
+        const Quads exact = definition(family, element.complex, Quads(kept.begin(), kept.end()), n);
         reinterpret_cast<Transform>(function.address)(source, destination, kfmScaleNone);
         accumulate(ours, destination, exact);
         peer.execute(source, destination);
@@ -137,8 +136,7 @@ void compareAll(const Selection& selection, int signals) {
         some = true;
         if (element.doublePrecision)
             Comparison<double>{function, family, element, peer, {}, {}}.print(signals);
-        else
-            Comparison<float>{function, family, element, peer, {}, {}}.print(signals);
+        else Comparison<float>{function, family, element, peer, {}, {}}.print(signals);
     }
     if (!some) throw std::runtime_error("FFTW has none of these transforms, or is not there");
 }
@@ -156,7 +154,8 @@ int main(int argc, char** argv) try {
     selection.addElement(app);
     selection.addLengths(app);
     app.add_option("--signals", signals, "random signals for each function")
-        ->check(CLI::Range(1, 1000000))->capture_default_str();
+        ->check(CLI::Range(1, 1000000))
+        ->capture_default_str();
     app.add_option("--fftw-folder", peerFolder, "folder of the FFTW libraries");
     CLI11_PARSE(app, argc, argv);
     if (!peerFolder.empty()) setPeerFolders({peerFolder});

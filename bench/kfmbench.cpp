@@ -92,8 +92,8 @@ std::vector<Result> measureAll(const OtherLibrary* other, const Options& options
         const std::string kernels(family.kernelSource);
         const auto row = counts.find({kernels, function.length, function.element});
         if (family.byOrder)
-            result.counts = countsOfOrder(function.length,
-                                          *registry::findElement(function.element));
+            result.counts =
+                countsOfOrder(function.length, *registry::findElement(function.element));
         if (row != counts.end()) result.counts = row->second;
     }
     return results;

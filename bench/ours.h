@@ -45,9 +45,8 @@ public:
 
     std::function<void(long)> repeat(void (*address)()) const {
         if (!byOrder) return repeatUnscaled(function.name, address, signals);
-        return [buffer = buffer,
-                repeat = repeatUnscaled(function.name, address, signals, buffer.get())](
-                   long calls) { repeat(calls); };
+        const auto repeat = repeatUnscaled(function.name, address, signals, buffer.get());
+        return [buffer = buffer, repeat](long calls) { repeat(calls); };
     }
 
 private:

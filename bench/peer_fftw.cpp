@@ -115,8 +115,8 @@ public:
                                            complexPlan(n, rows, family.inverse()), keepSource,
                                            effort);
         if (family.name == "Hartley")
-            return plans<Real, Real>(makeSignals, executeReal, realPlan(n, rows, FFTW_DHT),
-                                     anyRule, effort);
+            return plans<Real, Real>(makeSignals, executeReal, realPlan(n, rows, FFTW_DHT), anyRule,
+                                     effort);
         if (!family.name.starts_with("DFT")) return {};
         if (family.inverse())
             return plans<Complex, Real>(makeSignals, executeInverse, inversePlan, anyRule, effort);
@@ -178,8 +178,7 @@ private:
                          static_cast<Destination*>(scratch->destination()), effort | rule);
             if (plan == nullptr) continue;
             const auto once = [=](void* source, void* destination) {
-                execute(plan, static_cast<Source*>(source),
-                        static_cast<Destination*>(destination));
+                execute(plan, static_cast<Source*>(source), static_cast<Destination*>(destination));
             };
             result.push_back({repeatOn(makeSignals(), once), once, version});
         }
@@ -217,8 +216,8 @@ const std::vector<Build>& builds() {
         for (const std::string& folder : peerFolders) paths.push_back(folder + "/");
         if (paths.empty()) paths.push_back("");
         for (const std::string& path : paths)
-            result.push_back({path, {path + "libfftw3.so.3", "fftw_"},
-                              {path + "libfftw3f.so.3", "fftwf_"}});
+            result.push_back(
+                {path, {path + "libfftw3.so.3", "fftw_"}, {path + "libfftw3f.so.3", "fftwf_"}});
         return result;
     }();
     return all;
@@ -261,8 +260,7 @@ PeerPlan fftwPlan(const registry::Function& function) {
 PeerPlan fftwRowsPlan(const registry::Function& function, const Rows& rows) {
     const registry::Element& element = *registry::findElement(function.element);
     const auto arrays = [&] { return Signals::ofRows(rows.count, function.length, element); };
-    return fastestOf(element,
-                     [&](const auto& api) { return api.like(function, rows, arrays); });
+    return fastestOf(element, [&](const auto& api) { return api.like(function, rows, arrays); });
 }
 
 PeerPlan fftwDct4Plan(int length, const registry::Element& element) {

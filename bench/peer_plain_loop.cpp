@@ -39,8 +39,8 @@ PeerPlan plainLoop(const registry::Function& function) {
     const registry::Element& element = *registry::findElement(function.element);
     const std::size_t length = registry::findFamily(function.family)->samples(function.length);
     const auto signals = std::make_shared<const Signals>(static_cast<int>(length), element);
-    auto loop = element.doublePrecision ? repeat<double>(signals, length)
-                                        : repeat<float>(signals, length);
+    auto loop =
+        element.doublePrecision ? repeat<double>(signals, length) : repeat<float>(signals, length);
     return {std::move(loop), {}, "plain loop"};
 }
 

@@ -59,8 +59,8 @@ void Result::keepFaster(const Result& again) {
     ns = std::min(ns, again.ns);
     medianNs = std::min(medianNs, again.medianNs);
     cycleNs = std::min(cycleNs, again.cycleNs);
-    for (const auto side : {&Result::peerNs, &Result::otherNs, &Result::inPlaceNs,
-                            &Result::otherInPlaceNs})
+    for (const auto side :
+         {&Result::peerNs, &Result::otherNs, &Result::inPlaceNs, &Result::otherInPlaceNs})
         this->*side = std::min(this->*side, again.*side);
 }
 

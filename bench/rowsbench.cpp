@@ -34,10 +34,12 @@ void addOptions(CLI::App& app, Options& options) {
     options.selection.addElement(app);
     options.selection.addLengths(app);
     app.add_option("--rows", options.rows.count, "rows of a call")
-        ->check(CLI::Range(1, 1 << 20))->capture_default_str();
-    app.add_option_function<std::string>("--layout", [&options](const std::string& layout) {
-        options.rows.columns = layout == "columns";
-    }, "how the rows stand in their array: contiguous, which is the default, or columns")
+        ->check(CLI::Range(1, 1 << 20))
+        ->capture_default_str();
+    app.add_option_function<std::string>(
+           "--layout",
+           [&options](const std::string& layout) { options.rows.columns = layout == "columns"; },
+           "how the rows stand in their array: contiguous, which is the default, or columns")
         ->check(CLI::IsMember({"contiguous", "columns"}));
     options.run.addOptions(app);
     options.sides.addPeerOptions(app);
@@ -117,8 +119,8 @@ RowsResult measure(const registry::Function& function, const registry::Element& 
     const SingleCalls<Value> bySingle(function, rows);
     const auto arrays = Signals::ofRows(rows.count, function.length, element);
     const auto singleArrays = Signals::ofRows(rows.count, function.length, element);
-    requireSame(function, *arrays, *singleArrays,
-                sizeof(Value) * widths.destination * rows.count, byRows, bySingle);
+    requireSame(function, *arrays, *singleArrays, sizeof(Value) * widths.destination * rows.count,
+                byRows, bySingle);
 
     Subject mine(repeatOn(arrays, byRows)), single(repeatOn(singleArrays, bySingle));
     std::vector<Subject*> subjects = {&mine, &single};

@@ -21,11 +21,13 @@ struct Run {
 
     void addOptions(CLI::App& app) {
         app.add_option("--batches", batches, "timed batches of each function")
-            ->check(CLI::Range(1, 100000))->capture_default_str();
+            ->check(CLI::Range(1, 100000))
+            ->capture_default_str();
         app.add_option("--rounds", rounds,
                        "how often to go through all functions; of each side the fastest round "
                        "counts")
-            ->check(CLI::Range(1, 1000))->capture_default_str();
+            ->check(CLI::Range(1, 1000))
+            ->capture_default_str();
         app.add_option("--csv", csv, "write the CSV to this file");
         app.add_flag("--summary", summary, "print a summary; without --csv, instead of it");
         app.add_option("--core", core, "processor to run on")->capture_default_str();

@@ -18,15 +18,18 @@ struct Selection {
     int first = 0, last = INT_MAX;
 
     void addLengths(CLI::App& app) {
-        app.add_option_function<std::string>("--lengths", [this](const std::string& text) {
-            int read = 0;
-            if (std::sscanf(text.c_str(), "%d-%d%n", &first, &last, &read) < 2) {
-                std::sscanf(text.c_str(), "%d%n", &first, &read);
-                last = first;
-            }
-            if (read == 0 || text[read] != '\0')
-                throw CLI::ValidationError("--lengths", "expected N or A-B");
-        }, "one length or a range A-B");
+        app.add_option_function<std::string>(
+            "--lengths",
+            [this](const std::string& text) {
+                int read = 0;
+                if (std::sscanf(text.c_str(), "%d-%d%n", &first, &last, &read) < 2) {
+                    std::sscanf(text.c_str(), "%d%n", &first, &read);
+                    last = first;
+                }
+                if (read == 0 || text[read] != '\0')
+                    throw CLI::ValidationError("--lengths", "expected N or A-B");
+            },
+            "one length or a range A-B");
     }
     void addElement(CLI::App& app) {
         app.add_option("--element", element, "element type")

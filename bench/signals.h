@@ -51,10 +51,8 @@ private:
                 &std::free),
           start(block.get() + (unaligned ? 8 : 0)), inPlace(inPlace) {
         for (int placement = 0; placement < placements; ++placement)
-            if (element.doublePrecision)
-                fill<double>(placement);
-            else
-                fill<float>(placement);
+            if (element.doublePrecision) fill<double>(placement);
+            else fill<float>(placement);
     }
 
     // With room for the offset of an unaligned signal.

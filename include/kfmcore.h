@@ -15,10 +15,10 @@ extern "C" {
 
 /* A block of `size` bytes that starts at a multiple of 64; a block of its own also for size 0.
  * Null when size is negative or memory is exhausted. Give it back with kfmFree. */
-KFMCORE_API void *kfmMalloc(int size);
+KFMCORE_API void* kfmMalloc(int size);
 
 /* Releases a block that kfmMalloc returned. Null does nothing. */
-KFMCORE_API void kfmFree(void *block);
+KFMCORE_API void kfmFree(void* block);
 
 #ifdef __cplusplus
 }

@@ -42,6 +42,8 @@
 #define KFM_API
 #endif
 
+/* Laid out by hand, the declarations by the generator. */
+/* clang-format off */
 #ifdef __cplusplus
 extern "C" {
 #endif

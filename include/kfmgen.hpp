@@ -58,12 +58,11 @@ constexpr bool mayHold(std::size_t size) {
 
 // Whether there is a transform of length n, and the ranges may be of its sizes.
 template <class Family, std::size_t n, class Src, class Dst>
-concept OfLength =
-    n == anyLength ||
-    (lengthArgument<Family>(n) >= Functions<Family, NumberOf<Src>>::first &&
-     lengthArgument<Family>(n) <= Functions<Family, NumberOf<Src>>::last &&
-     mayHold<const Src>(Sides<Family>::sourceSize(n)) &&
-     mayHold<Dst>(Sides<Family>::destinationSize(n)));
+concept OfLength = n == anyLength ||
+                   (lengthArgument<Family>(n) >= Functions<Family, NumberOf<Src>>::first &&
+                    lengthArgument<Family>(n) <= Functions<Family, NumberOf<Src>>::last &&
+                    mayHold<const Src>(Sides<Family>::sourceSize(n)) &&
+                    mayHold<Dst>(Sides<Family>::destinationSize(n)));
 
 template <class Family, std::size_t n, class Src, class Dst, class... Buffer>
 Result call(const Src& src, Dst& dst, Scale scale, Buffer... buffer) {
@@ -89,8 +88,8 @@ Result call(const Src& src, Dst& dst, Scale scale, Buffer... buffer) {
 // Of the length n, or without it of the length that the ranges have. In place where both are the same
 // memory. The Walsh-Hadamard transform allocates what it needs.
 template <class Family, std::size_t n = detail::anyLength, class Src, class Dst>
-    requires detail::Transformable<Family, Src, Dst> && detail::OfLength<Family, n, Src, Dst>
-Result transform(const Src& src, Dst&& dst, Scale scale = Scale::inverseByN) {
+requires detail::Transformable<Family, Src, Dst> && detail::OfLength<Family, n, Src, Dst> Result
+transform(const Src& src, Dst&& dst, Scale scale = Scale::inverseByN) {
     if constexpr (detail::byOrder<Family>)
         return detail::call<Family, n>(src, dst, scale, static_cast<Kfm8u*>(nullptr));
     else return detail::call<Family, n>(src, dst, scale);
@@ -106,9 +105,9 @@ Expected<std::size_t> whtBufferSize(std::size_t length) {
 // In the caller's buffer, of that size at least, which starts at a multiple of 16: no allocation. One
 // that is too small or starts elsewhere is refused with kfmErrSize.
 template <class Family, std::size_t n = detail::anyLength, class Src, class Dst>
-    requires detail::Transformable<Family, Src, Dst> && detail::OfLength<Family, n, Src, Dst> &&
-             detail::byOrder<Family>
-Result transform(const Src& src, Dst&& dst, Scale scale, std::span<std::byte> buffer) {
+requires detail::Transformable<Family, Src, Dst> && detail::OfLength<Family, n, Src, Dst> &&
+    detail::byOrder<Family>
+        Result transform(const Src& src, Dst&& dst, Scale scale, std::span<std::byte> buffer) {
     Expected<std::size_t> size = whtBufferSize<detail::NumberOf<Src>>(std::ranges::size(src));
     if (!size || !detail::serves(buffer, *size, 16)) return kfmErrSize;
     return detail::call<Family, n>(src, dst, scale, reinterpret_cast<Kfm8u*>(buffer.data()));

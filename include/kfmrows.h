@@ -48,6 +48,8 @@
 
 #include "kfmgen.h"
 
+/* Laid out by hand, the declarations by the generator. */
+/* clang-format off */
 #ifdef __cplusplus
 extern "C" {
 #endif

@@ -84,14 +84,14 @@ namespace detail {
 
 template <class Family, class T>
 struct FrameFunction;
-#define KFM_FRAMES(Family, name, single, twofold)                     \
-    template <>                                                       \
-    struct FrameFunction<Family, float> {                             \
-        static constexpr auto run = kfmr##name##single;               \
-    };                                                                \
-    template <>                                                       \
-    struct FrameFunction<Family, double> {                            \
-        static constexpr auto run = kfmr##name##twofold;              \
+#define KFM_FRAMES(Family, name, single, twofold)        \
+    template <>                                          \
+    struct FrameFunction<Family, float> {                \
+        static constexpr auto run = kfmr##name##single;  \
+    };                                                   \
+    template <>                                          \
+    struct FrameFunction<Family, double> {               \
+        static constexpr auto run = kfmr##name##twofold; \
     };
 KFM_FRAMES(Dft, DFTFwd_CToC, _32fc, _64fc)
 KFM_FRAMES(InverseDft, DFTInv_CToC, _32fc, _64fc)
@@ -138,8 +138,8 @@ concept FramesTransformable =
 
 // Every frame of src to the frame of dst with its number.
 template <class Family, class Src, class Dst>
-    requires detail::FramesTransformable<Family, Src, Dst>
-Result transform(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale = Scale::inverseByN) {
+requires detail::FramesTransformable<Family, Src, Dst> Result
+transform(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale = Scale::inverseByN) {
     if constexpr (detail::byOrder<Family>)
         return detail::callFrames<Family>(src, dst, scale, static_cast<Kfm8u*>(nullptr));
     else return detail::callFrames<Family>(src, dst, scale);
@@ -154,9 +154,8 @@ Expected<std::size_t> whtFramesBufferSize(std::size_t length) {
 
 // In the caller's buffer, as for one frame.
 template <class Family, class Src, class Dst>
-    requires detail::FramesTransformable<Family, Src, Dst> && detail::byOrder<Family>
-Result transform(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale,
-                 std::span<std::byte> buffer) {
+requires detail::FramesTransformable<Family, Src, Dst> && detail::byOrder<Family> Result transform(
+    const Frames<Src>& src, const Frames<Dst>& dst, Scale scale, std::span<std::byte> buffer) {
     Expected<std::size_t> size = whtFramesBufferSize<Dst>(src.length());
     if (!size || !detail::serves(buffer, *size, 16)) return kfmErrSize;
     return detail::callFrames<Family>(src, dst, scale, reinterpret_cast<Kfm8u*>(buffer.data()));
@@ -164,8 +163,9 @@ Result transform(const Frames<Src>& src, const Frames<Dst>& dst, Scale scale,
 
 // By a plan of the DCT-IV.
 template <class Src, detail::Number T, class Release>
-    requires std::same_as<std::remove_const_t<Src>, T>
-Result transform(const Frames<Src>& src, const Frames<T>& dst, Dct4Plan<T, Release>& plan) {
+requires std::same_as<std::remove_const_t<Src>, T> Result transform(const Frames<Src>& src,
+                                                                    const Frames<T>& dst,
+                                                                    Dct4Plan<T, Release>& plan) {
     if (!detail::match(src, dst) || src.length() != plan.size() || dst.length() != plan.size())
         return kfmErrSize;
     const auto run = [&](auto function) {

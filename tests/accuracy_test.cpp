@@ -57,8 +57,7 @@ std::vector<Signal> randomSignals(const Transform& transform, int rounds = 1) {
     Random random(testSeed());
     std::vector<Signal> signals;
     const int count = transform.length > 128 ? 4 : 12 + 512 / transform.length;
-    for (int i = 0; i < rounds * count; ++i)
-        signals.push_back(randomSignal(transform, random));
+    for (int i = 0; i < rounds * count; ++i) signals.push_back(randomSignal(transform, random));
     return signals;
 }
 
@@ -127,8 +126,8 @@ TEST_P(Accuracy, StaysWithinCommittedBound) {
         table().record(transform.name(), columnsFor(onSignals, promise.forSignals) + "  " +
                                              columnsFor(onImpulses, promise.forImpulses));
     std::istringstream row(table().expected(transform.name()));
-    for (const auto& [error, promised] : {std::pair(onSignals, promise.forSignals),
-                                          std::pair(onImpulses, promise.forImpulses)}) {
+    for (const auto& [error, promised] :
+         {std::pair(onSignals, promise.forSignals), std::pair(onImpulses, promise.forImpulses)}) {
         double measured = 0, bound = 0;
         ASSERT_TRUE(row >> measured >> bound) << "no row in the table; worst error is " << error;
         EXPECT_LE(error, bound) << "seed " << testSeed() << "; when committed " << measured;
@@ -206,9 +205,9 @@ TEST_P(RoundTrip, RestoresTheSignal) {
     ASSERT_NE(inverse, nullptr);
     for (const Signal& signal : randomSignals(forward)) {
         const std::vector<Quad> expected(signal.begin(), signal.end());
-        for (const auto& [there, back] : {std::pair(kfmScaleFwdByN, kfmScaleNone),
-                                          std::pair(kfmScaleNone, kfmScaleInvByN),
-                                          std::pair(kfmScaleBySqrtN, kfmScaleBySqrtN)}) {
+        for (const auto& [there, back] :
+             {std::pair(kfmScaleFwdByN, kfmScaleNone), std::pair(kfmScaleNone, kfmScaleInvByN),
+              std::pair(kfmScaleBySqrtN, kfmScaleBySqrtN)}) {
             const Signal restored = run(*inverse, run(forward, signal, there), back);
             ASSERT_LE(errorInUnits(*inverse, restored, expected), 10)
                 << "flags " << there << ", " << back;

@@ -6,22 +6,22 @@
 #include <stdio.h>
 #include <string.h>
 
-typedef int (*Fixed)(const void *src, void *dst, int flag, void *buffer);
-typedef int (*Generic)(const void *src, void *dst, int length, int flag);
-typedef int (*GenericByOrder)(const void *src, void *dst, int order, int flag, void *buffer);
+typedef int (*Fixed)(const void* src, void* dst, int flag, void* buffer);
+typedef int (*Generic)(const void* src, void* dst, int length, int flag);
+typedef int (*GenericByOrder)(const void* src, void* dst, int order, int flag, void* buffer);
 
-static void *library;
+static void* library;
 static int failures;
 
-static void expect(int holds, const char *what) {
+static void expect(int holds, const char* what) {
     if (holds) return;
     printf("failed: %s\n", what);
     ++failures;
 }
 
 /* By way of memory, since ISO C converts no object pointer to a function. */
-static void load(void *function, const char *name) {
-    void *address = dlsym(library, name);
+static void load(void* function, const char* name) {
+    void* address = dlsym(library, name);
     if (address == NULL) printf("missing: %s\n", name);
     memcpy(function, &address, sizeof address);
     failures += address == NULL;
@@ -35,16 +35,16 @@ enum { nameOffset = 20, textOffset = 24, dateOffset = 28 };
 
 static void checkVersion(void) {
     static const int numbers[4] = {6, 1, 137, 336};
-    const char *(*getVersion)(void);
+    const char* (*getVersion)(void);
     const char *record, *strings[3];
     load(&getVersion, "kfmgenGetLibVersion");
     if (getVersion == NULL) return;
     record = getVersion();
     expect(memcmp(record, numbers, 16) == 0, "version numbers");
     expect(memcmp(record + 16, "w7\0\0", 4) == 0, "target code");
-    memcpy(&strings[0], record + nameOffset, sizeof(char *));
-    memcpy(&strings[1], record + textOffset, sizeof(char *));
-    memcpy(&strings[2], record + dateOffset, sizeof(char *));
+    memcpy(&strings[0], record + nameOffset, sizeof(char*));
+    memcpy(&strings[1], record + textOffset, sizeof(char*));
+    memcpy(&strings[2], record + dateOffset, sizeof(char*));
     expect(strcmp(strings[0], "libkfmgenw7.so.6.1") == 0, "library name");
     expect(strcmp(strings[1], "6.1 build 137.56") == 0, "version text");
     expect(strcmp(strings[2], "Mar 17 2010") == 0, "build date");
@@ -77,7 +77,7 @@ static double first(int isDouble) { return isDouble ? destination.dbl[0] : desti
 /* All lengths by name and status; flags and argument order at 4 samples, of an impulse. */
 static void checkFamily(int row, int isDouble) {
     const int byOrder = strcmp(families[row].name, "WHT") == 0;
-    const char *element = isDouble ? families[row].dbl : families[row].single;
+    const char* element = isDouble ? families[row].dbl : families[row].single;
     const int from = byOrder ? 1 : 2, to = byOrder ? 13 : 64, four = byOrder ? 2 : 4;
     char name[64];
     Generic generic;
@@ -127,13 +127,15 @@ static void checkComplexElements(void) {
     load(&fixed, "kfmgDFTFwd_CToC_2_32fc");
     load(&fixed64, "kfmgDFTFwd_CToC_2_64fc");
     expect(fixed && fixed(signal, spectrum, 8, NULL) == 0 &&
-               memcmp(spectrum, expected, sizeof expected) == 0, "complex elements");
+               memcmp(spectrum, expected, sizeof expected) == 0,
+           "complex elements");
     expect(fixed64 && fixed64(signal64, spectrum64, 8, NULL) == 0 &&
-               memcmp(spectrum64, expected64, sizeof expected64) == 0, "double complex elements");
+               memcmp(spectrum64, expected64, sizeof expected64) == 0,
+           "double complex elements");
 }
 
 static void checkBufferSizes(void) {
-    int (*query)(int, int *), (*query64)(int, int *);
+    int (*query)(int, int*), (*query64)(int, int*);
     int bytes = 0, bytes64 = 0;
     load(&query, "kfmgWHTGetBufferSize_32f");
     load(&query64, "kfmgWHTGetBufferSize_64f");
@@ -144,13 +146,13 @@ static void checkBufferSizes(void) {
 }
 
 /* A handle is all that a program has of a plan. */
-static void checkPlan(const char *element) {
+static void checkPlan(const char* element) {
     static union {
         double alignment;
         unsigned char bytes[4096];
     } block, noPlan;
-    int (*getSize)(int, int *), (*init)(void **, int, void *), (*initAlloc)(void **, int),
-        (*transform)(const void *, void *, const void *), (*release)(void *);
+    int (*getSize)(int, int*), (*init)(void**, int, void*), (*initAlloc)(void**, int),
+        (*transform)(const void*, void*, const void*), (*release)(void*);
     const int isDouble = strcmp(element, "64f") == 0;
     void *plan = NULL, *allocated = NULL;
     char name[64];
@@ -176,7 +178,7 @@ static void checkPlan(const char *element) {
     memset(&source, 0, sizeof source);
 }
 
-int main(int count, char **arguments) {
+int main(int count, char** arguments) {
     int row;
     library = count == 2 ? dlopen(arguments[1], RTLD_NOW) : NULL;
     if (library == NULL) return 2;

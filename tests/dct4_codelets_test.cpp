@@ -32,7 +32,8 @@ TYPED_TEST(Dct4Codelets, BothStagesAreTheDefinition) {
         for (const int d : rowLengths(m)) {
             SCOPED_TRACE("d " + std::to_string(d) + ", m " + std::to_string(m));
             Dct4Walk<TypeParam> walk(d * m, d, {});
-            expectDefinition<TypeParam>(d * m, 5, [&](auto* src, auto* dst) { walk.run(src, dst); });
+            expectDefinition<TypeParam>(d * m, 5,
+                                        [&](auto* src, auto* dst) { walk.run(src, dst); });
         }
 }
 

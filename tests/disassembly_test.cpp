@@ -60,8 +60,8 @@ std::vector<std::size_t> successors(const Code& code, std::size_t i, const std::
     std::vector<std::size_t> result;
     if (!leaves(code[i]) && i + 1 < code.size()) result.push_back(i + 1);
     if (code[i].isJump() && targetFunction(code[i]) == name) {
-        const auto target = std::ranges::lower_bound(code, targetAddress(code[i]), {},
-                                                     &Instruction::address);
+        const auto target =
+            std::ranges::lower_bound(code, targetAddress(code[i]), {}, &Instruction::address);
         result.push_back(static_cast<std::size_t>(target - code.begin()));
     }
     return result;
@@ -98,9 +98,8 @@ void forEveryKernel(Check check) {
     std::string complaints;
     for (const Kernel& kernel : kernels()) {
         const auto code = library().find(kernel.name);
-        const std::string wrong = code == library().end()
-                                      ? "not found: is the library stripped?"
-                                      : check(kernel, code->second);
+        const std::string wrong = code == library().end() ? "not found: is the library stripped?"
+                                                          : check(kernel, code->second);
         if (!wrong.empty()) complaints += kernel.name + ": " + wrong + "\n";
     }
     EXPECT_TRUE(complaints.empty()) << complaints;
@@ -179,8 +178,8 @@ TEST(Disassembly, SingleKernelsWithoutProductsStayInSinglePrecision) {
         return firstWhere(code, [](const Instruction& instruction) {
             const std::string_view stem = instruction.stem().substr(0, 3);
             const bool computes = stem == "add" || stem == "sub" || stem == "mul" || stem == "div";
-            const bool wide = instruction.mnemonic.ends_with("sd") ||
-                              instruction.mnemonic.ends_with("pd");
+            const bool wide =
+                instruction.mnemonic.ends_with("sd") || instruction.mnemonic.ends_with("pd");
             return stem == "cvt" || (computes && wide);
         });
     });

@@ -32,10 +32,13 @@ struct Library {
 void PrintTo(const Library& library, std::ostream* out) { *out << library.name; }
 
 const Library libraries[] = {
-    {loadedLibrary().file, "libkfmgenw7.so.6.1",
+    {loadedLibrary().file,
+     "libkfmgenw7.so.6.1",
      asNames(registry::exportedNames()),
      {"libm.so.6", "libc.so.6", "libkfmcore.so.6.1"}},
-    {rowsLibrary(), "libkfmrows.so.6.1", asNames(registry::exportedRowsNames()),
+    {rowsLibrary(),
+     "libkfmrows.so.6.1",
+     asNames(registry::exportedRowsNames()),
      {"libc.so.6", "libkfmgenw7.so.6.1", "libkfmcore.so.6.1"}},
     {KFM_CORE_FILE, "libkfmcore.so.6.1", {"kfmMalloc", "kfmFree"}, {"libc.so.6"}},
 };
@@ -99,9 +102,9 @@ TEST_P(SharedLibrary, NeedsOnlySystemLibrariesAndBindsEverythingAtLoad) {
 // Sine and cosine for plans, and memory from the companion: no function can allocate by another
 // way, read a file or start a thread. Names with two underscores are the compiler's.
 TEST(TransformLibrary, CallsNothingOfTheSystemButMathematics) {
-    const std::set<std::string> allowed = {"cos",    "cosf",    "sin",    "sinf",      "sincos",
-                                           "sincosf", "floor",  "memcpy", "memmove",   "memset",
-                                           "kfmMalloc", "kfmFree"};
+    const std::set<std::string> allowed = {"cos",     "cosf",    "sin",       "sinf",
+                                           "sincos",  "sincosf", "floor",     "memcpy",
+                                           "memmove", "memset",  "kfmMalloc", "kfmFree"};
     for (const std::string& file : {loadedLibrary().file, rowsLibrary()})
         for (const std::string& line : linesOf(KFM_NM " -D --undefined-only '" + file + "'")) {
             std::istringstream words(line);
@@ -117,8 +120,8 @@ TEST_P(SharedLibrary, ProtectsItsMemory) {
     bool relro = false, plainStack = false;
     for (const std::string& line : readelf("-l")) {
         relro |= line.find("GNU_RELRO") != std::string::npos;
-        plainStack |= line.find("GNU_STACK") != std::string::npos &&
-                      line.find("RWE") == std::string::npos;
+        plainStack |=
+            line.find("GNU_STACK") != std::string::npos && line.find("RWE") == std::string::npos;
     }
     EXPECT_TRUE(relro);
     EXPECT_TRUE(plainStack);

@@ -132,9 +132,7 @@ TEST_P(Hashes, MatchTheCommittedValue) {
 
 KFM_FOR_EVERY_FIXED_TRANSFORM(Hashes);
 
-TEST(HashTable, NamesEveryFunctionOnly) {
-    EXPECT_TRUE(Hashes::table().namesEveryFunctionOnly());
-}
+TEST(HashTable, NamesEveryFunctionOnly) { EXPECT_TRUE(Hashes::table().namesEveryFunctionOnly()); }
 
 // All threads are inside the same function, each with a signal of its own, so that anything they
 // shared would show.

@@ -34,8 +34,7 @@ std::vector<std::string> complaints(const std::string& text) {
         testing::TempDir() + "instruction_set_" + std::to_string(getpid()) + ".s";
     std::ofstream(file) << text;
     // Padding has forms with an index register that does not exist.
-    const std::string command =
-        KFM_AS " " + processor + " -mindex-reg -o /dev/null '" + file + "'";
+    const std::string command = KFM_AS " " + processor + " -mindex-reg -o /dev/null '" + file + "'";
     const std::vector<std::string> lines = linesOf(command + " 2>&1 || true");
     std::remove(file.c_str());
     return lines;
@@ -71,9 +70,9 @@ TEST(InstructionSet, IsEnforcedByTheAssembler) {
                                        "movbel (%eax), %eax", "vaddpd %zmm1, %zmm0, %zmm0",
                                        "vfmadd132sd %xmm2, %xmm1, %xmm0"};
     if (!loadedLibrary().variant)
-        beyond.insert(beyond.end(), {"lddqu (%eax), %xmm0", "pshufb %xmm1, %xmm0",
-                                     "roundsd $1, %xmm1, %xmm0", "crc32l %eax, %eax",
-                                     "popcntl %eax, %eax", "vaddpd %xmm1, %xmm0, %xmm0"});
+        beyond.insert(beyond.end(),
+                      {"lddqu (%eax), %xmm0", "pshufb %xmm1, %xmm0", "roundsd $1, %xmm1, %xmm0",
+                       "crc32l %eax, %eax", "popcntl %eax, %eax", "vaddpd %xmm1, %xmm0, %xmm0"});
     for (const char* line : beyond)
         EXPECT_FALSE(complaints(line + std::string("\n")).empty()) << line;
     EXPECT_TRUE(complaints("cmovel %eax, %ecx\ncvttpd2dq %xmm0, %xmm1\n").empty());

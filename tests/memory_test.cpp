@@ -164,7 +164,8 @@ TEST_P(Memory, CallersMayAlignTheStackToFourBytes) {
             ASSERT_TRUE(survives([&] {
                 callWithShiftedStack(transform.function->address, from.data(), to.data(),
                                      kfmScaleBySqrtN, shift);
-            })) << "source offset " << offset << ", stack shifted by " << shift;
+            })) << "source offset "
+                << offset << ", stack shifted by " << shift;
             EXPECT_EQ(std::memcmp(to.data(), expected.data(), expected.size()), 0);
         }
 }

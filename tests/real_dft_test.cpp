@@ -159,8 +159,8 @@ TEST_P(MixedPrecision, ReducesTheMeanErrorOfPrimeLengths) {
 INSTANTIATE_TEST_SUITE_P(, MixedPrecision,
                          testing::ValuesIn(transformsWhere([](const Transform& transform) {
                              return transform.family->name == "DFTFwd_RToCCS" &&
-                                    !transform.element->doublePrecision &&
-                                    transform.length > 2 && isPrime(transform.length);
+                                    !transform.element->doublePrecision && transform.length > 2 &&
+                                    isPrime(transform.length);
                          })),
                          caseName);
 

@@ -10,12 +10,12 @@ namespace {
 
 template <class Real>
 struct RowCalls;
-#define KFM_ROW_CALLS(precision)                                       \
-    template <>                                                        \
-    struct RowCalls<Kfm##precision> {                                  \
-        static constexpr auto dct4 = kfmrDCT4_##precision;             \
-        static constexpr auto wht = kfmrWHT_##precision;               \
-        static constexpr auto whtOne = kfmgWHT_##precision;            \
+#define KFM_ROW_CALLS(precision)                                          \
+    template <>                                                           \
+    struct RowCalls<Kfm##precision> {                                     \
+        static constexpr auto dct4 = kfmrDCT4_##precision;                \
+        static constexpr auto wht = kfmrWHT_##precision;                  \
+        static constexpr auto whtOne = kfmgWHT_##precision;               \
         static constexpr auto whtSize = kfmrWHTGetBufferSize_##precision; \
     };
 KFM_ROW_CALLS(32f)
@@ -126,7 +126,8 @@ TYPED_TEST(RowsSingly, OfTheWhtTakeABufferOfTheSizeThatIsTold) {
         EXPECT_TRUE(buffer.canariesIntact());
     }
     int size = -1;
-    for (const int order : {0, 14, -1}) EXPECT_EQ(RowCalls<Real>::whtSize(order, &size), kfmErrSize);
+    for (const int order : {0, 14, -1})
+        EXPECT_EQ(RowCalls<Real>::whtSize(order, &size), kfmErrSize);
     EXPECT_EQ(size, -1);
 }
 

@@ -41,7 +41,8 @@ protected:
         EXPECT_TRUE(survives([&] {
             status = rowsFunction(family())(src, from.stride, from.distance, dst, to.stride,
                                             to.distance, length, rows, flag, nullptr);
-        })) << "crashed: length " << length << ", " << rows << " rows, " << from << " to " << to;
+        })) << "crashed: length "
+            << length << ", " << rows << " rows, " << from << " to " << to;
         return status;
     }
     const Transform& single(int length) const {
@@ -118,7 +119,8 @@ TEST_P(Rows, WorkInPlace) {
                     expected.put(row, results);
                 }
                 ASSERT_EQ(call(data, data, length, rows, flag), kfmOk);
-                ASSERT_EQ(data.all(), expected.all()) << one << ", " << rows << " rows: " << spacing;
+                ASSERT_EQ(data.all(), expected.all())
+                    << one << ", " << rows << " rows: " << spacing;
                 if (one.length > 64) break;
             }
     }

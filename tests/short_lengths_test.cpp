@@ -119,11 +119,11 @@ TEST_P(ImaginaryParts, AreNeverNegativeZeros) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , ImaginaryParts,
-    testing::ValuesIn(transformsOf("DFTFwd_RToCCS", {3, 4, 5, 7, 8, 11, 13, 17, 19, 23, 29, 31, 37,
-                                                     41, 43, 47, 53, 59, 61})),
-    caseName);
+INSTANTIATE_TEST_SUITE_P(, ImaginaryParts,
+                         testing::ValuesIn(transformsOf("DFTFwd_RToCCS",
+                                                        {3, 4, 5, 7, 8, 11, 13, 17, 19, 23, 29, 31,
+                                                         37, 41, 43, 47, 53, 59, 61})),
+                         caseName);
 
 // The even outputs of 16 points are the transform of the eight sums x[n] + x[n+8].
 class Hartley16 : public testing::TestWithParam<Transform> {};

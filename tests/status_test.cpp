@@ -68,7 +68,8 @@ class FixedStatus : public testing::TestWithParam<Transform> {};
 
 TEST_P(FixedStatus, FollowsTheOrderOfChecks) {
     checkTable(
-        GetParam(), [](auto source, auto destination, int flag) {
+        GetParam(),
+        [](auto source, auto destination, int flag) {
             return call(GetParam(), source, destination, flag);
         },
         [](const Arguments& row) { return row.status; });
@@ -91,7 +92,8 @@ class GenericStatus : public testing::TestWithParam<Transform> {};
 TEST_P(GenericStatus, GoodLengthLeavesTheChecksToTheFixedFunction) {
     for (int length : {GetParam().family->first, GetParam().family->last})
         checkTable(
-            GetParam(), [length](auto source, auto destination, int flag) {
+            GetParam(),
+            [length](auto source, auto destination, int flag) {
                 return call(GetParam(), source, destination, length, flag);
             },
             [](const Arguments& row) { return row.status; });
@@ -102,7 +104,8 @@ TEST_P(GenericStatus, BadLengthComesFirst) {
     for (int length : {family.first - 1, family.last + 1, 0, -1, -family.first, 2 * family.last + 1,
                        family.first + (1 << 16), INT_MIN, INT_MIN + family.first, INT_MAX})
         checkTable(
-            GetParam(), [length](auto source, auto destination, int flag) {
+            GetParam(),
+            [length](auto source, auto destination, int flag) {
                 return call(GetParam(), source, destination, length, flag);
             },
             [](const Arguments&) -> KfmStatus { return kfmErrSize; });

@@ -48,8 +48,8 @@ protected:
     }
     ~ScheduleTableTest() override { std::filesystem::remove(file); }
 
-    std::filesystem::path file = std::filesystem::temp_directory_path() /
-                                 ("schedules." + std::to_string(getpid()) + ".def");
+    std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("schedules." + std::to_string(getpid()) + ".def");
 };
 
 TEST_F(ScheduleTableTest, ReplacesOnlyChosenRowsAndSorts) {
@@ -112,10 +112,10 @@ using Reals = testing::Types<float, double>;
 TYPED_TEST_SUITE(CodeletCalls, Reals);
 
 TYPED_TEST(CodeletCalls, StayInsideTheirArrays) {
-#define KFM_CODELET(function, first, last)                                                       \
-    for (int size = first; size <= last; size *= 2)                                              \
-        tests::withSize<first, last>(size, [&]<int n>() {                                        \
-            this->expectInside(#function, n, function<TypeParam, n>);                            \
+#define KFM_CODELET(function, first, last)                            \
+    for (int size = first; size <= last; size *= 2)                   \
+        tests::withSize<first, last>(size, [&]<int n>() {             \
+            this->expectInside(#function, n, function<TypeParam, n>); \
         });
 #include "dct4/codelets.def"
 #undef KFM_CODELET

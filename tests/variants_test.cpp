@@ -60,8 +60,8 @@ protected:
               std::size_t to) const {
         const Transform& transform = GetParam();
         // A family without a buffer ignores the last argument.
-        auto* const call = library.function<KfmStatus(const void*, void*, int, void*)>(
-            transform.function->name);
+        auto* const call =
+            library.function<KfmStatus(const void*, void*, int, void*)>(transform.function->name);
         Placed in(source.size(), from), out(transform.destinationBytes(), to);
         std::memcpy(in.data(), source.data(), source.size());
         EXPECT_EQ(call(in.data(), out.data(), flag, nullptr), kfmOk);
@@ -94,7 +94,7 @@ protected:
     }
 
     static Bytes transformed(const Loaded& planner, const Loaded& computer,
-                                         const std::vector<Real>& source) {
+                             const std::vector<Real>& source) {
         const int length = static_cast<int>(source.size());
         int size = 0;
         EXPECT_EQ(planner.function<KfmStatus(int, int*)>(name("GetSize"))(length, &size), kfmOk);
@@ -104,7 +104,8 @@ protected:
                                                                                  block.data()),
                   kfmOk);
         Bytes result(length * sizeof(Real));
-        const auto compute = computer.function<KfmStatus(const Real*, void*, const Spec*)>(name(""));
+        const auto compute =
+            computer.function<KfmStatus(const Real*, void*, const Spec*)>(name(""));
         EXPECT_EQ(compute(source.data(), result.data(), plan), kfmOk);
         return result;
     }

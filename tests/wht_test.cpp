@@ -17,8 +17,8 @@ constexpr int firstWithBuffer = 8;
 
 int bufferBytes(const Transform& transform) {
     int bytes = -1;
-    const auto query = transform.element->doublePrecision ? kfmgWHTGetBufferSize_64f
-                                                          : kfmgWHTGetBufferSize_32f;
+    const auto query =
+        transform.element->doublePrecision ? kfmgWHTGetBufferSize_64f : kfmgWHTGetBufferSize_32f;
     EXPECT_EQ(query(transform.function->length, &bytes), kfmOk);
     return bytes;
 }
@@ -105,9 +105,9 @@ TEST_P(Wht, WorksInABlockOfItsOwnUntilTheLastStore) {
     GuardedBuffer from(bytes + 16), to(bytes + 16);
     const struct {
         std::byte *source, *destination;
-    } places[] = {{from.data(), to.data()},         {from.data() + 4, to.data()},
-                  {from.data(), to.data() + 4},     {from.data() + 4, to.data() + 4},
-                  {to.data(), to.data()},           {to.data() + 4, to.data() + 4}};
+    } places[] = {{from.data(), to.data()},     {from.data() + 4, to.data()},
+                  {from.data(), to.data() + 4}, {from.data() + 4, to.data() + 4},
+                  {to.data(), to.data()},       {to.data() + 4, to.data() + 4}};
     for (int flag : allFlags) {
         const Bytes expected = run(GetParam(), source_, flag);
         for (const auto& [source, destination] : places)
@@ -191,8 +191,8 @@ INSTANTIATE_TEST_SUITE_P(, WhtWithoutBuffer, testing::ValuesIn(orders(1, firstWi
 TEST(WhtBufferSize, IsTheSignalAndFromThreePassesAChunk) {
     const struct {
         int order, single, dbl;
-    } rows[] = {{1, 0, 0},         {7, 0, 0},          {8, 1024, 2048},     {9, 2048, 4096},
-                {10, 4096, 8192},  {11, 8192, 18432},  {12, 18432, 34816},  {13, 34816, 73728}};
+    } rows[] = {{1, 0, 0},        {7, 0, 0},         {8, 1024, 2048},    {9, 2048, 4096},
+                {10, 4096, 8192}, {11, 8192, 18432}, {12, 18432, 34816}, {13, 34816, 73728}};
     for (const auto& [order, single, dbl] : rows) {
         int size = -1;
         EXPECT_EQ(kfmgWHTGetBufferSize_32f(order, &size), kfmOk);

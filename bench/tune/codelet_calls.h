@@ -54,9 +54,9 @@ void outputStage(const Real* src, Real* dst) {
 
 }   // namespace kfm::tune
 
-#define KFM_CALL_CODELET(function, Real, size)                                                   \
+#define KFM_CALL_CODELET(function, Real, size)                                                    \
     extern "C" [[gnu::visibility("default")]] KfmStatus calledCodelet(const void* src, void* dst, \
-                                                                      int) {                     \
-        kfm::tune::function<Real, size>(static_cast<const Real*>(src), static_cast<Real*>(dst)); \
-        return kfmOk;                                                                            \
+                                                                      int) {                      \
+        kfm::tune::function<Real, size>(static_cast<const Real*>(src), static_cast<Real*>(dst));  \
+        return kfmOk;                                                                             \
     }

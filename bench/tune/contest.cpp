@@ -22,8 +22,7 @@ int findFastest(std::vector<bench::Subject>& contestants, int incumbent, int fir
         std::ranges::sort(field, {}, [&](int i) { return contestants[i].minimum(); });
         if (field.size() <= finalists) break;
         // The incumbent stays to the end: a tie is decided on equally many batches.
-        std::vector<int> next(field.begin(),
-                              field.begin() + std::max(finalists, field.size() / 2));
+        std::vector<int> next(field.begin(), field.begin() + std::max(finalists, field.size() / 2));
         if (incumbent >= 0 && std::ranges::find(next, incumbent) == next.end())
             next.back() = incumbent;
         field = next;

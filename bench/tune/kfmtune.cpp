@@ -102,8 +102,7 @@ bool isPaired(const Candidate& candidate) {
 Candidate fastest(const std::vector<Candidate>& field, const std::string& current,
                   const CallPatterns& patterns, int batches) {
     std::vector<bench::Subject> contestants;
-    for (const Candidate& candidate : field)
-        contestants.push_back(patterns.all(candidate));
+    for (const Candidate& candidate : field) contestants.push_back(patterns.all(candidate));
     const int winner = findFastest(contestants, indexOf(field, current), batches);
     std::printf("%-24s %8.2f ns, first %8.2f; ", field[winner].schedule.c_str(),
                 contestants[winner].minimum(), contestants[0].minimum());
@@ -120,10 +119,9 @@ Candidate choose(std::vector<Candidate> field, const std::string& current,
     constexpr int batches = 40;
     while (field.size() > alone.size()) {
         const Candidate winner = fastest(field, current, patterns, options.batches);
-        if (!isPaired(winner) ||
-            patterns.worthwhile(winner, reference, batches))
-            return winner;
-        std::erase_if(field, [&](const Candidate& each) { return each.schedule == winner.schedule; });
+        if (!isPaired(winner) || patterns.worthwhile(winner, reference, batches)) return winner;
+        std::erase_if(field,
+                      [&](const Candidate& each) { return each.schedule == winner.schedule; });
     }
     return reference;
 }
@@ -214,8 +212,8 @@ void tuneAll(const Options& options) {
         // Kernels of orders are templates without schedules.
         if (family.byOrder || !options.selection.hasFamily(family.name)) continue;
         if (!seen.insert(family.kernelSource).second) continue;
-        ScheduleTable table(options.sources / (options.rows ? "rows/schedules.def"
-                                                            : tableOf(family)));
+        ScheduleTable table(options.sources /
+                            (options.rows ? "rows/schedules.def" : tableOf(family)));
         for (const registry::Element* element : family.elements)
             if (options.selection.hasElement(element->suffix))
                 for (const KernelSource& kernel : kernels(family, *element, options)) {
@@ -236,13 +234,15 @@ int main(int argc, char** argv) try {
     options.selection.addElement(app);
     options.selection.addLengths(app);
     app.add_option("--target", options.target, "row of the table")->capture_default_str();
-    app.add_flag("--rows", options.rows, "tune the kernels of rows, not those of single transforms");
+    app.add_flag("--rows", options.rows,
+                 "tune the kernels of rows, not those of single transforms");
     app.add_option("--generated", options.generated, "folder of its sources in the build folder")
         ->capture_default_str();
     app.add_option("--work", options.work, "folder for candidates")->capture_default_str();
     app.add_option("--sources", options.sources, "source tree whose tables are rewritten");
     app.add_option("--batches", options.batches, "timed batches of every candidate")
-        ->check(CLI::Range(1, 10000))->capture_default_str();
+        ->check(CLI::Range(1, 10000))
+        ->capture_default_str();
     app.add_option("--core", options.core, "processor to measure on")->capture_default_str();
     CLI11_PARSE(app, argc, argv);
     kfm::tune::tuneAll(options);

@@ -15,10 +15,8 @@ ScheduleTable::ScheduleTable(std::filesystem::path path) : file(std::move(path))
         std::smatch match;
         if (std::regex_match(line, match, row))
             rows[{match[1], match[4], std::stoi(match[3]), match[2]}] = match[5];
-        else if (rows.empty())
-            heading += line + '\n';
-        else
-            throw std::runtime_error(file.string() + ": not a row: " + line);
+        else if (rows.empty()) heading += line + '\n';
+        else throw std::runtime_error(file.string() + ": not a row: " + line);
     }
 }
 

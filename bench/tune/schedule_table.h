@@ -13,7 +13,7 @@ namespace kfm::tune {
 struct KernelName {
     std::string target, element;
     int length;
-    std::string function = {};   // where a table is shared
+    std::string function = {};                             // where a table is shared
     auto operator<=>(const KernelName&) const = default;   // the order of the rows
 };
 

@@ -70,9 +70,8 @@ std::string KernelSource::kernels() const { return (rows > 1 ? "rows/" : "") + s
 
 Workshop::Workshop(std::string kernelgen, std::string target, std::string generated,
                    std::filesystem::path compileCommands, std::filesystem::path folder)
-    : kernelgen(std::move(kernelgen)), target(std::move(target)),
-      generated(std::move(generated)), compileCommands(std::move(compileCommands)),
-      folder(std::move(folder)) {}
+    : kernelgen(std::move(kernelgen)), target(std::move(target)), generated(std::move(generated)),
+      compileCommands(std::move(compileCommands)), folder(std::move(folder)) {}
 
 // The command that compiles this kernel for the library, up to its output: the compiler and all
 // flags. CMake writes one "command" line per file, ending in -o <object> -c <source>.
@@ -99,8 +98,8 @@ std::string Workshop::generating(const char* command, const KernelSource& kernel
 std::vector<std::string> Workshop::schedules(const KernelSource& kernel,
                                              const std::string& winner) const {
     std::vector<std::string> result;
-    std::istringstream lines(outputOf(generating("candidates", kernel) +
-                                      (winner.empty() ? "" : " --after " + winner)));
+    std::istringstream lines(
+        outputOf(generating("candidates", kernel) + (winner.empty() ? "" : " --after " + winner)));
     for (std::string line; std::getline(lines, line);) result.push_back(line);
     if (result.empty() && winner.empty())
         throw std::runtime_error("the generator offers no schedules");

@@ -18,15 +18,15 @@ namespace detail {
 
 template <Number T>
 struct Dct4Functions;
-#define KFM_DCT4(T, suffix)                                    \
-    template <>                                                \
-    struct Dct4Functions<T> {                                  \
-        using Spec = KfmDCT4Spec##suffix;                      \
-        static constexpr auto size = kfmgDCT4GetSize##suffix;  \
-        static constexpr auto init = kfmgDCT4Init##suffix;     \
+#define KFM_DCT4(T, suffix)                                     \
+    template <>                                                 \
+    struct Dct4Functions<T> {                                   \
+        using Spec = KfmDCT4Spec##suffix;                       \
+        static constexpr auto size = kfmgDCT4GetSize##suffix;   \
+        static constexpr auto init = kfmgDCT4Init##suffix;      \
         static constexpr auto make = kfmgDCT4InitAlloc##suffix; \
-        static constexpr auto free = kfmgDCT4Free##suffix;     \
-        static constexpr auto run = kfmgDCT4##suffix;          \
+        static constexpr auto free = kfmgDCT4Free##suffix;      \
+        static constexpr auto run = kfmgDCT4##suffix;           \
     };
 KFM_DCT4(float, _32f)
 KFM_DCT4(double, _64f)
@@ -52,13 +52,11 @@ class Dct4Plan {
 
 public:
     // In memory of the library's, which ends with the plan. Throws Error for a length that is none.
-    explicit Dct4Plan(std::size_t length)
-        requires std::same_as<Release, detail::FreePlan<T>>
+    explicit Dct4Plan(std::size_t length) requires std::same_as<Release, detail::FreePlan<T>>
         : Dct4Plan(make(length).orThrow()) {}
 
-    static Expected<Dct4Plan> make(std::size_t length)
-        requires std::same_as<Release, detail::FreePlan<T>>
-    {
+    static Expected<Dct4Plan> make(
+        std::size_t length) requires std::same_as<Release, detail::FreePlan<T>> {
         Spec* spec = nullptr;
         const KfmStatus status = C::make(&spec, detail::lengthArgument<void>(length));
         if (status != kfmOk) return Result(status);
@@ -72,9 +70,8 @@ public:
 
     // In the caller's memory, which must stay while the plan is used: memorySize() bytes, starting at
     // a multiple of 32; else kfmErrSize.
-    static Expected<Dct4Plan> make(std::size_t length, std::span<std::byte> memory)
-        requires std::same_as<Release, detail::KeepPlan>
-    {
+    static Expected<Dct4Plan> make(std::size_t length, std::span<std::byte> memory) requires
+        std::same_as<Release, detail::KeepPlan> {
         Expected<std::size_t> size = memorySize(length);
         if (!size || !detail::serves(memory, *size, 32)) return Result(kfmErrSize);
         Spec* spec = nullptr;

@@ -59,7 +59,7 @@ using NumberOf = typename Parts<ValueOf<Range>>::Of;
 
 template <class Range>
 concept Numbers = std::ranges::contiguous_range<Range> && std::ranges::sized_range<Range> &&
-                  Number<NumberOf<Range>>;
+    Number<NumberOf<Range>>;
 
 inline constexpr std::size_t anyLength = std::dynamic_extent;
 
@@ -103,8 +103,8 @@ struct Sides<InverseRealDft<layout>> : Sides<void> {
 };
 
 template <Values values, class Range>
-inline constexpr bool holds =
-    values == Values::either || (values == Values::complex) == (Parts<ValueOf<Range>>::count == 2);
+inline constexpr bool holds = values == Values::either ||
+                              (values == Values::complex) == (Parts<ValueOf<Range>>::count == 2);
 
 template <class Family, class Src, class Dst>
 concept Transformable =
@@ -116,33 +116,32 @@ concept Transformable =
 template <class Family, class T>
 struct Functions;
 
-#define KFM_EACH_LENGTH(f, e)                                                                   \
-    f##2##e, f##3##e, f##4##e, f##5##e, f##6##e, f##7##e, f##8##e, f##9##e, f##10##e, f##11##e, \
-        f##12##e, f##13##e, f##14##e, f##15##e, f##16##e, f##17##e, f##18##e, f##19##e,         \
-        f##20##e, f##21##e, f##22##e, f##23##e, f##24##e, f##25##e, f##26##e, f##27##e,         \
-        f##28##e, f##29##e, f##30##e, f##31##e, f##32##e, f##33##e, f##34##e, f##35##e,         \
-        f##36##e, f##37##e, f##38##e, f##39##e, f##40##e, f##41##e, f##42##e, f##43##e,         \
-        f##44##e, f##45##e, f##46##e, f##47##e, f##48##e, f##49##e, f##50##e, f##51##e,         \
-        f##52##e, f##53##e, f##54##e, f##55##e, f##56##e, f##57##e, f##58##e, f##59##e,         \
-        f##60##e, f##61##e, f##62##e, f##63##e, f##64##e
-#define KFM_EACH_ORDER(f, e)                                                                    \
-    f##1##e, f##2##e, f##3##e, f##4##e, f##5##e, f##6##e, f##7##e, f##8##e, f##9##e, f##10##e,  \
+#define KFM_EACH_LENGTH(f, e)                                                                     \
+    f##2##e, f##3##e, f##4##e, f##5##e, f##6##e, f##7##e, f##8##e, f##9##e, f##10##e, f##11##e,   \
+        f##12##e, f##13##e, f##14##e, f##15##e, f##16##e, f##17##e, f##18##e, f##19##e, f##20##e, \
+        f##21##e, f##22##e, f##23##e, f##24##e, f##25##e, f##26##e, f##27##e, f##28##e, f##29##e, \
+        f##30##e, f##31##e, f##32##e, f##33##e, f##34##e, f##35##e, f##36##e, f##37##e, f##38##e, \
+        f##39##e, f##40##e, f##41##e, f##42##e, f##43##e, f##44##e, f##45##e, f##46##e, f##47##e, \
+        f##48##e, f##49##e, f##50##e, f##51##e, f##52##e, f##53##e, f##54##e, f##55##e, f##56##e, \
+        f##57##e, f##58##e, f##59##e, f##60##e, f##61##e, f##62##e, f##63##e, f##64##e
+#define KFM_EACH_ORDER(f, e)                                                                   \
+    f##1##e, f##2##e, f##3##e, f##4##e, f##5##e, f##6##e, f##7##e, f##8##e, f##9##e, f##10##e, \
         f##11##e, f##12##e, f##13##e
-#define KFM_FUNCTIONS(Family, T, Type, name, suffix, each, least)                               \
-    template <>                                                                                 \
-    struct Functions<Family, T> {                                                               \
-        using Element = Type;                                                                   \
-        static constexpr int first = least;                                                     \
-        static constexpr decltype(&kfmg##name##_2##suffix) fixed[] = {                          \
-            each(kfmg##name##_, suffix)};                                                       \
-        static constexpr int last = least + std::size(fixed) - 1;                               \
-        static constexpr auto atRunTime = kfmg##name##suffix;                                   \
+#define KFM_FUNCTIONS(Family, T, Type, name, suffix, each, least)      \
+    template <>                                                        \
+    struct Functions<Family, T> {                                      \
+        using Element = Type;                                          \
+        static constexpr int first = least;                            \
+        static constexpr decltype(&kfmg##name##_2##suffix) fixed[] = { \
+            each(kfmg##name##_, suffix)};                              \
+        static constexpr int last = least + std::size(fixed) - 1;      \
+        static constexpr auto atRunTime = kfmg##name##suffix;          \
     };
-#define KFM_REAL_FUNCTIONS(Family, name, each, least)                                           \
-    KFM_FUNCTIONS(Family, float, Kfm32f, name, _32f, each, least)                               \
+#define KFM_REAL_FUNCTIONS(Family, name, each, least)             \
+    KFM_FUNCTIONS(Family, float, Kfm32f, name, _32f, each, least) \
     KFM_FUNCTIONS(Family, double, Kfm64f, name, _64f, each, least)
-#define KFM_COMPLEX_FUNCTIONS(Family, name)                                                     \
-    KFM_FUNCTIONS(Family, float, Kfm32fc, name, _32fc, KFM_EACH_LENGTH, 2)                      \
+#define KFM_COMPLEX_FUNCTIONS(Family, name)                                \
+    KFM_FUNCTIONS(Family, float, Kfm32fc, name, _32fc, KFM_EACH_LENGTH, 2) \
     KFM_FUNCTIONS(Family, double, Kfm64fc, name, _64fc, KFM_EACH_LENGTH, 2)
 
 KFM_COMPLEX_FUNCTIONS(Dft, DFTFwd_CToC)

@@ -14,8 +14,7 @@ namespace kfm {
 inline const char* statusText(KfmStatus status) {
     switch (status) {
 #define KFM_TEXT(name, text) \
-    case name:               \
-        return text;
+    case name: return text;
         KFM_STATUSES(KFM_TEXT)
 #undef KFM_TEXT
     }

@@ -63,22 +63,22 @@ KfmStatus transform(const Real* src, Real* dst, const Spec* spec) {
 }   // namespace
 }   // namespace kfm::dct4
 
-#define KFM_DCT4_CALLS(precision, Real, Spec)                                                    \
-    extern "C" KfmStatus kfmgDCT4GetSize_##precision(int len, int* size) {                       \
-        return kfm::dct4::getSize<Real>(len, size);                                              \
-    }                                                                                            \
-    extern "C" KfmStatus kfmgDCT4Init_##precision(Spec** spec, int len, Kfm8u* block) {          \
-        return kfm::dct4::init<Real>(spec, len, block);                                          \
-    }                                                                                            \
-    extern "C" KfmStatus kfmgDCT4InitAlloc_##precision(Spec** spec, int len) {                   \
-        return kfm::dct4::initAlloc<Spec>(spec, len, kfmgDCT4GetSize_##precision,                \
-                                          kfmgDCT4Init_##precision);                             \
-    }                                                                                            \
-    extern "C" KfmStatus kfmgDCT4Free_##precision(Spec* spec) {                                  \
-        return kfm::dct4::release<Real>(spec);                                                   \
-    }                                                                                            \
-    extern "C" KfmStatus kfmgDCT4_##precision(const Real* src, Real* dst, const Spec* spec) {    \
-        return kfm::dct4::transform<Real>(src, dst, spec);                                       \
+#define KFM_DCT4_CALLS(precision, Real, Spec)                                                 \
+    extern "C" KfmStatus kfmgDCT4GetSize_##precision(int len, int* size) {                    \
+        return kfm::dct4::getSize<Real>(len, size);                                           \
+    }                                                                                         \
+    extern "C" KfmStatus kfmgDCT4Init_##precision(Spec** spec, int len, Kfm8u* block) {       \
+        return kfm::dct4::init<Real>(spec, len, block);                                       \
+    }                                                                                         \
+    extern "C" KfmStatus kfmgDCT4InitAlloc_##precision(Spec** spec, int len) {                \
+        return kfm::dct4::initAlloc<Spec>(spec, len, kfmgDCT4GetSize_##precision,             \
+                                          kfmgDCT4Init_##precision);                          \
+    }                                                                                         \
+    extern "C" KfmStatus kfmgDCT4Free_##precision(Spec* spec) {                               \
+        return kfm::dct4::release<Real>(spec);                                                \
+    }                                                                                         \
+    extern "C" KfmStatus kfmgDCT4_##precision(const Real* src, Real* dst, const Spec* spec) { \
+        return kfm::dct4::transform<Real>(src, dst, spec);                                    \
     }
 
 KFM_DCT4_CALLS(32f, Kfm32f, KfmDCT4Spec_32f)

@@ -78,9 +78,7 @@ template <class Real, int L = lanes<Real>>
 struct RowReader {
     const Real* first;
 
-    LanesOf<Real, L> load(int row) const {
-        return loadAligned<LanesOf<Real, L>>(first + row * L);
-    }
+    LanesOf<Real, L> load(int row) const { return loadAligned<LanesOf<Real, L>>(first + row * L); }
 };
 
 template <class Real, int L = lanes<Real>>

@@ -8,9 +8,7 @@
 namespace kfm::dct4 {
 namespace {
 
-void* takeNode(void* arena) {
-    return new (kfmgArenaMalloc(arena, sizeof(EnvList))) EnvList;
-}
+void* takeNode(void* arena) { return new (kfmgArenaMalloc(arena, sizeof(EnvList))) EnvList; }
 
 }   // namespace
 

@@ -15,7 +15,7 @@ struct Object {
 };
 
 struct EnvList {
-    Ref<void> item;      // null only in the header of an empty list
+    Ref<void> item;   // null only in the header of an empty list
     Ref<EnvList> next;
     Ref<void> arena;
 };

@@ -60,13 +60,13 @@ Real EnvFSplit<Real>::value(int i, int j, int column) const {
 
 }   // namespace kfm::dct4
 
-#define KFM_DCT4_DEFINE_AT(prefix, Kind, Real, parameters, arguments)                            \
-    KFM_DCT4_DEFINE_DEL(prefix, Kind<Real>)                                                      \
-    extern "C" Real prefix##_at parameters {                                                     \
-        return static_cast<const kfm::dct4::Kind<Real>*>(map)->value arguments;                  \
+#define KFM_DCT4_DEFINE_AT(prefix, Kind, Real, parameters, arguments)           \
+    KFM_DCT4_DEFINE_DEL(prefix, Kind<Real>)                                     \
+    extern "C" Real prefix##_at parameters {                                    \
+        return static_cast<const kfm::dct4::Kind<Real>*>(map)->value arguments; \
     }
-#define KFM_DCT4_DEFINE_INDEX_MAP(name, Kind, parameters, arguments)                             \
-    KFM_DCT4_DEFINE_AT(owngDCT4_32fw7_##name, Kind, Kfm32f, parameters, arguments)               \
+#define KFM_DCT4_DEFINE_INDEX_MAP(name, Kind, parameters, arguments)               \
+    KFM_DCT4_DEFINE_AT(owngDCT4_32fw7_##name, Kind, Kfm32f, parameters, arguments) \
     KFM_DCT4_DEFINE_AT(owngDCT4_64fw7_##name, Kind, Kfm64f, parameters, arguments)
 
 KFM_DCT4_DEFINE_INDEX_MAP(envlambda, EnvLambda, (const void* map, int i), (i))

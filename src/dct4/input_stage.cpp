@@ -88,13 +88,13 @@ void Env5<Real>::del() {
 template <class Real>
 KfmStatus Env5<Real>::compute(const Real* src, Real* w) const {
     switch (rule) {
-        case 1: inputStage<Real, 2>(src, w, stride); return kfmOk;
-        case 2: inputStage<Real, 4>(src, w, stride); return kfmOk;
-        case 3: inputStage<Real, 8>(src, w, stride); return kfmOk;
-        case 4: inputStage<Real, 16>(src, w, stride); return kfmOk;
-        case 5: inputStage<Real, 32>(src, w, stride); return kfmOk;
-        case 6: inputStage<Real, 64>(src, w, stride); return kfmOk;
-        default: return computeGroups(src, w);
+    case 1: inputStage<Real, 2>(src, w, stride); return kfmOk;
+    case 2: inputStage<Real, 4>(src, w, stride); return kfmOk;
+    case 3: inputStage<Real, 8>(src, w, stride); return kfmOk;
+    case 4: inputStage<Real, 16>(src, w, stride); return kfmOk;
+    case 5: inputStage<Real, 32>(src, w, stride); return kfmOk;
+    case 6: inputStage<Real, 64>(src, w, stride); return kfmOk;
+    default: return computeGroups(src, w);
     }
 }
 

@@ -10,7 +10,7 @@ template <class Real>
 struct Env5 : Environment {
     Ref<EnvList> recursion;   // the env7 of rule 7
     Ref<void> spare;
-    std::int32_t rule;        // 1..6 for m = 2, 4, ..., 64; 7 splits m further
+    std::int32_t rule;   // 1..6 for m = 2, 4, ..., 64; 7 splits m further
     std::int32_t m, len, mirror, step, groups, workLen, stride;
 
     static Bytes mem(int len, int d);
@@ -29,7 +29,7 @@ template <class Real>
 struct Env3 : Environment {
     Ref<EnvList> stage;   // the env5
     Ref<void> spare;
-    std::int32_t rule;    // 1
+    std::int32_t rule;   // 1
     std::int32_t m, len, mirror, step, count, workLen, stride;
 
     static int chooseRule(int d);

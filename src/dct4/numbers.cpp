@@ -26,10 +26,10 @@ Kfm64f kfmgSinPi_64f(Kfm64f x) { return sin(x * std::numbers::pi); }
 TurnPoint pointOnCircle(long long quarters, double rest) {
     const double c = kfmgCosPi_64f(rest), s = kfmgSinPi_64f(rest);
     switch (quarters & 3) {
-        case 0: return {c, s};
-        case 1: return {-s, c};
-        case 2: return {-c, -s};
-        default: return {s, -c};
+    case 0: return {c, s};
+    case 1: return {-s, c};
+    case 2: return {-c, -s};
+    default: return {s, -c};
     }
 }
 

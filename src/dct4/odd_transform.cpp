@@ -72,8 +72,8 @@ private:
 
     static constexpr int runLength = 16;
     // Enough for every length that an int tells.
-    static constexpr int levels = std::numeric_limits<unsigned>::digits -
-                                  std::countr_zero(unsigned{blockLength * runLength});
+    static constexpr int levels =
+        std::numeric_limits<unsigned>::digits - std::countr_zero(unsigned{blockLength * runLength});
     VectorOf<Real> sums_[levels] = {};
     VectorOf<Real> run_ = {};
     unsigned runs_ = 0;
@@ -106,7 +106,7 @@ template <class Real>
 HartleyPair<Real> hartleyPair(const Real* inputs, Real first, const Real* table, int n, int l) {
     const BlockAngles<Real> angles(table, n, l);
     PairwiseSum<Real> there, back;
-    const int blockStep = static_cast<int>((long long)(blockLength) * l % n);
+    const int blockStep = static_cast<int>((long long)(blockLength)*l % n);
     for (int start = 0, at = l; start < n - 1; start += blockLength) {
         VectorOf<Real> u{}, v{};
         for (int i = 0; i < blockLength; i += sums<Real>) {

@@ -149,8 +149,8 @@ void outputOfRecursion(const Real* w, const Real* table, Real* dst, std::ptrdiff
 }
 
 template <class Real, int d, int L>
-[[gnu::always_inline]] inline void outputOfRows(const Real* w, const Real* table,
-                                                Real* dst, std::ptrdiff_t run) {
+[[gnu::always_inline]] inline void outputOfRows(const Real* w, const Real* table, Real* dst,
+                                                std::ptrdiff_t run) {
     for (int q = 0; q < run / 2; q += L)
         outputRows<Real, d, L>(ConsecutiveRows<Real, d>{w + std::ptrdiff_t(q) * 2 * d}, table, q,
                                RunWriter<Real, d>{{dst + q, run}, {dst + run - L - q, run}});

@@ -63,13 +63,13 @@ void Env2<Real>::del() {
 template <class Real>
 int Env4<Real>::chooseRule(int d) {
     switch (d) {
-        case 1: return 1;
-        case 2: return 2;
-        case 4: return 3;
-        case 8: return 4;
-        case 16: return 5;
-        case 32: return 6;
-        default: return 0;
+    case 1: return 1;
+    case 2: return 2;
+    case 4: return 3;
+    case 8: return 4;
+    case 16: return 5;
+    case 32: return 6;
+    default: return 0;
     }
 }
 
@@ -102,8 +102,7 @@ KfmStatus Env4<Real>::build() {
     Real* element = table;
     for (int i = 0; i < blocks; ++i)
         for (int column = 0; column < columns; ++column)
-            for (int j = 0; j < 4; ++j)
-                *element++ = owng_TFunc_IIIR_at<Real>(split, i, j, column);
+            for (int j = 0; j < 4; ++j) *element++ = owng_TFunc_IIIR_at<Real>(split, i, j, column);
     return kfmOk;
 }
 
@@ -116,10 +115,10 @@ void Env4<Real>::del() {
 template <class Real>
 void Env4<Real>::compute(const Real* w, Real* dst) const {
     switch (rule) {   // d = 1 and 2 have no codelet: no accepted length has them
-        case 3: return outputStage<Real, 4>(w, table, dst, len);
-        case 4: return outputStage<Real, 8>(w, table, dst, len);
-        case 5: return outputStage<Real, 16>(w, table, dst, len);
-        case 6: return outputStage<Real, 32>(w, table, dst, len);
+    case 3: return outputStage<Real, 4>(w, table, dst, len);
+    case 4: return outputStage<Real, 8>(w, table, dst, len);
+    case 5: return outputStage<Real, 16>(w, table, dst, len);
+    case 6: return outputStage<Real, 32>(w, table, dst, len);
     }
 }
 

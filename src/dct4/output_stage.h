@@ -8,8 +8,8 @@ namespace kfm::dct4 {
 
 template <class Real>
 struct Env4 : Environment {
-    Ref<Real> table;    // len/8d blocks; per block 2d columns of four rows each
-    std::int32_t rule;  // 1..6 for d = 1, 2, 4, 8, 16, 32
+    Ref<Real> table;     // len/8d blocks; per block 2d columns of four rows each
+    std::int32_t rule;   // 1..6 for d = 1, 2, 4, 8, 16, 32
     std::int32_t d, len, columns, blockSize, blocks, outputLen, mirror, run;
     Ref<const EnvFSplit<Real>> split;
 
@@ -25,7 +25,7 @@ template <class Real>
 struct Env2 : Environment {
     Ref<EnvList> stage;   // the env4
     Ref<void> spare;
-    std::int32_t rule;    // 1
+    std::int32_t rule;   // 1
     std::int32_t d, len, columns, rows, outputLen, mirror, run;
     Ref<const EnvFCompose<Real>> compose;
 

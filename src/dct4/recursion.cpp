@@ -22,13 +22,13 @@ constexpr Bytes scratchBytes(int a, int len, bool root) {
 
 int subLengthRule(int m) {
     switch (m) {
-        case 2: return 1;
-        case 4: return 2;
-        case 8: return 3;
-        case 16: return 4;
-        case 32: return 5;
-        case 64: return 6;
-        default: return splitRule;
+    case 2: return 1;
+    case 4: return 2;
+    case 8: return 3;
+    case 16: return 4;
+    case 32: return 5;
+    case 64: return 6;
+    default: return splitRule;
     }
 }
 
@@ -95,12 +95,12 @@ KfmStatus Env7<Real>::compute(const Real* src, Real* w, int in0, int refl, int o
 template <class Real>
 int Env8<Real>::chooseRule(int divisor) {
     switch (divisor) {
-        case 2: return 1;
-        case 4: return 2;
-        case 8: return 3;
-        case 16: return 4;
-        case 32: return 5;
-        default: return 0;
+    case 2: return 1;
+    case 4: return 2;
+    case 8: return 3;
+    case 16: return 4;
+    case 32: return 5;
+    default: return 0;
     }
 }
 
@@ -158,11 +158,11 @@ void Env8<Real>::del() {
 template <class Real>
 void Env8<Real>::compute(Real* rows) const {
     switch (rule) {
-        case 1: return join<2>(rows);
-        case 2: return join<4>(rows);
-        case 3: return join<8>(rows);
-        case 4: return join<16>(rows);
-        case 5: return join<32>(rows);
+    case 1: return join<2>(rows);
+    case 2: return join<4>(rows);
+    case 3: return join<8>(rows);
+    case 4: return join<16>(rows);
+    case 5: return join<32>(rows);
     }
 }
 
@@ -224,12 +224,12 @@ KfmStatus Env9<Real>::compute(const Real* src, Real* w, int in0, int refl, int o
 template <class Real>
 void Env9<Real>::computeBlock(const Real* front, const Real* back, Real* rows) const {
     switch (rule) {
-        case 1: return inputBlock<Real, 2>(front, back, step, rows);
-        case 2: return inputBlock<Real, 4>(front, back, step, rows);
-        case 3: return inputBlock<Real, 8>(front, back, step, rows);
-        case 4: return inputBlock<Real, 16>(front, back, step, rows);
-        case 5: return inputBlock<Real, 32>(front, back, step, rows);
-        case 6: return inputBlock<Real, 64>(front, back, step, rows);
+    case 1: return inputBlock<Real, 2>(front, back, step, rows);
+    case 2: return inputBlock<Real, 4>(front, back, step, rows);
+    case 3: return inputBlock<Real, 8>(front, back, step, rows);
+    case 4: return inputBlock<Real, 16>(front, back, step, rows);
+    case 5: return inputBlock<Real, 32>(front, back, step, rows);
+    case 6: return inputBlock<Real, 64>(front, back, step, rows);
     }
 }
 

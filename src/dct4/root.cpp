@@ -35,12 +35,12 @@ void fillOddTable(Real* table, int len) {
 template <class Real>
 int Env1<Real>::chooseRule(int len) {
     switch (len) {
-        case 2: return 1;
-        case 4: return 2;
-        case 8: return 3;
-        case 16: return 4;
-        case 32: return 5;
-        default: return generalRule;
+    case 2: return 1;
+    case 4: return 2;
+    case 8: return 3;
+    case 16: return 4;
+    case 32: return 5;
+    default: return generalRule;
     }
 }
 
@@ -116,10 +116,8 @@ KfmStatus Env1<Real>::computeGeneral(const Real* src, Real* dst) const {
 template <class Real>
 void Env1<Real>::computeOdd(const Real* src, Real* dst) const {
     const auto* env5 = stageOf<Env5<Real>>(stageOf<Env3<Real>>(inputStage)->stage);
-    if (Real* scratch = env5->scratch())
-        oddTransform<Real>(src, dst, len, work, scratch);
-    else
-        computeShortOdd(src, dst);
+    if (Real* scratch = env5->scratch()) oddTransform<Real>(src, dst, len, work, scratch);
+    else computeShortOdd(src, dst);
 }
 
 // Up to 2049, beyond which there is a recursion. A function of its own, with as much stack as the

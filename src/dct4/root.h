@@ -36,13 +36,13 @@ private:
 template <class Real>
 KfmStatus Env1<Real>::compute(const Real* src, Real* dst) const {
     switch (rule) {
-        case 1: fixedTransform<Real, 2>(src, dst); return kfmOk;
-        case 2: fixedTransform<Real, 4>(src, dst); return kfmOk;
-        case 3: fixedTransform<Real, 8>(src, dst); return kfmOk;
-        case 4: fixedTransform<Real, 16>(src, dst); return kfmOk;
-        case 5: fixedTransform<Real, 32>(src, dst); return kfmOk;
-        case generalRule: return computeGeneral(src, dst);
-        default: return kfmErrBadSpec;
+    case 1: fixedTransform<Real, 2>(src, dst); return kfmOk;
+    case 2: fixedTransform<Real, 4>(src, dst); return kfmOk;
+    case 3: fixedTransform<Real, 8>(src, dst); return kfmOk;
+    case 4: fixedTransform<Real, 16>(src, dst); return kfmOk;
+    case 5: fixedTransform<Real, 32>(src, dst); return kfmOk;
+    case generalRule: return computeGeneral(src, dst);
+    default: return kfmErrBadSpec;
     }
 }
 

@@ -18,8 +18,8 @@ inline constexpr std::ptrdiff_t complexRow = 2 * rowLength;   // the real part, 
 
 // Columns that are joined at a time: all, unless their products take more than 8 KiB of the stack.
 template <class Real, int divisor>
-inline constexpr int joinedColumns =
-    std::min(rowLength, 8192 / (2 * divisor * static_cast<int>(sizeof(Real))));
+inline constexpr int joinedColumns = std::min(rowLength, 8192 / (2 * divisor *
+                                                                 static_cast<int>(sizeof(Real))));
 
 // Columns of one complex row times cosine and sine; the vectors of a column are `stride` elements
 // apart.

@@ -17,9 +17,7 @@ void place(std::vector<LaneOutput>& outputs, int first, int second, Ref vector) 
     outputs.push_back({second, high(vector)});
 }
 
-Ref product(Graph& g, const Constant& c, Ref a) {
-    return g.settle(g.mul(c, a), Border::rotation);
-}
+Ref product(Graph& g, const Constant& c, Ref a) { return g.settle(g.mul(c, a), Border::rotation); }
 
 // The odd outputs from the differences d[n] = x[n] - x[n+8], given as (d0,d2), (d4,d6), (d1,d3),
 // (d5,d7). With the bins X[k] of the DFT H[k] = Re - Im and H[16-k] = Re + Im.
@@ -38,10 +36,10 @@ void oddOutputs(Graph& g, Ref d02, Ref d46, Ref d13, Ref d57, std::vector<LaneOu
     const Ref turned = g.add(d26, g.flip(swapped(g, d26), {1, 0}));   // (d2 - d6, d2 + d6)
     const Ref eighth = product(g, Constant::cosTurn(1, 8), turned);
     const Ref plus = g.add(d04, eighth), minus = g.sub(d04, eighth);
-    const Ref x1 = g.add(plus, near);     // Re X1, -Im X1
-    const Ref x7 = g.sub(plus, near);     // Re X7, Im X7
-    const Ref x35 = g.add(minus, far);    // Re X3, -Im X5
-    const Ref x53 = g.sub(minus, far);    // Re X5, Im X3
+    const Ref x1 = g.add(plus, near);    // Re X1, -Im X1
+    const Ref x7 = g.sub(plus, near);    // Re X7, Im X7
+    const Ref x35 = g.add(minus, far);   // Re X3, -Im X5
+    const Ref x53 = g.sub(minus, far);   // Re X5, Im X3
 
     const Ref re17 = lows(g, x1, x7), im17 = highs(g, x1, x7);
     place(outputs, 1, 9, g.add(re17, im17));

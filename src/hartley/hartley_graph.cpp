@@ -32,8 +32,8 @@ private:
     void ends() {
         for (const int k : {0, n_ / 2})
             if (2 * k % n_ == 0)
-                outputs_.push_back({k, {g_.settle(bins_[k].re.vector, Border::result),
-                                        bins_[k].re.index}});
+                outputs_.push_back(
+                    {k, {g_.settle(bins_[k].re.vector, Border::result), bins_[k].re.index}});
     }
 
     void pairNeighbours() {

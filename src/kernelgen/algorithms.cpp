@@ -16,10 +16,8 @@ Constant sine(long numerator, long denominator) {
 
 // Files X[k] under k or, conjugated, under n - k.
 void setBin(HalfSpectrum& spectrum, int n, int k, Complex value) {
-    if (2 * k <= n)
-        spectrum[k] = value;
-    else
-        spectrum[n - k] = {value.re, -value.im};
+    if (2 * k <= n) spectrum[k] = value;
+    else spectrum[n - k] = {value.re, -value.im};
 }
 
 Complex bin(const HalfSpectrum& spectrum, int n, int k) {
@@ -110,8 +108,7 @@ HalfSpectrum splitRadix(Graph& g, int n, std::span<const Ref> x) {
         setBin(spectrum, n, k, {g.add(uk.re, s.re), g.add(uk.im, s.im)});
         setBin(spectrum, n, k + n / 2, {g.sub(uk.re, s.re), g.sub(uk.im, s.im)});
         setBin(spectrum, n, k + quarter, {g.add(uq.re, d.im), g.sub(uq.im, d.re)});
-        if (k > 0)
-            setBin(spectrum, n, k + 3 * quarter, {g.sub(uq.re, d.im), g.add(uq.im, d.re)});
+        if (k > 0) setBin(spectrum, n, k + 3 * quarter, {g.sub(uq.re, d.im), g.add(uq.im, d.re)});
     }
     return spectrum;
 }
@@ -164,8 +161,7 @@ void middleColumn(Graph& g, const Plan& plan, const std::vector<HalfSpectrum>& r
     if (b % 2 == 0)
         throw std::invalid_argument("a twiddled step of real data takes at most one even factor");
     std::vector<Complex> column(b);
-    for (int r = 0; r < b; ++r)
-        column[r].re = r % 2 == 0 ? rows[r][a / 2].re : -rows[r][a / 2].re;
+    for (int r = 0; r < b; ++r) column[r].re = r % 2 == 0 ? rows[r][a / 2].re : -rows[r][a / 2].re;
     acrossRows(g, plan.second(), column, true, [&](int k, Complex value) {
         setBin(spectrum, plan.n, a / 2 + a * ((k + (b - 1) / 2) % b), value);
     });
@@ -182,9 +178,8 @@ HalfSpectrum cooleyTukey(Graph& g, const Plan& plan, std::span<const Ref> x) {
         std::vector<Complex> column(b);
         for (int r = 0; r < b; ++r)
             column[r] = rotate(g, rows[r][k1], long(r) * k1, plan.n, Sign::minus);
-        acrossRows(g, plan.second(), column, k1 == 0, [&](int k2, Complex value) {
-            setBin(spectrum, plan.n, k1 + a * k2, value);
-        });
+        acrossRows(g, plan.second(), column, k1 == 0,
+                   [&](int k2, Complex value) { setBin(spectrum, plan.n, k1 + a * k2, value); });
     }
     if (a % 2 == 0) middleColumn(g, plan, rows, spectrum);
     return spectrum;
@@ -244,25 +239,18 @@ HalfSpectrum realDft(Graph& g, const Plan& plan, std::span<const Ref> x) {
         if (plan.n == 2) return direct2(g, x);
         if (plan.n == 4) return direct4(g, x);
         return symmetricPairs(g, plan, x);
-    case Plan::Kind::factored5:
-        return factoredFive(g, x);
+    case Plan::Kind::factored5: return factoredFive(g, x);
     case Plan::Kind::powerOfTwo:
-    case Plan::Kind::evenOdd:
-        return splitRadix(g, plan.n, x);
-    case Plan::Kind::pfa:
-        return primeFactor(g, plan, x);
-    case Plan::Kind::ct:
-        return cooleyTukey(g, plan, x);
-    case Plan::Kind::rader:
-        return raderStep(g, plan, x);
-    case Plan::Kind::paddedRader:
-        break;
+    case Plan::Kind::evenOdd: return splitRadix(g, plan.n, x);
+    case Plan::Kind::pfa: return primeFactor(g, plan, x);
+    case Plan::Kind::ct: return cooleyTukey(g, plan, x);
+    case Plan::Kind::rader: return raderStep(g, plan, x);
+    case Plan::Kind::paddedRader: break;
     }
     throw std::invalid_argument("the padded convolution exists in lanes only");
 }
 
-std::vector<Complex> complexDft(Graph& g, const Plan& plan, std::span<const Complex> x,
-                                Sign sign) {
+std::vector<Complex> complexDft(Graph& g, const Plan& plan, std::span<const Complex> x, Sign sign) {
     const int n = plan.n;
     std::vector<Ref> re(n), im(n);
     for (int i = 0; i < n; ++i) re[i] = x[i].re, im[i] = x[i].im;
@@ -272,8 +260,7 @@ std::vector<Complex> complexDft(Graph& g, const Plan& plan, std::span<const Comp
         const int forward = sign == Sign::minus ? k : (n - k) % n;
         const int mirrored = (n - forward) % n;
         y[forward] = {g.sub(p[k].re, q[k].im), g.add(p[k].im, q[k].re)};
-        if (mirrored != forward)
-            y[mirrored] = {g.add(p[k].re, q[k].im), g.sub(q[k].re, p[k].im)};
+        if (mirrored != forward) y[mirrored] = {g.add(p[k].re, q[k].im), g.sub(q[k].re, p[k].im)};
     }
     return y;
 }

@@ -86,13 +86,13 @@ Body emitBody(Graph g, const registry::Element& element, const ScheduleChoice& c
     return BodyPrinter(operations, choice, ports.overlapping()).print();
 }
 
-std::string emitTransform(Graph g, std::string_view name,
-                          const registry::Element& element, const ScheduleChoice& choice,
-                          Packed packed) {
+std::string emitTransform(Graph g, std::string_view name, const registry::Element& element,
+                          const ScheduleChoice& choice, Packed packed) {
     const Body body = emitBody(std::move(g), element, choice, ArrayPorts(element, packed));
     const std::string type(element.type);
     std::ostringstream out;
-    out << "struct " << name << " {\n" << body.tables << "\n"
+    out << "struct " << name << " {\n"
+        << body.tables << "\n"
         << "    template <class Memory, class Factor>\n"
         << "    [[gnu::always_inline]] static void transform(const " << type << "* src, " << type
         << "* dst, const Factor* factor) {\n"

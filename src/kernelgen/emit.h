@@ -27,8 +27,7 @@ Body emitBody(Graph g, const registry::Element& element, const ScheduleChoice& c
 
 // A struct `name` with the constants and a static function transform<Memory>(src, dst, scale),
 // where `scale` points to the factor.
-std::string emitTransform(Graph g, std::string_view name,
-                          const registry::Element& element, const ScheduleChoice& choice,
-                          Packed packed = Packed::neither);
+std::string emitTransform(Graph g, std::string_view name, const registry::Element& element,
+                          const ScheduleChoice& choice, Packed packed = Packed::neither);
 
 }   // namespace kfm::kernelgen

@@ -53,9 +53,7 @@ public:
         worst_ = std::max(worst_, largestError / largestOutput);
     }
 
-    ErrorFigures figures() const {
-        return {std::sqrt(errors_ / outputs_) / unit, worst_ / unit};
-    }
+    ErrorFigures figures() const { return {std::sqrt(errors_ / outputs_) / unit, worst_ / unit}; }
 
 private:
     static constexpr double unit = 1.0 / (1ll << (sizeof(Real) == 4 ? 24 : 53));

@@ -23,16 +23,12 @@ std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, std::span<const Rea
             switch (node.op) {
             case Op::load: {
                 const int element = node.elements[i / lanesPerElement % node.elements.size()];
-                v[i] = element < 0 ? Real(0)
-                                   : source[element * lanesPerElement + i % lanesPerElement];
+                v[i] =
+                    element < 0 ? Real(0) : source[element * lanesPerElement + i % lanesPerElement];
                 break;
             }
-            case Op::add:
-                v[i] = at(node.a)[i] + at(node.b)[i];
-                break;
-            case Op::sub:
-                v[i] = at(node.a)[i] - at(node.b)[i];
-                break;
+            case Op::add: v[i] = at(node.a)[i] + at(node.b)[i]; break;
+            case Op::sub: v[i] = at(node.a)[i] - at(node.b)[i]; break;
             case Op::mul:
                 v[i] = static_cast<Wide>(g.constant(node.constant)[i].value()) * at(node.a)[i];
                 break;
@@ -47,16 +43,12 @@ std::vector<std::vector<Wide>> evaluateNodes(const Graph& g, std::span<const Rea
                     v[i] = at(2 * i < lanes ? node.a : node.b)[part * lanes / 2 + i % (lanes / 2)];
                 break;
             }
-            case Op::flip:
-                v[i] = node.pattern[i] ? -at(node.a)[i] : at(node.a)[i];
-                break;
+            case Op::flip: v[i] = node.pattern[i] ? -at(node.a)[i] : at(node.a)[i]; break;
             case Op::subtract:
                 v[i] = node.pattern[i] ? Wide(0) - at(node.a)[i] : at(node.a)[i];
                 break;
             case Op::widen:
-            case Op::round:
-                v[i] = at(node.a)[i];
-                break;
+            case Op::round: v[i] = at(node.a)[i]; break;
             }
             // A single operation rounded twice, to Wide and to Real, is rounded as by Real alone.
             if (!node.wide) v[i] = static_cast<Real>(v[i]);

@@ -107,11 +107,10 @@ std::string genericEntries() {
 
 std::string functionsTable() {
     std::string text(doNotEdit);
-    text +=
-        "#include \"registry/functions.h\"\n\n"
-        "#include \"kfmgen.h\"\n\n"
-        "std::span<const kfm::registry::Function> kfm::registry::functions() {\n"
-        "    static const Function all[] = {\n";
+    text += "#include \"registry/functions.h\"\n\n"
+            "#include \"kfmgen.h\"\n\n"
+            "std::span<const kfm::registry::Function> kfm::registry::functions() {\n"
+            "    static const Function all[] = {\n";
     forEachVariant([&](const Family& family, const Element& element) {
         for (int length = family.first; length <= family.last; ++length)
             text += functionRow(registry::functionName(family, length, element), family, element,

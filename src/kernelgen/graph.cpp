@@ -30,8 +30,7 @@ LaneConstant product(const LaneConstant& c, const LaneConstant& d) {
 }   // namespace
 
 Ref Graph::intern(Node node) {
-    const Key key{node.op,       node.a,       node.b,   node.constant,
-                  node.elements, node.pattern, node.half};
+    const Key key{node.op, node.a, node.b, node.constant, node.elements, node.pattern, node.half};
     const auto [found, inserted] = index_.try_emplace(key, static_cast<int>(nodes_.size()));
     if (inserted) {
         node.wide = computesWide(node);
@@ -151,8 +150,8 @@ Ref Graph::select(Ref a, Ref b, const LanePattern& pattern) {
     b = unsignedRef(b);
     bool identity = true;
     for (int lane = 0; lane < lanes_; ++lane)
-        identity = identity &&
-                   (pattern[lane] == lane || (a == b && pattern[lane] == lane + lanes_));
+        identity =
+            identity && (pattern[lane] == lane || (a == b && pattern[lane] == lane + lanes_));
     if (identity) return a;
     return intern({.op = Op::select, .a = a, .b = b, .pattern = pattern});
 }

@@ -48,11 +48,11 @@ constexpr unsigned operator|(Border a, Border b) { return unsigned(a) | unsigned
 
 // How a graph computes.
 struct Arithmetic {
-    bool mixed = false;      // products are wide; else all nodes are of the element type
-    unsigned rounding = 0;   // the borders at which wide values are rounded
-    bool factoring = true;   // c*x + c*y = c*(x + y), c*(d*x) = (c*d)*x
-    bool exactZeros = false; // 0 - (a - b) stays, which is never a negative zero
-    bool marking = false;    // keep rounding points of narrow values too, for transposition
+    bool mixed = false;        // products are wide; else all nodes are of the element type
+    unsigned rounding = 0;     // the borders at which wide values are rounded
+    bool factoring = true;     // c*x + c*y = c*(x + y), c*(d*x) = (c*d)*x
+    bool exactZeros = false;   // 0 - (a - b) stays, which is never a negative zero
+    bool marking = false;      // keep rounding points of narrow values too, for transposition
 
     bool rounds(Border border) const { return (rounding & unsigned(border)) != 0; }
 };
@@ -65,22 +65,22 @@ using LaneConstant = std::vector<Constant>;
 using LanePattern = std::vector<int>;
 
 enum class Op {
-    load,      // source elements; -1: zero
-    add,       // a + b
-    sub,       // a - b
-    mul,       // constant * a
-    select,    // lanes of a and b by `pattern`
-    join,      // the half of a and the half of b that `pattern` names; -1: whatever
-    flip,      // a with the sign changed in the lanes whose pattern entry is 1
-    subtract,  // 0 - a in the lanes whose pattern entry is 1, a in the others
-    widen,     // a narrow value made wide
-    round,     // a wide value rounded to the element type
+    load,       // source elements; -1: zero
+    add,        // a + b
+    sub,        // a - b
+    mul,        // constant * a
+    select,     // lanes of a and b by `pattern`
+    join,       // the half of a and the half of b that `pattern` names; -1: whatever
+    flip,       // a with the sign changed in the lanes whose pattern entry is 1
+    subtract,   // 0 - a in the lanes whose pattern entry is 1, a in the others
+    widen,      // a narrow value made wide
+    round,      // a wide value rounded to the element type
 };
 
 struct Node {
     Op op;
-    Ref a = {}, b = {};   // always positive references (or unused)
-    int constant = 0;     // mul: index of the lane constant
+    Ref a = {}, b = {};               // always positive references (or unused)
+    int constant = 0;                 // mul: index of the lane constant
     std::vector<int> elements = {};   // load: by number
     LanePattern pattern = {};
     bool half = false;    // in a graph of pairs: what the upper half holds is of no interest

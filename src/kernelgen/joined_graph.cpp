@@ -56,11 +56,8 @@ private:
         if (pairing_.joins(a, b)) return computed(a);
         if (node(a).op == Op::load && node(b).op == Op::load) return pair(a, b);
         const Ref first = computed(a), second = computed(b);
-        return joined_.append({.op = Op::join,
-                               .a = first,
-                               .b = second,
-                               .pattern = {half(a), half(b)},
-                               .move = true});
+        return joined_.append(
+            {.op = Op::join, .a = first, .b = second, .pattern = {half(a), half(b)}, .move = true});
     }
 
     Ref single(int item) {
@@ -98,8 +95,8 @@ private:
     // With what the two halves bring along.
     Ref append(Node result, const Node& low, const Node& high) {
         if (low.op == Op::mul)
-            return joined_.append(std::move(result), chained(g_.constant(low.constant),
-                                                             g_.constant(high.constant)));
+            return joined_.append(std::move(result),
+                                  chained(g_.constant(low.constant), g_.constant(high.constant)));
         if (low.op == Op::flip || low.op == Op::subtract)
             result.pattern = chained(low.pattern, high.pattern);
         if (low.op == Op::select || low.op == Op::join) {
@@ -150,8 +147,7 @@ private:
         const Ref value = alone ? one(first.node) : two(first.node, second.node);
         std::vector<int> elements = first.elements;
         if (!alone) elements = chained(filled(elements), filled(second.elements));
-        joined_.append(
-            Output{elements, value.node(), chained(first.negated, second.negated)});
+        joined_.append(Output{elements, value.node(), chained(first.negated, second.negated)});
     }
 
     const Graph& g_;

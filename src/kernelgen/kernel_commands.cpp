@@ -50,9 +50,7 @@ constexpr std::array columns = {
 };
 
 // The last two are of operations that are joined in pairs.
-auto columnsFor(bool paired) {
-    return std::span(columns).first(columns.size() - (paired ? 0 : 2));
-}
+auto columnsFor(bool paired) { return std::span(columns).first(columns.size() - (paired ? 0 : 2)); }
 
 // The operations as they are printed, in execution order.
 std::string dumpProgram(const Graph& graph, const Element& element, const Ports& ports,
@@ -139,8 +137,8 @@ std::string explain(std::string_view source, int length, const Element& element)
         const auto operands = printed.operands();
         out << target.name << '\n'
             << "  schedule         " << choice.text() << '\n'
-            << "  reloads          " << countReloads(operands, schedule(operands, choice),
-                                                     target.vectorRegisters)
+            << "  reloads          "
+            << countReloads(operands, schedule(operands, choice), target.vectorRegisters)
             << " at least, with " << target.vectorRegisters << " registers\n";
         if (family.graphOf)
             out << "  rows             " << describeRows(family, length, element, target) << '\n';
@@ -148,8 +146,8 @@ std::string explain(std::string_view source, int length, const Element& element)
         for (const auto& [name, member] : columnsFor(counts.pairs > 0))
             out << "  " << std::left << std::setw(17) << name << counts.*member << '\n';
         if (counts.pairs > 0)
-            out << "  in all           " << printed.operations().size()
-                << " operations instead of " << graph.liveNodes().size() << ", and stores\n";
+            out << "  in all           " << printed.operations().size() << " operations instead of "
+                << graph.liveNodes().size() << ", and stores\n";
     }
     return out.str();
 }
@@ -160,8 +158,7 @@ std::string dump(std::string_view stage, std::string_view source, int length,
     if (!family.graph) throw std::invalid_argument(std::string(source) + " kernels have no stages");
     const Graph graph = family.graph(length, element, target, false);
     const ScheduleChoice choice = family.choice(length, element, target);
-    if (stage == "program")
-        return dumpProgram(graph, element, *family.ports(element), choice);
+    if (stage == "program") return dumpProgram(graph, element, *family.ports(element), choice);
     const std::vector<int> scheduled = schedule(graph, choice);
     if (stage == "schedule") return dumpText(graph, scheduled);
     if (stage == "dot") return dumpDot(graph, scheduled);

@@ -58,7 +58,8 @@ std::string printRealKernel(const RealKernelFile& file, const Graph& g, int n,
         << "\nstruct Kernel : Transform {\n"
         << "    static constexpr kfm::Direction direction = kfm::Direction::" << file.direction
         << ";\n    " << scaleFactors(n, file.bySqrtN, element, g.lanes())
-        << "};\n\n}   // namespace\n\nextern \"C\" {\n\n" << file.functions << "}\n";
+        << "};\n\n}   // namespace\n\nextern \"C\" {\n\n"
+        << file.functions << "}\n";
     return out.str();
 }
 

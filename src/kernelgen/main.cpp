@@ -65,8 +65,7 @@ void writeFile(const fs::path& path, const std::string& text) {
     if (fs::exists(path) && readFile(path) == text) return;
     if (path.has_parent_path()) fs::create_directories(path.parent_path());
     std::ofstream file(path, std::ios::binary);
-    if (!(file << text) || !file.flush())
-        throw std::runtime_error("cannot write " + path.string());
+    if (!(file << text) || !file.flush()) throw std::runtime_error("cannot write " + path.string());
 }
 
 // The generated folder: writes what is asked for, and in the end removes what no longer is.
@@ -118,10 +117,8 @@ struct KernelName {
 
 void writeResult(const Arguments& arguments, const std::string& text) {
     const std::string file = arguments.option("-o", "");
-    if (file.empty())
-        std::cout << text;
-    else
-        writeFile(file, text);
+    if (file.empty()) std::cout << text;
+    else writeFile(file, text);
 }
 
 std::string fileName(std::string_view source, int length, const registry::Element& element) {
@@ -227,8 +224,8 @@ constexpr Command commands[] = {
      printCounts},
     {"candidates", "<N> <element> [--target <target>] [--after <winner>]",
      "the schedules and pairings from which the tuner chooses", printCandidates},
-    {"declarations", "[--into <header> [--of rows]]", "print the C declarations, or renew them in a header",
-     printDeclarations},
+    {"declarations", "[--into <header> [--of rows]]",
+     "print the C declarations, or renew them in a header", printDeclarations},
 };
 
 int usage() {

@@ -148,8 +148,9 @@ private:
     void matchUsers(int a, int b, std::vector<std::pair<int, int>>& waiting) {
         std::vector<int> others = state_.users(b);
         for (const int user : state_.users(a)) {
-            const auto match = std::ranges::find_if(
-                others, [&](int other) { return state_.compatible(user, other); });
+            const auto match = std::ranges::find_if(others, [&](int other) {
+                return state_.compatible(user, other);
+            });
             if (match == others.end()) continue;
             waiting.push_back({user, *match});
             others.erase(match);

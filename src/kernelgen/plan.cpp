@@ -88,18 +88,12 @@ Plan paddedRader(int prime, const Plan& quarter) {
 std::string Plan::text() const {
     const std::string length = std::to_string(n);
     switch (kind) {
-    case Kind::direct:
-        return paired ? length + " in pairs" : length;
-    case Kind::powerOfTwo:
-        return length + " by split radix";
-    case Kind::evenOdd:
-        return length + " by even and odd samples";
-    case Kind::factored5:
-        return "factored 5";
-    case Kind::pfa:
-        return length + " = PFA(" + first().text() + ", " + second().text() + ")";
-    case Kind::ct:
-        return length + " = CT(" + first().text() + ", " + second().text() + ")";
+    case Kind::direct: return paired ? length + " in pairs" : length;
+    case Kind::powerOfTwo: return length + " by split radix";
+    case Kind::evenOdd: return length + " by even and odd samples";
+    case Kind::factored5: return "factored 5";
+    case Kind::pfa: return length + " = PFA(" + first().text() + ", " + second().text() + ")";
+    case Kind::ct: return length + " = CT(" + first().text() + ", " + second().text() + ")";
     case Kind::rader:
         return length + " = Rader(" + first().text() + "; root " + std::to_string(root) +
                (shift == 0 ? "" : ", shift " + std::to_string(shift)) + ")";
@@ -124,8 +118,7 @@ Plan roundedOtherwise(const Plan& plan, std::minstd_rand& random) {
 }
 
 bool sameSteps(const Plan& a, const Plan& b) {
-    return a.n == b.n && a.kind == b.kind &&
-           std::ranges::equal(a.parts, b.parts, sameSteps);
+    return a.n == b.n && a.kind == b.kind && std::ranges::equal(a.parts, b.parts, sameSteps);
 }
 
 int powerModulo(int base, int exponent, int modulus) {

@@ -10,14 +10,14 @@ namespace kfm::kernelgen {
 
 struct Plan {
     enum class Kind {
-        direct,      // 2, 4, or the symmetric pairs of an odd length
-        factored5,   // the 5-point module with four products saved to three
-        powerOfTwo,  // conjugate-pair split radix
-        evenOdd,     // the same, but even and odd samples side by side where there are two lanes
-        pfa,         // Good-Thomas: first x second, coprime, no twiddle factors
-        ct,          // Cooley-Tukey: first x second with twiddle factors between
-        rader,       // a prime as a cyclic convolution of length n - 1
-        paddedRader  // the same, the convolution continued to a longer one
+        direct,       // 2, 4, or the symmetric pairs of an odd length
+        factored5,    // the 5-point module with four products saved to three
+        powerOfTwo,   // conjugate-pair split radix
+        evenOdd,      // the same, but even and odd samples side by side where there are two lanes
+        pfa,          // Good-Thomas: first x second, coprime, no twiddle factors
+        ct,           // Cooley-Tukey: first x second with twiddle factors between
+        rader,        // a prime as a cyclic convolution of length n - 1
+        paddedRader   // the same, the convolution continued to a longer one
     };
 
     Plan(int n);   // an integer in a factor tree: the direct module, or a power of two
@@ -31,7 +31,7 @@ struct Plan {
 
     const Plan& first() const { return parts[0]; }
     const Plan& second() const { return parts[1]; }
-    bool paired = false;       // direct: the terms of a sum are added in pairs, not one by one
+    bool paired = false;   // direct: the terms of a sum are added in pairs, not one by one
 
     std::string text() const;
 

@@ -73,27 +73,18 @@ std::string Program::expression(int operation) {
     const std::string a = operand(what, what.a), b = operand(what, what.b);
     const bool paired = operations_[operation].paired;
     switch (what.op) {
-    case Op::load:
-        return ports_.load(what.elements, what.apart);
-    case Op::add:
-        return "add(" + a + ", " + b + ")";
-    case Op::sub:
-        return "sub(" + a + ", " + b + ")";
-    case Op::mul:
-        return product(what, a);
-    case Op::flip:
-        return flipped(what, a, lanesOf(what.pattern, what.half));
-    case Op::select:
-        return selected(what, a, b);
-    case Op::subtract:
-        return subtracted(what, a);
+    case Op::load: return ports_.load(what.elements, what.apart);
+    case Op::add: return "add(" + a + ", " + b + ")";
+    case Op::sub: return "sub(" + a + ", " + b + ")";
+    case Op::mul: return product(what, a);
+    case Op::flip: return flipped(what, a, lanesOf(what.pattern, what.half));
+    case Op::select: return selected(what, a, b);
+    case Op::subtract: return subtracted(what, a);
     case Op::join:
         return what.half ? "upper(" + a + ")"
                          : "join<" + listOf(what.pattern) + ">(" + a + ", " + b + ")";
-    case Op::widen:
-        return (paired ? "widenHalves(" : "widen(") + a + ")";
-    case Op::round:
-        return "narrow(" + a + ")";
+    case Op::widen: return (paired ? "widenHalves(" : "widen(") + a + ")";
+    case Op::round: return "narrow(" + a + ")";
     }
     return {};
 }

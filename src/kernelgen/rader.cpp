@@ -16,17 +16,14 @@ ComplexConstant constantBin(std::span<const Constant> sequence, int k) {
     return {Constant::settled(re), Constant::settled(im)};
 }
 
-Constant binWeight(int k, int n) {
-    return Constant::ratio(k == 0 || 2 * k == n ? 1 : 2, n);
-}
+Constant binWeight(int k, int n) { return Constant::ratio(k == 0 || 2 * k == n ? 1 : 2, n); }
 
 ComplexConstant weightedBin(std::span<const Constant> sequence, int k) {
     return scaled(constantBin(sequence, k), binWeight(k, static_cast<int>(sequence.size())));
 }
 
 RaderOrder::RaderOrder(const Plan& plan)
-    : prime(plan.n), input(plan.n - 1), output(plan.n - 1), cosines(plan.n - 1),
-      sines(plan.n - 1) {
+    : prime(plan.n), input(plan.n - 1), output(plan.n - 1), cosines(plan.n - 1), sines(plan.n - 1) {
     const int p = prime;
     for (int m = 0; m < p - 1; ++m) {
         input[m] = powerModulo(plan.root, m + plan.shift, p);
@@ -42,8 +39,7 @@ RaderOrder::RaderOrder(const Plan& plan)
 OddRader::OddRader(const Plan& plan)
     : prime(plan.n), q((plan.n - 1) / 2), order_(plan),
       cosines_(order_.cosines.begin(), order_.cosines.begin() + q) {
-    for (int m = 0; m < q; ++m)
-        sines_.push_back(m % 2 == 0 ? order_.sines[m] : -order_.sines[m]);
+    for (int m = 0; m < q; ++m) sines_.push_back(m % 2 == 0 ? order_.sines[m] : -order_.sines[m]);
 }
 
 }   // namespace kfm::kernelgen

@@ -104,10 +104,8 @@ std::vector<ComplexLanes> symmetricPairs(Graph& g, std::span<const Lane> x, Sign
 }
 
 void setBin(std::vector<ComplexLanes>& spectrum, int n, int k, ComplexLanes value) {
-    if (2 * k <= n)
-        spectrum.at(k) = value;
-    else
-        spectrum.at(n - k) = {value.re, -value.im};
+    if (2 * k <= n) spectrum.at(k) = value;
+    else spectrum.at(n - k) = {value.re, -value.im};
 }
 
 std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<const Lane> x) {
@@ -116,19 +114,13 @@ std::vector<ComplexLanes> realDftInLanes(Graph& g, const Plan& plan, std::span<c
     case Plan::Kind::direct:
         if (plan.n == 2) return twoPoints(g, x[0], x[1]);
         return plan.n == 4 ? four(g, x) : symmetricPairs(g, x);
-    case Plan::Kind::factored5:
-        return symmetricPairs(g, x);
-    case Plan::Kind::powerOfTwo:
-        return splitRadix(g, x);
-    case Plan::Kind::evenOdd:
-        return evenAndOdd(g, x);
+    case Plan::Kind::factored5: return symmetricPairs(g, x);
+    case Plan::Kind::powerOfTwo: return splitRadix(g, x);
+    case Plan::Kind::evenOdd: return evenAndOdd(g, x);
     case Plan::Kind::ct:
-    case Plan::Kind::pfa:
-        return twoSteps(g, plan, x);
-    case Plan::Kind::rader:
-        return raderInLanes(g, plan, x);
-    case Plan::Kind::paddedRader:
-        break;
+    case Plan::Kind::pfa: return twoSteps(g, plan, x);
+    case Plan::Kind::rader: return raderInLanes(g, plan, x);
+    case Plan::Kind::paddedRader: break;
     }
     throw std::invalid_argument("no mapping to lanes for " + plan.text());
 }

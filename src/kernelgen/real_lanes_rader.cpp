@@ -36,8 +36,8 @@ public:
         Spectrum spectrum((order_.prime + 1) / 2);
         spectrum[0] = {{g_.add(alone(g_, x_[0]), bins[0].re), 0}, {}};
         for (int k = 0; 2 * k < q; ++k)
-            bins[k] = scaledByLanes(g_, bins[k], order_.cosineBin(k),
-                                    scaled(order_.sineBin(k), -1));
+            bins[k] =
+                scaledByLanes(g_, bins[k], order_.cosineBin(k), scaled(order_.sineBin(k), -1));
         bins[0].re = g_.add(withZero(g_, x_[0]), bins[0].re);
         const std::vector<Ref> y = realSynthesis(g_, plan_, bins);
         for (int j = 0; j < q; ++j)
@@ -83,7 +83,7 @@ public:
         for (int r = 0; r < q_; ++r)
             for (int lane = 0; lane < lanes; ++lane)
                 setBin(spectrum, order_.prime, order_.output[chineseRemainder(lane, 4, r, q_)],
-                      {{c[r], lane}, {-s[r], lane}});
+                       {{c[r], lane}, {-s[r], lane}});
         return spectrum;
     }
 
@@ -214,12 +214,9 @@ private:
         std::vector<WeightedOutput> outputs;
         for (const auto& [vector, pair] : vectors) {
             const auto& [low, high] = pair.lane;
-            if (high.isZero())
-                outputs.push_back({vector, low.vector, {low.index, -1}});
-            else if (low.isZero())
-                outputs.push_back({vector, high.vector, {-1, high.index}});
-            else
-                outputs.push_back({vector, pack(g_, low, high)});
+            if (high.isZero()) outputs.push_back({vector, low.vector, {low.index, -1}});
+            else if (low.isZero()) outputs.push_back({vector, high.vector, {-1, high.index}});
+            else outputs.push_back({vector, pack(g_, low, high)});
         }
         return transposedLanes(network_, m_, outputs, g_);
     }

@@ -18,15 +18,9 @@ std::string list(std::vector<int> numbers) {
 std::string label(const Graph& g, const Node& node) {
     std::ostringstream out;
     switch (node.op) {
-    case Op::load:
-        out << "load " << list(node.elements);
-        break;
-    case Op::add:
-        out << operand(node.a) << " + " << operand(node.b);
-        break;
-    case Op::sub:
-        out << operand(node.a) << " - " << operand(node.b);
-        break;
+    case Op::load: out << "load " << list(node.elements); break;
+    case Op::add: out << operand(node.a) << " + " << operand(node.b); break;
+    case Op::sub: out << operand(node.a) << " - " << operand(node.b); break;
     case Op::mul:
         out << operand(node.a) << " *";
         for (const Constant& lane : g.constant(node.constant)) out << ' ' << lane.asDecimal();
@@ -47,9 +41,7 @@ std::string label(const Graph& g, const Node& node) {
         if (!node.b.isZero()) out << ", " << operand(node.b);
         break;
     case Op::widen:
-    case Op::round:
-        out << (node.op == Op::widen ? "widen " : "round ") << operand(node.a);
-        break;
+    case Op::round: out << (node.op == Op::widen ? "widen " : "round ") << operand(node.a); break;
     }
     return out.str();
 }
@@ -64,30 +56,16 @@ std::string listOf(const std::vector<int>& numbers) {
 
 void OperationCounts::add(Op op) {
     switch (op) {
-    case Op::load:
-        ++loads;
-        break;
+    case Op::load: ++loads; break;
     case Op::add:
     case Op::sub:
-    case Op::subtract:
-        ++additions;
-        break;
-    case Op::mul:
-        ++multiplications;
-        break;
-    case Op::select:
-        ++shuffles;
-        break;
-    case Op::join:
-        ++moves;
-        break;
-    case Op::flip:
-        ++signChanges;
-        break;
+    case Op::subtract: ++additions; break;
+    case Op::mul: ++multiplications; break;
+    case Op::select: ++shuffles; break;
+    case Op::join: ++moves; break;
+    case Op::flip: ++signChanges; break;
     case Op::widen:
-    case Op::round:
-        ++conversions;
-        break;
+    case Op::round: ++conversions; break;
     }
 }
 

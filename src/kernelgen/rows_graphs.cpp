@@ -51,8 +51,7 @@ private:
             const Ref a = laneOf(node.a, lane), b = laneOf(node.b, lane);
             return sum(a, node.op == Op::add ? b : -b);
         }
-        case Op::mul:
-            return product(g_.constant(node.constant)[lane], laneOf(node.a, lane));
+        case Op::mul: return product(g_.constant(node.constant)[lane], laneOf(node.a, lane));
         case Op::select: {
             const int from = node.pattern[lane];
             if (from < 0) return zero(node.wide);
@@ -72,8 +71,7 @@ private:
             return signedLike(laneOf(node.a, lane), [&](Ref magnitude) {
                 return spread_.append({.op = node.op, .a = magnitude});
             });
-        case Op::join:
-            break;
+        case Op::join: break;
         }
         throw std::logic_error("a joined graph cannot be spread");
     }
@@ -98,9 +96,8 @@ private:
     // Of two negated values as -a - b: -(a + b) would have another zero where they cancel.
     Ref sum(Ref a, Ref b) {
         if (!b.negative() && a.negative()) std::swap(a, b);
-        return spread_.append({.op = b.negative() ? Op::sub : Op::add,
-                               .a = asNode(a),
-                               .b = b.magnitude()});
+        return spread_.append(
+            {.op = b.negative() ? Op::sub : Op::add, .a = asNode(a), .b = b.magnitude()});
     }
 
     Ref product(const Constant& factor, Ref value) {

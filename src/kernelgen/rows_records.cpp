@@ -22,7 +22,7 @@ RowsForms rowsForms(std::string_view source, int length, const Element& element,
         std::string_view target, source, element, spacing;
         const char* lengths;
     } singly[] = {
-#define KFM_ROWS_SINGLY(target, source, element, spacing, lengths)                                \
+#define KFM_ROWS_SINGLY(target, source, element, spacing, lengths) \
     {#target, #source, #element, #spacing, #lengths},
 #include "rows/singly.def"
 #undef KFM_ROWS_SINGLY
@@ -46,7 +46,7 @@ ScheduleChoice rowsSchedule(std::string_view source, int length, const Element& 
         int length;
         std::string_view element, choice;
     } rows[] = {
-#define KFM_SCHEDULE(target, source, length, element, choice)                                     \
+#define KFM_SCHEDULE(target, source, length, element, choice) \
     {#target, #source, length, #element, #choice},
 #include "rows/schedules.def"
 #undef KFM_SCHEDULE
@@ -55,8 +55,9 @@ ScheduleChoice rowsSchedule(std::string_view source, int length, const Element& 
         return row.source == source && row.length == length && row.element == element.suffix;
     };
     // The graph is the same on all targets, and so are the orders of it that spill little.
-    const bool own = std::ranges::any_of(
-        rows, [&](const auto& row) { return row.target == target.name && matches(row); });
+    const bool own = std::ranges::any_of(rows, [&](const auto& row) {
+        return row.target == target.name && matches(row);
+    });
     return recordedChoice(rows, own ? target : *findTarget("avx2-x86-64"), matches);
 }
 

@@ -22,11 +22,11 @@ namespace kfm::kernelgen {
 enum class Pin { none, sums, all };
 
 struct ScheduleChoice {
-    int leaf = 24;            // sets up to this size are ordered greedily
-    int seed = 0;             // 0: ties go to the youngest operand; else a pseudo-random choice
-    bool transposed = false;  // schedule the reversed graph and reverse the order
-    Pin pin = Pin::none;      // after which nodes the compiler must keep the order
-    bool relaunder = false;   // hide the constants anew every few nodes: none is kept and spilled
+    int leaf = 24;             // sets up to this size are ordered greedily
+    int seed = 0;              // 0: ties go to the youngest operand; else a pseudo-random choice
+    bool transposed = false;   // schedule the reversed graph and reverse the order
+    Pin pin = Pin::none;       // after which nodes the compiler must keep the order
+    bool relaunder = false;    // hide the constants anew every few nodes: none is kept and spilled
     std::vector<PairingChoice> pairings = {};   // of operations, one after the other
 
     // "24:0:0:none:0", or with pairings "24:0:0:none:0/1:1:60".

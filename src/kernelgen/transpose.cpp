@@ -90,8 +90,7 @@ private:
 
     void passOn(const Node& node, const Partial& sum) {
         switch (node.op) {
-        case Op::load:
-            return;
+        case Op::load: return;
         case Op::add:
         case Op::sub:
             contribute(node.a, sum);
@@ -104,14 +103,11 @@ private:
         case Op::flip:
             contribute(node.a, Partial{target_.flip(sum.value, node.pattern), sum.meant});
             return;
-        case Op::round:
-            contribute(node.a, Partial{target_.rounded(sum.value), sum.meant});
-            return;
+        case Op::round: contribute(node.a, Partial{target_.rounded(sum.value), sum.meant}); return;
         case Op::select:
             for (const bool first : {true, false}) passLanes(node, sum, first);
             return;
-        default:
-            throw std::logic_error("this operation has no transpose");
+        default: throw std::logic_error("this operation has no transpose");
         }
     }
 
@@ -158,8 +154,7 @@ private:
         for (const Lane& lane : low)
             terms.push_back(whole ? withZero(target_, lane) : alone(target_, lane));
         for (const Lane& lane : high) terms.push_back(inHighLane(lane, whole));
-        return {balancedSum(target_, terms),
-                {whole || !low.empty(), whole || !high.empty()}};
+        return {balancedSum(target_, terms), {whole || !low.empty(), whole || !high.empty()}};
     }
 
     // Lanes of one vector meet each other again.

@@ -7,9 +7,9 @@
 namespace kfm::registry {
 
 struct LoadedLibrary {
-    std::string file;        // its path, without symbolic links
+    std::string file;   // its path, without symbolic links
     bool variant = false;
-    int vectorBits = 128;    // of its widest vectors
+    int vectorBits = 128;   // of its widest vectors
 };
 
 const LoadedLibrary& loadedLibrary();

@@ -30,14 +30,15 @@ KfmStatus transform(const Job<Real>& job, const Spec* spec,
 }   // namespace
 }   // namespace kfm::rows
 
-#define KFM_ROWS_OF_DCT4(precision, Real)                                                         \
-    extern "C" KfmStatus kfmrDCT4_##precision(                                                    \
-        const Real* src, ptrdiff_t srcStride, ptrdiff_t srcDistance, Real* dst,                   \
-        ptrdiff_t dstStride, ptrdiff_t dstDistance, ptrdiff_t rows,                               \
-        const KfmDCT4Spec_##precision* spec) {                                                    \
-        return kfm::rows::transform<Real>(                                                        \
-            {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, kfmScaleNone},   \
-            spec, kfmgDCT4_##precision);                                                          \
+#define KFM_ROWS_OF_DCT4(precision, Real)                                                       \
+    extern "C" KfmStatus kfmrDCT4_##precision(const Real* src, ptrdiff_t srcStride,             \
+                                              ptrdiff_t srcDistance, Real* dst,                 \
+                                              ptrdiff_t dstStride, ptrdiff_t dstDistance,       \
+                                              ptrdiff_t rows,                                   \
+                                              const KfmDCT4Spec_##precision* spec) {            \
+        return kfm::rows::transform<Real>(                                                      \
+            {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, kfmScaleNone}, \
+            spec, kfmgDCT4_##precision);                                                        \
     }
 
 KFM_ROWS_OF_DCT4(32f, Kfm32f)

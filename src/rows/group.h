@@ -72,15 +72,19 @@ struct PackedWriter : PlainWriter<Real, rows, Step> {
 template <class Layout, int rows, int n, class Value, class Step>
 KFM_OPERATION auto reader(const Value* values, Step step) {
     if constexpr (!Packed<Layout>) return PlainReader<Value, rows, Step>{values, step};
-    else return PackedReader<Value, rows, n, Step>{{values, step}, values + Layout::at(1) * step,
-                                                   values + Layout::at(n - 1) * step};
+    else
+        return PackedReader<Value, rows, n, Step>{{values, step},
+                                                  values + Layout::at(1) * step,
+                                                  values + Layout::at(n - 1) * step};
 }
 
 template <class Layout, int rows, int n, class Value, class Step>
 KFM_OPERATION auto writer(Value* values, Step step) {
     if constexpr (!Packed<Layout>) return PlainWriter<Value, rows, Step>{values, step};
-    else return PackedWriter<Value, rows, n, Step>{{values, step}, values + Layout::at(1) * step,
-                                                   values + Layout::at(n - 1) * step};
+    else
+        return PackedWriter<Value, rows, n, Step>{{values, step},
+                                                  values + Layout::at(1) * step,
+                                                  values + Layout::at(n - 1) * step};
 }
 
 #ifdef __AVX2__

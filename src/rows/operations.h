@@ -62,8 +62,7 @@ struct VectorOfRows<Kfm64fc, 2> {
 #endif
 
 // Of as many rows as doubles fill a vector.
-KFM_OPERATION typename VectorOfRows<double, simd::vectorBytes / 8>::Type
-widen(simd::f32x4 narrow) {
+KFM_OPERATION typename VectorOfRows<double, simd::vectorBytes / 8>::Type widen(simd::f32x4 narrow) {
 #ifdef __AVX2__
     return simd::widenHalves(narrow);
 #else

@@ -15,9 +15,13 @@ struct Plain {
 };
 
 template <class Layout>
-concept Packed = requires { Layout::at(0); };
+concept Packed = requires {
+    Layout::at(0);
+};
 template <class Layout>
-concept WithZeros = requires { Layout::zeros[0]; };
+concept WithZeros = requires {
+    Layout::zeros[0];
+};
 
 // Slots of a result that hold no value; without any it is slot 0, which is written anyway.
 template <class Layout>

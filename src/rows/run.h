@@ -72,9 +72,9 @@ public:
         if constexpr (inRegisters<inSlots> || Transform::overlapping)
             if (left.src.distance == perElement && left.dst.distance == perElement) columns(left);
         if (left.rows > 0)
-            runAnySpacing<rows, perElement>(
-                left, {toBuffer<Transform, n, In, Out, Value>, factor_,
-                       readsColumns<Transform, In>, inSlots, outSlots, zeroSlots<Out>()});
+            runAnySpacing<rows, perElement>(left, {toBuffer<Transform, n, In, Out, Value>, factor_,
+                                                   readsColumns<Transform, In>, inSlots, outSlots,
+                                                   zeroSlots<Out>()});
     }
 
 private:
@@ -100,7 +100,8 @@ private:
             setZeros(out);
             for (; left.rows >= rows; left.advance(rows)) {
                 if constexpr (perElement == 1) {
-                    Transform::run(reader<In, rows, n>(left.src.data, left.src.stride), to, factor_);
+                    Transform::run(reader<In, rows, n>(left.src.data, left.src.stride), to,
+                                   factor_);
                 } else {
                     bringInColumns<rows, perElement>(left.src, inSlots, in);
                     Transform::run(reader<In, rows, n>(in, Known<rows>()), to, factor_);
@@ -142,8 +143,7 @@ void contiguousInPairs(Job<Kfm64fc> left, Single<Kfm64fc>* single) {
 
 template <class Transform, int n, class In, class Out, class Element>
 void spacedInGroups(const Job<Element>& job) {
-    Group<Transform, n, In, Out>(job.flag).anySpacing(
-        onNumbers<typename Transform::Value>(job));
+    Group<Transform, n, In, Out>(job.flag).anySpacing(onNumbers<typename Transform::Value>(job));
 }
 
 template <class In, class Out, class Element>

@@ -47,8 +47,7 @@ struct Block {
     KFM_OPERATION static void in(const Real* src, std::ptrdiff_t distance, Real* buffer) {
         Whole v[columns];
 #pragma GCC unroll 4
-        for (int i = 0; i < columns; ++i)
-            v[i] = Part::load(src + i * distance, columns * distance);
+        for (int i = 0; i < columns; ++i) v[i] = Part::load(src + i * distance, columns * distance);
         simd::transpose(v);
 #pragma GCC unroll 4
         for (int i = 0; i < columns; ++i) VectorOfRows<Real, rows>::store(buffer + i * rows, v[i]);
@@ -59,8 +58,7 @@ struct Block {
         for (int i = 0; i < columns; ++i) v[i] = VectorOfRows<Real, rows>::load(buffer + i * rows);
         simd::transpose(v);
 #pragma GCC unroll 4
-        for (int i = 0; i < columns; ++i)
-            Part::store(dst + i * distance, columns * distance, v[i]);
+        for (int i = 0; i < columns; ++i) Part::store(dst + i * distance, columns * distance, v[i]);
     }
 };
 
@@ -122,8 +120,7 @@ struct BlockFor {
     using Type = Block<Real, rows>;
 };
 template <int rows, int slots>
-    requires(slots < 4)
-struct BlockFor<float, rows, slots> {
+requires(slots < 4) struct BlockFor<float, rows, slots> {
     using Type = ShortBlock<rows>;
 };
 
@@ -138,17 +135,15 @@ KFM_OPERATION void forEachBlock(Body body) {
 template <int rows, int slots, class Real>
 KFM_OPERATION void bringInBlocks(Side<const Real> src, Real* buffer) {
     using RowBlock = typename BlockFor<Real, rows, slots>::Type;
-    forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINE {
-        RowBlock::in(src.data + at, src.distance, buffer + at * rows);
-    });
+    forEachBlock<slots, RowBlock::columns>(
+        [=](int at) KFM_INLINE { RowBlock::in(src.data + at, src.distance, buffer + at * rows); });
 }
 
 template <int rows, int slots, class Real>
 KFM_OPERATION void sendOutBlocks(const Real* buffer, Side<Real> dst) {
     using RowBlock = typename BlockFor<Real, rows, slots>::Type;
-    forEachBlock<slots, RowBlock::columns>([=](int at) KFM_INLINE {
-        RowBlock::out(buffer + at * rows, dst.data + at, dst.distance);
-    });
+    forEachBlock<slots, RowBlock::columns>(
+        [=](int at) KFM_INLINE { RowBlock::out(buffer + at * rows, dst.data + at, dst.distance); });
 }
 
 }   // namespace kfm::rows

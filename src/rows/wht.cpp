@@ -44,17 +44,17 @@ KfmStatus transform(const Job<Real>& job, int order, Kfm8u* buffer,
 }   // namespace
 }   // namespace kfm::rows
 
-#define KFM_ROWS_OF_WHT(precision, Real)                                                          \
-    extern "C" KfmStatus kfmrWHTGetBufferSize_##precision(int order, int* size) {                 \
-        return kfm::rows::bufferSize<Real>(order, size);                                          \
-    }                                                                                             \
-    extern "C" KfmStatus kfmrWHT_##precision(                                                     \
-        const Real* src, ptrdiff_t srcStride, ptrdiff_t srcDistance, Real* dst,                   \
-        ptrdiff_t dstStride, ptrdiff_t dstDistance, int order, ptrdiff_t rows, int flag,          \
-        Kfm8u* buffer) {                                                                          \
-        return kfm::rows::transform<Real>(                                                        \
-            {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, flag}, order,    \
-            buffer, kfmgWHT_##precision);                                                         \
+#define KFM_ROWS_OF_WHT(precision, Real)                                                           \
+    extern "C" KfmStatus kfmrWHTGetBufferSize_##precision(int order, int* size) {                  \
+        return kfm::rows::bufferSize<Real>(order, size);                                           \
+    }                                                                                              \
+    extern "C" KfmStatus kfmrWHT_##precision(const Real* src, ptrdiff_t srcStride,                 \
+                                             ptrdiff_t srcDistance, Real* dst,                     \
+                                             ptrdiff_t dstStride, ptrdiff_t dstDistance,           \
+                                             int order, ptrdiff_t rows, int flag, Kfm8u* buffer) { \
+        return kfm::rows::transform<Real>(                                                         \
+            {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, flag}, order,     \
+            buffer, kfmgWHT_##precision);                                                          \
     }
 
 KFM_ROWS_OF_WHT(32f, Kfm32f)

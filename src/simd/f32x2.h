@@ -46,7 +46,6 @@ KFM_OPERATION void storeHalves(float* low, float* high, f32x2 v) {
     storeHigh(high, v);
 }
 
-
 // As of two double-precision lanes.
 template <int i0, int i1>
 KFM_OPERATION f32x2 loadPair(const float* p) {

@@ -66,12 +66,14 @@ Vector loadEverywhere(const float* p);
 template <class Vector>
 Vector loadEverywhere(const double* p);
 
+// clang-format off
 template <> KFM_OPERATION f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
 template <> KFM_OPERATION f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
 template <> KFM_OPERATION f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
 template <> KFM_OPERATION f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
 template <> KFM_OPERATION f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
 template <> KFM_OPERATION f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
+// clang-format on
 KFM_OPERATION void storeAligned(float* p, f32x4 v) { _mm_store_ps(p, v); }
 KFM_OPERATION void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
 KFM_OPERATION void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
@@ -85,12 +87,14 @@ KFM_OPERATION void storeStreaming(double* p, f64x2 v) { _mm_stream_pd(p, v); }
 KFM_OPERATION void finishStreaming() { _mm_sfence(); }
 
 #ifdef __AVX2__
+// clang-format off
 template <> KFM_OPERATION f32x8 loadUnaligned(const float* p) { return _mm256_loadu_ps(p); }
 template <> KFM_OPERATION f64x4 loadUnaligned(const double* p) { return _mm256_loadu_pd(p); }
 template <> KFM_OPERATION f32x8 loadAligned(const float* p) { return _mm256_loadu_ps(p); }
 template <> KFM_OPERATION f64x4 loadAligned(const double* p) { return _mm256_loadu_pd(p); }
 template <> KFM_OPERATION f32x8 loadEverywhere(const float* p) { return _mm256_broadcast_ss(p); }
 template <> KFM_OPERATION f64x4 loadEverywhere(const double* p) { return _mm256_broadcast_sd(p); }
+// clang-format on
 KFM_OPERATION void storeUnaligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
 KFM_OPERATION void storeUnaligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
 KFM_OPERATION void storeAligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
@@ -104,9 +108,13 @@ KFM_OPERATION f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }
 
 // One lane in all lanes.
 template <int lane>
-f32x4 everywhere(f32x4 v) { return select<lane, lane, lane, lane>(v, v); }
+f32x4 everywhere(f32x4 v) {
+    return select<lane, lane, lane, lane>(v, v);
+}
 template <int lane>
-f64x2 everywhere(f64x2 v) { return select<lane, lane>(v, v); }
+f64x2 everywhere(f64x2 v) {
+    return select<lane, lane>(v, v);
+}
 
 KFM_OPERATION void transpose(f32x4 (&rows)[4]) {
     const f32x4 low01 = select<0, 4, 1, 5>(rows[0], rows[1]);

@@ -33,9 +33,9 @@ using Access =
 
 // Arrays that start at a multiple of 16.
 template <class Real>
-using BufferAccess = Access<
-    Real, laneOrder<Real>,
-    std::conditional_t<sizeof(Real) == 8, simd::AlignedDouble, simd::AlignedSingle>>;
+using BufferAccess =
+    Access<Real, laneOrder<Real>,
+           std::conditional_t<sizeof(Real) == 8, simd::AlignedDouble, simd::AlignedSingle>>;
 
 template <class Vector>
 struct Scale {
@@ -57,7 +57,8 @@ template <int order, class From, class To, class Real, class Finish>
 KFM_INLINE inline void transformBlock(const Real* src, Real* dst, Finish finish) {
     constexpr int lanes = std::min(order, laneOrder<Real>);
     transformVectors<order - lanes>(
-        [=](int i) KFM_INLINE { return transformLanes<lanes, Real>(From::load(src + (i << lanes))); },
+        [=](int i)
+            KFM_INLINE { return transformLanes<lanes, Real>(From::load(src + (i << lanes))); },
         [=](int i, auto v) KFM_INLINE { To::store(dst + (i << lanes), finish(v)); });
 }
 
@@ -81,7 +82,7 @@ KFM_INLINE inline void transformAcross(const Real* src, Real* dst, Finish finish
 // All passes. `main` and `scratch` are the areas of the work buffer.
 template <Blocking blocking, class Memory, class Real, class Finish>
 KFM_INLINE inline void transformInPasses(const Real* src, Real* dst, Finish finish, Real* main,
-                              [[maybe_unused]] Real* scratch) {
+                                         [[maybe_unused]] Real* scratch) {
     using Buffer = BufferAccess<Real>;
     constexpr int block = blocking.block, across = blocking.across, chunk = blocking.chunk();
     if constexpr (!blocking.threePasses()) {

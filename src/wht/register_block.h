@@ -17,9 +17,8 @@ inline constexpr int registerBlockOrder = 3;
 // body(0), body(1), ... as straight-line code.
 template <int count, class Body>
 KFM_INLINE inline void unrolled(Body body) {
-    [&]<int... i>(std::integer_sequence<int, i...>) KFM_INLINE {
-        (body(i), ...);
-    }(std::make_integer_sequence<int, count>());
+    [&]<int... i>(std::integer_sequence<int, i...>) KFM_INLINE { (body(i), ...); }
+    (std::make_integer_sequence<int, count>());
 }
 
 template <int order, class Vector>

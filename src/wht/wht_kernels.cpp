@@ -36,6 +36,8 @@ std::string emit(int order, const Element& element, const kernelgen::Target& tar
 
 }   // namespace
 
-kernelgen::KernelFamily kernelFamily() { return {.source = kernels, .describe = describe, .emit = emit}; }
+kernelgen::KernelFamily kernelFamily() {
+    return {.source = kernels, .describe = describe, .emit = emit};
+}
 
 }   // namespace kfm::wht

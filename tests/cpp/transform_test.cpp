@@ -13,10 +13,10 @@ namespace {
 
 template <class Family>
 std::string nameOf();
-#define KFM_NAME(Family, text)        \
-    template <>                       \
-    std::string nameOf<Family>() {    \
-        return text;                  \
+#define KFM_NAME(Family, text)     \
+    template <>                    \
+    std::string nameOf<Family>() { \
+        return text;               \
     }
 KFM_NAME(Dft, "DFTFwd_CToC")
 KFM_NAME(InverseDft, "DFTInv_CToC")
@@ -39,7 +39,8 @@ struct Variant {
     using Value = std::conditional_t<complex, std::complex<T>, T>;
 
     static const Transform& ofLength(int n) {
-        const std::string element = std::string(sizeof(T) == 4 ? "32f" : "64f") + (complex ? "c" : "");
+        const std::string element =
+            std::string(sizeof(T) == 4 ? "32f" : "64f") + (complex ? "c" : "");
         const int argument = byOrder ? std::countr_zero(unsigned(n)) : n;
         return *findTransform(nameOf<Family>(), argument, element);
     }
@@ -78,10 +79,9 @@ protected:
 
 template <class... Family>
 using Both = testing::Types<Variant<Family, float>..., Variant<Family, double>...>;
-using Variants =
-    Both<Dft, InverseDft, RealDft<Layout::ccs>, RealDft<Layout::pack>, RealDft<Layout::perm>,
-         InverseRealDft<Layout::ccs>, InverseRealDft<Layout::pack>, InverseRealDft<Layout::perm>,
-         Hartley, Wht>;
+using Variants = Both<Dft, InverseDft, RealDft<Layout::ccs>, RealDft<Layout::pack>,
+                      RealDft<Layout::perm>, InverseRealDft<Layout::ccs>,
+                      InverseRealDft<Layout::pack>, InverseRealDft<Layout::perm>, Hartley, Wht>;
 TYPED_TEST_SUITE(EveryFamily, Variants);
 
 TYPED_TEST(EveryFamily, HasTheFunctionOfEveryLength) {
@@ -119,7 +119,9 @@ TYPED_TEST(EveryFamily, RefusesOtherSizesAndWritesNothing) {
 
 // What the compiler refuses: whether an expression with these arguments compiles.
 template <class Family, std::size_t n, class Src, class Dst>
-concept Accepted = requires(Src src, Dst dst) { transform<Family, n>(src, dst); };
+concept Accepted = requires(Src src, Dst dst) {
+    transform<Family, n>(src, dst);
+};
 template <std::size_t n>
 using Complex = std::array<std::complex<float>, n>;
 template <std::size_t n>

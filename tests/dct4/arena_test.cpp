@@ -38,8 +38,7 @@ TEST_F(ArenaTest, ListTakesNoNodeForItsFirstItem) {
     EXPECT_EQ(EnvList_get(list, 2), nullptr);
     for (int i = 1; i < 3; ++i) EnvList_add(list, &block[900 + i]);
     EXPECT_EQ(topOf(block) - before, EnvList_add_mem(2));
-    for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(EnvList_get(list, i), &block[900 + i]);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(EnvList_get(list, i), &block[900 + i]);
     EXPECT_EQ(EnvList_get(list, -1), nullptr);
     EXPECT_EQ(EnvList_get(list, 4), nullptr);
     EnvList___del__(list);

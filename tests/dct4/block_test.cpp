@@ -79,7 +79,8 @@ TYPED_TEST(Block, AtEveryOffsetIsLargeEnough) {
                 ASSERT_TRUE(survives([&] {
                     ASSERT_EQ(Dct4<TypeParam>::init(&spec, length, block), kfmOk);
                     Dct4<TypeParam>::transform(source.data(), result.data(), spec);
-                })) << length << " at offset " << offset;
+                })) << length
+                    << " at offset " << offset;
                 ASSERT_EQ(result, expected) << length << " at offset " << offset;
 
                 ASSERT_EQ(reinterpret_cast<Kfm8u*>(spec), handleIn(block));
@@ -87,8 +88,7 @@ TYPED_TEST(Block, AtEveryOffsetIsLargeEnough) {
                 Kfm8u* const end = length <= 32 ? handleIn(block) + rootBytes : block + size;
                 ASSERT_TRUE(end <= block + size || (highBit && end <= block + size + 11));
                 ASSERT_TRUE(pages.untouched(pages.begin(), block)) << length;
-                ASSERT_TRUE(pages.untouched(end, pages.end()))
-                    << length << " at offset " << offset;
+                ASSERT_TRUE(pages.untouched(end, pages.end())) << length << " at offset " << offset;
             }
         }
 }

@@ -63,8 +63,9 @@ TYPED_TEST(Calls, RefuseToTransform) {
                 for (int present = 0; present < 8; ++present) {
                     const std::vector<TypeParam> source(static_cast<std::size_t>(length), 1);
                     auto destination = source;
-                    const KfmStatus expected =
-                        present < 7 ? kfmErrNullPtr : ruled ? kfmOk : kfmErrBadSpec;
+                    const KfmStatus expected = present < 7 ? kfmErrNullPtr
+                                               : ruled     ? kfmOk
+                                                           : kfmErrBadSpec;
                     EXPECT_EQ(Calls::transform(present & 1 ? source.data() : nullptr,
                                                present & 2 ? destination.data() : nullptr,
                                                present & 4 ? specification.handle() : nullptr),

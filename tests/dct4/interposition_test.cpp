@@ -36,17 +36,17 @@ Function* ofLibrary(const char* name) {
 
 }   // namespace
 
-#define KFM_REPLACE(precision, Spec)                                                           \
-    extern "C" KfmStatus kfmgDCT4GetSize_##precision(int len, int* size) {                     \
-        ++record.sizes;                                                                        \
-        if (record.refuseSize) return refused;                                                 \
-        return ofLibrary<KfmStatus(int, int*)>("kfmgDCT4GetSize_" #precision)(len, size);      \
-    }                                                                                          \
-    extern "C" KfmStatus kfmgDCT4Init_##precision(Spec** spec, int len, Kfm8u* block) {        \
-        ++record.plans;                                                                        \
-        if (record.refusePlan) return refused;                                                 \
+#define KFM_REPLACE(precision, Spec)                                                            \
+    extern "C" KfmStatus kfmgDCT4GetSize_##precision(int len, int* size) {                      \
+        ++record.sizes;                                                                         \
+        if (record.refuseSize) return refused;                                                  \
+        return ofLibrary<KfmStatus(int, int*)>("kfmgDCT4GetSize_" #precision)(len, size);       \
+    }                                                                                           \
+    extern "C" KfmStatus kfmgDCT4Init_##precision(Spec** spec, int len, Kfm8u* block) {         \
+        ++record.plans;                                                                         \
+        if (record.refusePlan) return refused;                                                  \
         return ofLibrary<KfmStatus(Spec**, int, Kfm8u*)>("kfmgDCT4Init_" #precision)(spec, len, \
-                                                                                    block);    \
+                                                                                     block);    \
     }
 KFM_REPLACE(32f, KfmDCT4Spec_32f)
 KFM_REPLACE(64f, KfmDCT4Spec_64f)
@@ -92,8 +92,7 @@ void checkLife(const Calls<Real, Spec>& calls, int length) {
                record.lastSize == size,
            "size, memory and plan are asked here, once", length);
     std::vector<Real> signal(static_cast<std::size_t>(length), 1);
-    expect(calls.transform(signal.data(), signal.data(), spec) == kfmOk &&
-               record.calls(1, 1, 1, 0),
+    expect(calls.transform(signal.data(), signal.data(), spec) == kfmOk && record.calls(1, 1, 1, 0),
            "a transform asks for nothing", length);
     expect(calls.free(spec) == kfmOk && record.calls(1, 1, 1, 1) &&
                record.released == record.allocated,

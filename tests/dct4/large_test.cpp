@@ -24,9 +24,8 @@ bool beginsPlan(int length) {
     GuardedBuffer block(page);
     typename Dct4<Real>::Spec* spec = nullptr;
     KfmStatus status = kfmOk;
-    const bool returned = survives([&] {
-        status = Dct4<Real>::init(&spec, length, reinterpret_cast<Kfm8u*>(block.data()));
-    });
+    const bool returned = survives(
+        [&] { status = Dct4<Real>::init(&spec, length, reinterpret_cast<Kfm8u*>(block.data())); });
     EXPECT_TRUE(!returned || status == kfmErrSize) << length;
     return !returned;
 }
@@ -76,7 +75,7 @@ void expectTransform(int length) {
         for (const std::int64_t n : impulses) expected += height * kernel(n, k, length);
         worst = std::max(worst, std::abs(result[static_cast<std::size_t>(k)] - expected));
     };
-    for (std::int64_t k = 0; k < length; k += length > 100000 ? 61 : 1) check(k);
+    for (std::int64_t k = 0; k<length; k += length> 100000 ? 61 : 1) check(k);
     for (const std::int64_t k : waves) check(k);
     const double units = std::ldexp(worst / (length / 2.0), sizeof(Real) == 4 ? 24 : 53);
     EXPECT_LE(units, 10);

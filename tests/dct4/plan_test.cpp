@@ -21,8 +21,7 @@ TYPED_TEST(Plan, AcceptsPowersOfTwoAndFromThirtyThreeOneMore) {
     const auto expected = acceptedLengths(70000);
     const auto check = [&](int length, bool accepted) {
         int size = -1;
-        EXPECT_EQ(Dct4<TypeParam>::getSize(length, &size), accepted ? kfmOk : kfmErrSize)
-            << length;
+        EXPECT_EQ(Dct4<TypeParam>::getSize(length, &size), accepted ? kfmOk : kfmErrSize) << length;
         EXPECT_EQ(size == -1, !accepted) << length;
     };
     for (int length = -70; length < 70000; ++length)
@@ -37,6 +36,7 @@ TYPED_TEST(Plan, AcceptsPowersOfTwoAndFromThirtyThreeOneMore) {
 }
 
 TYPED_TEST(Plan, Sizes) {
+    // clang-format off
     const std::map<int, std::pair<int, int>> expected = {
         {2, {224, 224}},           {16, {224, 224}},
         {32, {224, 224}},          {33, {1408, 1664}},
@@ -46,6 +46,7 @@ TYPED_TEST(Plan, Sizes) {
         {4096, {37152, 70432}},    {4097, {51552, 101216}},
         {8192, {72480, 139040}},   {65536, {567072, 1099552}},
         {1 << 20, {9050592, 17574368}}, {1 << 26, {579087520, 1124617376}}};
+    // clang-format on
     for (const auto& [length, sizes] : expected)
         EXPECT_EQ(sizeOf<TypeParam>(length), sizeof(TypeParam) == 4 ? sizes.first : sizes.second)
             << length;
@@ -109,8 +110,9 @@ TYPED_TEST(Plan, StagesHoldTheirParameters) {
         expectNumbers(env2, 24, {0, 1, d, len, 2 * d, rows, len, 2 * len - 1, m});
         EXPECT_EQ(env2->compose.get(), compose);
         expectNumbers(env3, 24, {0, 1, m, len, 2 * len - 1, 2 * d, d, len, d});
-        expectNumbers(env4, 24, {Env4<Real>::chooseRule(d), d, len, 2 * d, 8 * d, blocks, len,
-                                 2 * len - 1, m});
+        expectNumbers(env4, 24,
+                      {Env4<Real>::chooseRule(d), d, len, 2 * d, 8 * d, blocks, len, 2 * len - 1,
+                       m});
         EXPECT_EQ(env4->split.get(), split);
         expectNumbers(env5, 24, {0, subLengthRule(m), m, len, 2 * len - 1, 2 * d, d / 4, len, d});
         expectNumbers(compose, 16, {2 * d, 8 * len, rows, d, 2 * d});
@@ -123,9 +125,7 @@ TYPED_TEST(Plan, StagesHoldTheirParameters) {
 // A plan made by the planner itself, in an arena with room to spare.
 class Arena {
 public:
-    explicit Arena(int bytes) : bytes_(static_cast<std::size_t>(bytes)) {
-        initArena(block());
-    }
+    explicit Arena(int bytes) : bytes_(static_cast<std::size_t>(bytes)) { initArena(block()); }
     void* block() { return bytes_.data(); }
     int top() {
         const auto* top = static_cast<char*>(kfmgArenaMalloc(block(), 0));
@@ -182,12 +182,15 @@ TYPED_TEST(Plan, FailsAtEachStep) {
         refused(std::type_identity<Env3<Real>>{}, Env3<Real>::mem(length, d),
                 [&, n = length, d = d](auto& env) { env.init(block, n, d); });
     for (int a : {6, 12, 24, 96})
-        refused(std::type_identity<Env7<Real>>{}, Env7<Real>::mem(a, 8 * a, true),
-                [&](auto& env) { env.init(block, {a, 16, 8 * a, true}); });
-    refused(std::type_identity<Env8<Real>>{}, Env8<Real>::mem(192, 64),
-            [&](auto& env) { env.init(block, {192, 16, 1536, true}, 64, nullptr); });
-    refused(std::type_identity<Env9<Real>>{}, Env9<Real>::mem(12, 192),
-            [&](auto& env) { env.init(block, {24, 16, 192, true}, 2); });
+        refused(std::type_identity<Env7<Real>>{}, Env7<Real>::mem(a, 8 * a, true), [&](auto& env) {
+            env.init(block, {a, 16, 8 * a, true});
+        });
+    refused(std::type_identity<Env8<Real>>{}, Env8<Real>::mem(192, 64), [&](auto& env) {
+        env.init(block, {192, 16, 1536, true}, 64, nullptr);
+    });
+    refused(std::type_identity<Env9<Real>>{}, Env9<Real>::mem(12, 192), [&](auto& env) {
+        env.init(block, {24, 16, 192, true}, 2);
+    });
 }
 
 }   // namespace

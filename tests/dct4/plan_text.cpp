@@ -110,8 +110,8 @@ void Printer::env1(const void* object) {
     const auto& env1 = environment<Env1<Real>>(object, "env1");
     if (env1.rule != generalRule) {
         EXPECT_EQ(env1.work.get(), nullptr);
-        for (const EnvList* list : {env1.children.get(), env1.outputStage.get(),
-                                    env1.inputStage.get()})
+        for (const EnvList* list :
+             {env1.children.get(), env1.outputStage.get(), env1.inputStage.get()})
             EXPECT_EQ(EnvList_get(list, 0), nullptr);
         text += "]";
         return;
@@ -121,8 +121,7 @@ void Printer::env1(const void* object) {
     text += "](";
     open<EnvFCompose<Real>>(EnvList_get(env1.children, 0), "envfCompose");
     env2<Real>(child(env1.children, 1, env1.outputStage));
-    const auto& env3 =
-        environment<Env3<Real>>(child(env1.children, 2, env1.inputStage), "env3");
+    const auto& env3 = environment<Env3<Real>>(child(env1.children, 2, env1.inputStage), "env3");
     text += "](";
     env5<Real>(child(env3.children, 0, env3.stage));
     text += "))";

@@ -16,11 +16,11 @@ namespace kfm::tests {
 template <class Real>
 struct Dct4;
 
-#define KFM_DCT4_TEST_CALLS(precision, Real)                    \
-    template <>                                                 \
-    struct Dct4<Real> {                                         \
-        using Spec = KfmDCT4Spec_##precision;                   \
-        static constexpr const char* suffix = #precision;       \
+#define KFM_DCT4_TEST_CALLS(precision, Real)                             \
+    template <>                                                          \
+    struct Dct4<Real> {                                                  \
+        using Spec = KfmDCT4Spec_##precision;                            \
+        static constexpr const char* suffix = #precision;                \
         static constexpr auto getSize = kfmgDCT4GetSize_##precision;     \
         static constexpr auto init = kfmgDCT4Init_##precision;           \
         static constexpr auto initAlloc = kfmgDCT4InitAlloc_##precision; \

@@ -19,11 +19,14 @@ TYPED_TEST(Dct4Transform, IsTheDefinition) {
         if (length > 4097 && length % 2 != 0) continue;
         SCOPED_TRACE(length);
         const Specification<TypeParam> specification(length);
-        expectDefinition<TypeParam>(
-            length, length <= 32 ? 200 : length <= 4097 ? 8 : 2,
-            [&](const TypeParam* src, TypeParam* dst) {
-                Dct4<TypeParam>::transform(src, dst, specification.handle());
-            });
+        expectDefinition<TypeParam>(length,
+                                    length <= 32     ? 200
+                                    : length <= 4097 ? 8
+                                                     : 2,
+                                    [&](const TypeParam* src, TypeParam* dst) {
+                                        Dct4<TypeParam>::transform(src, dst,
+                                                                   specification.handle());
+                                    });
     }
 }
 

@@ -16,8 +16,8 @@ int main() {
         const auto generic = reinterpret_cast<Generic>(function.address);
         const registry::Family& family = *registry::findFamily(function.family);
         for (int length = family.first; length <= family.last; ++length) {
-            const std::string expected = registry::functionName(
-                family, length, *registry::findElement(function.element));
+            const std::string expected =
+                registry::functionName(family, length, *registry::findElement(function.element));
             tests::lastReplacement = "the library's own";
             const int status = generic(nullptr, nullptr, length, 8, nullptr);
             if (status == tests::replaced && tests::lastReplacement == expected) continue;

@@ -16,10 +16,12 @@ namespace {
 using Wide = Constant::Wide;
 
 std::vector<Plan> plansOfEveryKind() {
+    // clang-format off
     return {2, 3, 4, 5, 7, 8, 11, 13, 16, 32, 64, factored5(), pfa(2, 3), pfa(3, 4), pfa(4, 3),
             pfa(8, 5), pfa(pfa(2, 3), 7), ct(3, 3), ct(5, 5), ct(8, 3), ct(8, 5), ct(ct(3, 3), 3),
             rader(2), rader(4), rader(pfa(2, 3)), rader(pfa(4, 3)), rader(16), rader(pfa(2, 9 + 2)),
             rader(ct(8, 5)), rader(pfa(2, rader(pfa(2, 11))))};
+    // clang-format on
 }
 
 // A fixed sequence without structure.

@@ -127,8 +127,7 @@ TEST(CompiledKernels, GiveTheBitsOfTheirGraphs) {
         if (!mine || function.length == 0) continue;
         if (std::string_view(function.element) == "32fc")
             expectBitsOfTheGraph<float>(function, family->inverse());
-        else
-            expectBitsOfTheGraph<double>(function, family->inverse());
+        else expectBitsOfTheGraph<double>(function, family->inverse());
     }
 }
 

@@ -28,8 +28,10 @@ class Dct4Networks : public testing::TestWithParam<Cost> {};
 TEST_P(Dct4Networks, CostNoMoreThanTheAlgorithmNeeds) {
     const Cost& cost = GetParam();
     for (const char* suffix : {"32f", "64f"}) {
-        const OperationCounts counts = countOperations(kernelFamily(cost.function).graph(
-            cost.size, *registry::findElement(suffix), *findTarget("sse2-x86-64"), false));
+        const OperationCounts counts =
+            countOperations(kernelFamily(cost.function)
+                                .graph(cost.size, *registry::findElement(suffix),
+                                       *findTarget("sse2-x86-64"), false));
         EXPECT_LE(counts.multiplications, cost.multiplications) << suffix;
         EXPECT_LE(counts.additions, cost.additions) << suffix;
         EXPECT_EQ(counts.signChanges, 0) << suffix;
@@ -62,8 +64,8 @@ bool dependsOnSlot(const Graph& g, int node, int slot) {
 TEST(Dct4TwiddleStages, Of32MayLeaveResultsInThePlaceOfProducts) {
     for (const char* function : {"twiddleStage", "twiddleStageRoot"})
         for (const char* suffix : {"32f", "64f"}) {
-            const Graph graph = kernelFamily(function).graph(
-                32, *registry::findElement(suffix), *findTarget("sse2-x86-64"), false);
+            const Graph graph = kernelFamily(function).graph(32, *registry::findElement(suffix),
+                                                             *findTarget("sse2-x86-64"), false);
             for (const Output& output : graph.outputs())
                 EXPECT_TRUE(dependsOnSlot(graph, output.node, output.elements[0]))
                     << function << ' ' << output.elements[0];

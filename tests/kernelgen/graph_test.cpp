@@ -89,8 +89,8 @@ TEST(Transpose, ReversesEveryEdge) {
 TEST(Transpose, ZeroValuesPruneTheNetwork) {
     Graph network(1), target(1);
     const std::vector<Ref> inputs = {network.load(0), network.load(1)};
-    const std::vector<WeightedOutput> outputs = {
-        {network.add(inputs[0], inputs[1]), Ref()}, {network.mul(3, inputs[1]), target.load(0)}};
+    const std::vector<WeightedOutput> outputs = {{network.add(inputs[0], inputs[1]), Ref()},
+                                                 {network.mul(3, inputs[1]), target.load(0)}};
     const std::vector<Ref> result = transposed(network, inputs, outputs, target);
     EXPECT_TRUE(result[0].isZero());
     EXPECT_EQ(result[1], target.mul(3, target.load(0)));

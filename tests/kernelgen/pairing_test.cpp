@@ -34,9 +34,7 @@ Graph graphOf(const Case& c) {
     return kernelFamily(c.source).graph(c.length, elementOf(c), *findTarget("avx2-x86-64"), false);
 }
 
-std::unique_ptr<Ports> portsOf(const Case& c) {
-    return kernelFamily(c.source).ports(elementOf(c));
-}
+std::unique_ptr<Ports> portsOf(const Case& c) { return kernelFamily(c.source).ports(elementOf(c)); }
 
 class Pairings : public testing::TestWithParam<Case> {
 protected:
@@ -135,16 +133,14 @@ TEST_P(Pairings, GiveTheSameBitsOnceAndTwice) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, Pairings,
-                         testing::Values(Case{"DFT_CToC", "64fc", 12}, Case{"DFT_CToC", "64fc", 17},
-                                         Case{"DFT_CToC", "32fc", 12}, Case{"DFT_CToC", "32fc", 17},
-                                         Case{"DFTFwd_RToPacked", "64f", 15},
-                                         Case{"DFTFwd_RToPacked", "32f", 16},
-                                         Case{"DFTInv_PackedToR", "32f", 5},   // in both precisions
-                                         Case{"DFTInv_PackedToR", "32f", 15},
-                                         Case{"Hartley", "64f", 16},
-                                         Case{"fixedTransform", "64f", 16},
-                                         Case{"fixedTransform", "32f", 32}));
+INSTANTIATE_TEST_SUITE_P(
+    , Pairings,
+    testing::Values(Case{"DFT_CToC", "64fc", 12}, Case{"DFT_CToC", "64fc", 17},
+                    Case{"DFT_CToC", "32fc", 12}, Case{"DFT_CToC", "32fc", 17},
+                    Case{"DFTFwd_RToPacked", "64f", 15}, Case{"DFTFwd_RToPacked", "32f", 16},
+                    Case{"DFTInv_PackedToR", "32f", 5},   // in both precisions
+                    Case{"DFTInv_PackedToR", "32f", 15}, Case{"Hartley", "64f", 16},
+                    Case{"fixedTransform", "64f", 16}, Case{"fixedTransform", "32f", 32}));
 
 // By whatever compiler the generator was built. What the search is told to weigh may change them.
 TEST(PairedOperations, AreAsMany) {
@@ -179,8 +175,8 @@ TEST(PairingChoice, ReadsBackAsItPrints) {
         EXPECT_EQ(PairingChoice::parse(choice.text()).text(), choice.text());
     EXPECT_THROW(PairingChoice::parse("1:1"), std::invalid_argument);
     EXPECT_THROW(PairingChoice::parse("1:1:60:afar"), std::invalid_argument);
-    for (const char* text : {"24:0:1:sums:0/-12:2:60", "6:0:0:all:0/0:1:60:apart",
-                             "6:0:0:all:0/1:1:60/2:1:60"})
+    for (const char* text :
+         {"24:0:1:sums:0/-12:2:60", "6:0:0:all:0/0:1:60:apart", "6:0:0:all:0/1:1:60/2:1:60"})
         EXPECT_EQ(ScheduleChoice::parse(text).text(), text);
 }
 

@@ -72,8 +72,8 @@ INSTANTIATE_TEST_SUITE_P(All, RealGraph, testing::Combine(testing::Range(2, 65),
 // Trigonometric products of one Hartley kernel may not exceed these numbers.
 TEST(HartleyProducts, StayWithinTheirBounds) {
     constexpr std::pair<int, int> bounds[] = {
-        {3, 2},    {4, 0},    {5, 8},    {7, 18},   {8, 2},    {9, 20},   {11, 50},  {13, 44},
-        {16, 12},  {17, 54},  {19, 108}, {23, 242}, {29, 210}, {31, 194}, {32, 42},  {37, 236},
+        {3, 2},    {4, 0},    {5, 8},     {7, 18},   {8, 2},    {9, 20},   {11, 50}, {13, 44},
+        {16, 12},  {17, 54},  {19, 108},  {23, 242}, {29, 210}, {31, 194}, {32, 42}, {37, 236},
         {41, 242}, {43, 352}, {47, 1058}, {53, 450}, {59, 954}, {61, 415}, {64, 134}};
     for (const auto& [n, bound] : bounds)
         for (const bool single : {false, true})
@@ -103,8 +103,7 @@ TEST(CompiledRealKernels, GiveTheBitsOfTheirGraphs) {
                 continue;
             if (std::string_view(function.element) == "32f")
                 expectBitsOfTheGraph<float>(function, graph(function.length, true));
-            else
-                expectBitsOfTheGraph<double>(function, graph(function.length, false));
+            else expectBitsOfTheGraph<double>(function, graph(function.length, false));
         }
 }
 

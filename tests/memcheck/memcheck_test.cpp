@@ -105,8 +105,8 @@ void expectCleanEverywhere(const Transform& fixed, Call call) {
 std::size_t bufferBytes(const Transform& fixed) {
     int bytes = 0;
     if (fixed.walshHadamard())
-        (fixed.element->doublePrecision ? kfmgWHTGetBufferSize_64f : kfmgWHTGetBufferSize_32f)(
-            fixed.function->length, &bytes);
+        (fixed.element->doublePrecision ? kfmgWHTGetBufferSize_64f
+                                        : kfmgWHTGetBufferSize_32f)(fixed.function->length, &bytes);
     return static_cast<std::size_t>(bytes);
 }
 
@@ -134,11 +134,10 @@ class GenericFunction : public testing::TestWithParam<Transform> {};
 TEST_P(GenericFunction, StaysWithinItsArrays) {
     const Transform& generic = GetParam();
     for (int length = generic.family->first; length <= generic.family->last; ++length)
-        expectCleanEverywhere(
-            *findTransform(generic.family->name, length, generic.element->suffix),
-            [&](const std::byte* source, std::byte* destination) {
-                return call(generic, source, destination, length, kfmScaleNone);
-            });
+        expectCleanEverywhere(*findTransform(generic.family->name, length, generic.element->suffix),
+                              [&](const std::byte* source, std::byte* destination) {
+                                  return call(generic, source, destination, length, kfmScaleNone);
+                              });
 }
 
 KFM_FOR_EVERY_GENERIC_TRANSFORM(GenericFunction);

@@ -21,8 +21,8 @@ public:
     std::size_t size() const { return size_; }
     bool holds(const void* address) const;   // the block or the rest of its pages
     void makeWritable(bool writable);
-    bool untouched() const;         // every byte of the block is still the canary
-    bool canariesIntact() const;    // every byte around the block is still the canary
+    bool untouched() const;        // every byte of the block is still the canary
+    bool canariesIntact() const;   // every byte around the block is still the canary
 
 private:
     std::byte* pages_;

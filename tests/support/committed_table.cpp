@@ -11,8 +11,7 @@
 namespace kfm::tests {
 
 CommittedTable::CommittedTable(const std::string& file, std::string heading)
-    : path_(KFM_TEST_DATA "/" + file),
-      heading_(std::move(heading)),
+    : path_(KFM_TEST_DATA "/" + file), heading_(std::move(heading)),
       updating_(std::getenv("KFM_UPDATE_TABLES") != nullptr) {
     std::ifstream in(path_);
     for (std::string line; std::getline(in, line);) {

@@ -136,8 +136,8 @@ void expectDefinition(std::size_t n, int rounds, auto&& transform) {
                 GuardedBuffer& dst = inPlace ? src : other;
                 std::memcpy(src.data(), x.data(), bytes);
                 auto* y = reinterpret_cast<Real*>(dst.data());
-                ASSERT_TRUE(survives(
-                    [&] { transform(reinterpret_cast<const Real*>(src.data()), y); }));
+                ASSERT_TRUE(
+                    survives([&] { transform(reinterpret_cast<const Real*>(src.data()), y); }));
                 ASSERT_TRUE(src.canariesIntact() && other.canariesIntact());
                 if (first.empty()) first.assign(y, y + n);
                 ASSERT_EQ(std::memcmp(y, first.data(), bytes), 0) << "bits depend on addresses";

@@ -79,11 +79,9 @@ public:
 
     void runInput(const Real* src) {
         if (levels_.empty())
-            withSize<2, 64>(len_ / d_, [&]<int m>() {
-                dct4::inputStage<Real, m>(src, work_.data(), d_);
-            });
-        else
-            split(0, src, src + (len_ - 1), 2 * d_, work_.data());
+            withSize<2, 64>(len_ / d_,
+                            [&]<int m>() { dct4::inputStage<Real, m>(src, work_.data(), d_); });
+        else split(0, src, src + (len_ - 1), 2 * d_, work_.data());
     }
 
     void runOutput(Real* dst) {
@@ -116,9 +114,9 @@ private:
                 });
         }
         withSize<2, 32>(level.divisor, [&]<int divisor>() {
-            (depth == 0 ? dct4::twiddleStageRoot<Real, divisor>
-                        : dct4::twiddleStage<Real, divisor>)(rows, level.table.data(),
-                                                             level.blockRows);
+            (depth == 0
+                 ? dct4::twiddleStageRoot<Real, divisor>
+                 : dct4::twiddleStage<Real, divisor>)(rows, level.table.data(), level.blockRows);
         });
     }
 

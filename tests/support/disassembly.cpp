@@ -25,16 +25,14 @@ Instruction parse(std::string_view line) {
 std::map<std::string, Code> read(const std::string& library) {
     std::map<std::string, Code> functions;
     Code* current = nullptr;
-    forEachLine(KFM_OBJDUMP " -d --no-show-raw-insn '" + library + "'",
-                [&](std::string_view line) {
-                    if (line.ends_with(">:")) {
-                        const std::size_t open = line.find('<');
-                        current = &functions[std::string(
-                            line.substr(open + 1, line.size() - open - 3))];
-                    } else if (current && line.starts_with(' ')) {
-                        current->push_back(parse(line));
-                    }
-                });
+    forEachLine(KFM_OBJDUMP " -d --no-show-raw-insn '" + library + "'", [&](std::string_view line) {
+        if (line.ends_with(">:")) {
+            const std::size_t open = line.find('<');
+            current = &functions[std::string(line.substr(open + 1, line.size() - open - 3))];
+        } else if (current && line.starts_with(' ')) {
+            current->push_back(parse(line));
+        }
+    });
     return functions;
 }
 

@@ -18,9 +18,7 @@ struct Instruction {
     bool isCall() const { return mnemonic.starts_with("call"); }
     // At an address made from registers, which AT&T syntax writes in parentheses.
     bool accessesMemory() const { return operands.find('(') != std::string::npos; }
-    bool uses(const char* registers) const {
-        return operands.find(registers) != std::string::npos;
-    }
+    bool uses(const char* registers) const { return operands.find(registers) != std::string::npos; }
     // Without the prefix of the encoding that newer processors know.
     std::string_view stem() const {
         const bool isNew = mnemonic.starts_with('v');

@@ -129,14 +129,14 @@ Bins bins9(const Reals<Real>& x) {
 template <class Real>
 Bins forwardBins(const Reals<Real>& x) {
     switch (x.size()) {
-        case 2: return {{{x[0] + x[1]}}, {{x[0] - x[1]}}};
-        case 4: return bins4(x);
-        case 8: return bins8(x);
-        case 9: return bins9(x);
-        case 6:
-        case 10:
-        case 14:
-        case 22: return twicePrimeBins(x);
+    case 2: return {{{x[0] + x[1]}}, {{x[0] - x[1]}}};
+    case 4: return bins4(x);
+    case 8: return bins8(x);
+    case 9: return bins9(x);
+    case 6:
+    case 10:
+    case 14:
+    case 22: return twicePrimeBins(x);
     }
     return primeBins(x);
 }
@@ -183,8 +183,7 @@ Values inverse8(const Reals<Real>& X) {
     const Real u0 = a + r2, u1 = b - i2, u2 = a - r2, u3 = b + i2;
     const Real p = r1 - r3, q = i1 + i3, v0 = r1 + r3, v2 = i3 - i1;
     const Real v1 = (p - q) * sqrtHalf, v3 = (p + q) * sqrtHalf;
-    return {{u0 + v0}, {u1 + v1}, {u2 + v2}, {u3 - v3},
-            {u0 - v0}, {u1 - v1}, {u2 - v2}, {u3 + v3}};
+    return {{u0 + v0}, {u1 + v1}, {u2 + v2}, {u3 - v3}, {u0 - v0}, {u1 - v1}, {u2 - v2}, {u3 + v3}};
 }
 
 template <class Real>
@@ -201,14 +200,10 @@ Values hartley8(const Reals<Real>& x) {
     const Real p = sqrtHalf * (x[1] - x[5]), q = sqrtHalf * (x[3] - x[7]);
     const Real e0 = x[0] + x[4], e1 = x[0] - x[4], f0 = x[2] + x[6], f1 = x[2] - x[6];
     const Real g = x[1] + x[5], h = x[3] + x[7];
-    return {{e0 + f0 + g + h},
-            {(e1 + p - q) + (f1 + p + q)},
-            {e0 - f0 + g - h},
-            {(e1 - p + q) - (f1 - p - q)},
-            {e0 + f0 - g - h},
-            {(e1 - p + q) + (f1 - p - q)},
-            {e0 - f0 - g + h},
-            {(e1 + p - q) - (f1 + p + q)}};
+    return {{e0 + f0 + g + h}, {(e1 + p - q) + (f1 + p + q)},
+            {e0 - f0 + g - h}, {(e1 - p + q) - (f1 - p - q)},
+            {e0 + f0 - g - h}, {(e1 - p + q) + (f1 - p - q)},
+            {e0 - f0 - g + h}, {(e1 + p - q) - (f1 + p + q)}};
 }
 
 template <class Real>

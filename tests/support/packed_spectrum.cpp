@@ -11,10 +11,10 @@ namespace kfm::tests {
 
 Contents contentsOf(std::string_view family) {
     static const std::map<std::string_view, Content> words = {{"C", Content::complexSignal},
-                                                            {"R", Content::realSignal},
-                                                            {"CCS", Content::ccs},
-                                                            {"Pack", Content::pack},
-                                                            {"Perm", Content::perm}};
+                                                              {"R", Content::realSignal},
+                                                              {"CCS", Content::ccs},
+                                                              {"Pack", Content::pack},
+                                                              {"Perm", Content::perm}};
     if (family == "Hartley" || family == "WHT") return {Content::realSignal, Content::realSignal};
     const std::size_t from = family.find('_') + 1, to = family.find("To", from);
     if (from == 0 || to == family.npos)

@@ -24,9 +24,8 @@ inline std::ostream& operator<<(std::ostream& out, const Spacing& spacing) {
 
 // Without two elements in one place.
 inline std::vector<Spacing> spacings(Offset count, Offset rows) {
-    return {{1, count},     {1, count + 3}, {1, -count},   {-1, count}, {rows, 1},
-            {rows + 2, 1},  {rows, -1},     {-rows, 1},    {2, 2 * count + 1},
-            {-3, -3 * count}};
+    return {{1, count},    {1, count + 3}, {1, -count}, {-1, count},        {rows, 1},
+            {rows + 2, 1}, {rows, -1},     {-rows, 1},  {2, 2 * count + 1}, {-3, -3 * count}};
 }
 inline constexpr int spacingCount = 10;
 

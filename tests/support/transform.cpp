@@ -74,10 +74,10 @@ KfmStatus callAddress(const Transform& transform, void* buffer, const void* sour
                       void* destination, Numbers... numbers) {
     void (*const address)() = transform.function->address;
     if (!transform.family->byOrder)
-        return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers...)>(address)(
-            source, destination, numbers...);
-    return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers..., void*)>(address)(
-        source, destination, numbers..., buffer);
+        return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers...)>(
+            address)(source, destination, numbers...);
+    return reinterpret_cast<KfmStatus (*)(const void*, void*, Numbers..., void*)>(
+        address)(source, destination, numbers..., buffer);
 }
 
 }   // namespace
@@ -94,9 +94,10 @@ KfmStatus call(const Transform& fixed, const void* source, void* destination, in
 KfmStatus call(const Transform& generic, const void* source, void* destination, int length,
                int flag, void* buffer) {
     KfmStatus status = crashed;
-    EXPECT_TRUE(survives(
-        [&] { status = callAddress(generic, buffer, source, destination, length, flag); }))
-        << generic << " crashed: length " << length << ", flag " << flag;
+    EXPECT_TRUE(survives([&] {
+        status = callAddress(generic, buffer, source, destination, length, flag);
+    })) << generic
+        << " crashed: length " << length << ", flag " << flag;
     return status;
 }
 

@@ -71,9 +71,9 @@ std::string caseName(const testing::TestParamInfo<Transform>& info);
 
 }   // namespace kfm::tests
 
-#define KFM_FOR_EVERY_FIXED_TRANSFORM(Suite)                                                   \
-    INSTANTIATE_TEST_SUITE_P(, Suite, testing::ValuesIn(::kfm::tests::fixedTransforms()),      \
+#define KFM_FOR_EVERY_FIXED_TRANSFORM(Suite)                                              \
+    INSTANTIATE_TEST_SUITE_P(, Suite, testing::ValuesIn(::kfm::tests::fixedTransforms()), \
                              ::kfm::tests::caseName)
-#define KFM_FOR_EVERY_GENERIC_TRANSFORM(Suite)                                                 \
-    INSTANTIATE_TEST_SUITE_P(, Suite, testing::ValuesIn(::kfm::tests::genericTransforms()),    \
+#define KFM_FOR_EVERY_GENERIC_TRANSFORM(Suite)                                              \
+    INSTANTIATE_TEST_SUITE_P(, Suite, testing::ValuesIn(::kfm::tests::genericTransforms()), \
                              ::kfm::tests::caseName)

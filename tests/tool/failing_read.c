@@ -6,13 +6,13 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-ssize_t read(int file, void *bytes, size_t size) {
-    static ssize_t (*next)(int, void *, size_t);
+ssize_t read(int file, void* bytes, size_t size) {
+    static ssize_t (*next)(int, void*, size_t);
     static long left = -1;
     ssize_t count;
     if (next == NULL) {
-        const char *limit = getenv("KFM_READ_LIMIT");
-        *(void **)&next = dlsym(RTLD_NEXT, "read");
+        const char* limit = getenv("KFM_READ_LIMIT");
+        *(void**)&next = dlsym(RTLD_NEXT, "read");
         left = limit ? atol(limit) : 0;
     }
     if (left == 0) {

@@ -87,10 +87,10 @@ TEST_F(Output, DevicesAndPipesAreWrittenAsTheyStand) {
 TEST_F(Output, WhatCannotBeWrittenHasAStatusOfItsOwn) {
     const std::string samples = ones(100000);
     const std::string transform = "transform --length 2 ";
-    for (const std::string& command : {std::string("list"), std::string("list --names"),
-                                       std::string("info"), std::string("--help"),
-                                       std::string("transform --help"), std::string("--version"),
-                                       transform}) {
+    for (const std::string& command :
+         {std::string("list"), std::string("list --names"), std::string("info"),
+          std::string("--help"), std::string("transform --help"), std::string("--version"),
+          transform}) {
         SCOPED_TRACE(command);
         expectRefusal(run(command + " >/dev/full", samples), outputStatus,
                       "kfmgen: standard output: cannot be written: no space is left\n");

@@ -96,7 +96,10 @@ TEST_F(Refusal, Text) {
          "2:1: '" + std::string(20, 'x') + "..." + std::string(20, 'x') + "' is not a number\n"},
         {"1\n\x1B[2J\n", "2:1: '\\x1b[2J' is not a number\n"},
         {std::string("1\0\n", 3), " neither a text nor a sound of a kind that is known\n"},
-        {std::string("\xFF\xFE" "1\0\n\0", 6), " a text in UTF-16; save it as UTF-8\n"},
+        {std::string("\xFF\xFE"
+                     "1\0\n\0",
+                     6),
+         " a text in UTF-16; save it as UTF-8\n"},
     };
     for (const auto& [text, line] : cases) {
         SCOPED_TRACE(line);
@@ -120,17 +123,21 @@ TEST_F(Refusal, FramesOfAnotherLength) {
     const struct {
         std::string options, text, line;
     } cases[] = {
-        {"--length 8", four, "6:3: row 0 of frame 1 comes where row 4 of frame 0 has to be, with 8 "
-                             "rows in each frame\n"},
-        {"--length 2", four, "4:3: row 2 of frame 0 comes where row 0 of frame 1 has to be, with 2 "
-                             "rows in each frame\n"},
-        {"--length 4", gap, "4:3: row 3 of frame 0 comes where row 2 of frame 0 has to be, with 4 "
-                            "rows in each frame\n"},
+        {"--length 8", four,
+         "6:3: row 0 of frame 1 comes where row 4 of frame 0 has to be, with 8 "
+         "rows in each frame\n"},
+        {"--length 2", four,
+         "4:3: row 2 of frame 0 comes where row 0 of frame 1 has to be, with 2 "
+         "rows in each frame\n"},
+        {"--length 4", gap,
+         "4:3: row 3 of frame 0 comes where row 2 of frame 0 has to be, with 4 "
+         "rows in each frame\n"},
         {"--length 4", shorter.substr(0, shorter.rfind('\n') + 1),
          "8: the file ends where row 3 of frame 1 has to be, with 4 rows in each frame\n"},
         {"--length 2", bins, "1: DFTInv_CToC does not take bins of half a spectrum\n"},
-        {"--length 6 --layout ccs", bins, "5:3: row 0 of frame 1 comes where row 3 of frame 0 has "
-                                          "to be, with 4 rows in each frame\n"},
+        {"--length 6 --layout ccs", bins,
+         "5:3: row 0 of frame 1 comes where row 3 of frame 0 has "
+         "to be, with 4 rows in each frame\n"},
         {"--length 6 --layout ccs", four,
          "1: DFTInv_CCSToR takes bins of half a spectrum, not rows named index\n"},
     };

@@ -49,9 +49,7 @@ TEST_F(Sound, ChannelsOfStereo) {
     } cases[] = {{"--channel 1 ", 1, 0}, {"--channel 2 ", 0, 1}, {"--channel mix ", 0.5, 0.5}};
     for (const auto& [option, left, right] : cases) {
         textFile("text", text(samples, left, right));
-        EXPECT_TRUE(run(transform + option + file).out ==
-                    run(transform + "text").out)
-            << option;
+        EXPECT_TRUE(run(transform + option + file).out == run(transform + "text").out) << option;
     }
     std::string pairs = "re,im\n";
     for (std::size_t i = 0; i < samples.size(); i += 2)
@@ -152,8 +150,10 @@ TEST_F(Sound, WithoutAHeaderByOptionOnly) {
     };
     expectSame("s8", SF_FORMAT_PCM_S8);
     expectSame("u8", SF_FORMAT_PCM_U8);
-    const std::map<std::string, int> widths = {{"s16", SF_FORMAT_PCM_16}, {"s24", SF_FORMAT_PCM_24},
-                                               {"s32", SF_FORMAT_PCM_32}, {"f32", SF_FORMAT_FLOAT},
+    const std::map<std::string, int> widths = {{"s16", SF_FORMAT_PCM_16},
+                                               {"s24", SF_FORMAT_PCM_24},
+                                               {"s32", SF_FORMAT_PCM_32},
+                                               {"f32", SF_FORMAT_FLOAT},
                                                {"f64", SF_FORMAT_DOUBLE}};
     for (const auto& [width, encoding] : widths) {
         expectSame(width + "le", encoding | SF_ENDIAN_LITTLE);
@@ -194,10 +194,8 @@ TEST_F(Sound, DamageIsToldInOurWords) {
                                     damaged("ogg", SF_FORMAT_OGG | SF_FORMAT_VORBIS, 100)}) {
         const Outcome outcome = run("transform --length 4 -o out " + name);
         SCOPED_TRACE(name + outcome.err);
-        if (outcome.status == 0)
-            EXPECT_EQ(outcome.err, "");
-        else
-            expectRefusal(outcome, inputStatus, "kfmgen: " + name + ": ");
+        if (outcome.status == 0) EXPECT_EQ(outcome.err, "");
+        else expectRefusal(outcome, inputStatus, "kfmgen: " + name + ": ");
     }
     std::vector<double> samples(1000, 0.5);
     samples[500] = std::numeric_limits<double>::quiet_NaN();

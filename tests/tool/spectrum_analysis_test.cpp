@@ -86,8 +86,8 @@ TEST(SpectrumAnalysis, EveryToneIsFoundAtItsLevelAndNothingElse) {
 
 TEST(SpectrumAnalysis, FainterToneIsFoundBesideALouderOne) {
     for (const double rate : rates) {
-        const double apart = FrequencyGrid{rate, tool::frameLength(rate), tool::frameLength(rate)}
-                                 .separation();
+        const double apart =
+            FrequencyGrid{rate, tool::frameLength(rate), tool::frameLength(rate)}.separation();
         for (const double distance : {apart, 1.37 * apart, 2 * apart, 10 * apart, 0.3 * rate})
             for (const double lower : {-40.0, -60.0})
                 for (const double first : {40.0, 1003.0, 0.15 * rate}) {
@@ -222,10 +222,17 @@ TEST(SpectrumAnalysis, SlicesFitAScreen) {
         double rate, seconds, slice;
         std::size_t rows;
     };
-    for (const Case& each : {Case{48000, 0.001, 0.1, 1}, {48000, 1.42, 0.1, 15},
-                             {48000, 2, 0.1, 20}, {48000, 2.01, 0.2, 11}, {8000, 4.1, 0.5, 9},
-                             {8000, 9.99, 0.5, 20}, {8000, 10.01, 1, 11}, {8000, 39.9, 2, 20},
-                             {8000, 100.1, 10, 11}, {8000, 1100, 100, 11}, {1, 5000, 500, 10}}) {
+    for (const Case& each : {Case{48000, 0.001, 0.1, 1},
+                             {48000, 1.42, 0.1, 15},
+                             {48000, 2, 0.1, 20},
+                             {48000, 2.01, 0.2, 11},
+                             {8000, 4.1, 0.5, 9},
+                             {8000, 9.99, 0.5, 20},
+                             {8000, 10.01, 1, 11},
+                             {8000, 39.9, 2, 20},
+                             {8000, 100.1, 10, 11},
+                             {8000, 1100, 100, 11},
+                             {1, 5000, 500, 10}}) {
         SCOPED_TRACE(testing::Message() << each.seconds << " s");
         std::vector<double> samples(std::lround(each.rate * each.seconds));
         for (std::size_t n = 0; n < samples.size(); ++n) samples[n] = n % 2;

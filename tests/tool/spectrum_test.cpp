@@ -44,7 +44,9 @@ Page parsed(const std::string& text) {
         page.lines.push_back(line);
         const std::size_t bar = line.find('|');
         if (line.ends_with('|')) {
-            PageRow row{std::stod(line.substr(0, 8)), levelIn(line.substr(8, 10)), {},
+            PageRow row{std::stod(line.substr(0, 8)),
+                        levelIn(line.substr(8, 10)),
+                        {},
                         line.substr(bar + 1, line.size() - bar - 2)};
             std::istringstream tones(line.substr(18, bar - 18));
             for (double tone; tones >> tone;) row.tones.push_back(tone);
@@ -201,9 +203,9 @@ TEST_F(Spectrum, Refusals) {
 TEST_F(Spectrum, MemoryDoesNotGrowWithTheSound) {
     const std::map<std::string, std::size_t> rows = {{"", 13}, {" --slice 0.1", 12505}};
     for (const auto& [options, count] : rows) {
-        const Outcome outcome =
-            shell("(printf 'loud%.0s' {1..1000}; head -c 10000000 /dev/zero) |"
-                  " \"$kfmgen\" spectrum --raw u8 --raw-rate 8000" + options);
+        const Outcome outcome = shell("(printf 'loud%.0s' {1..1000}; head -c 10000000 /dev/zero) |"
+                                      " \"$kfmgen\" spectrum --raw u8 --raw-rate 8000" +
+                                      options);
         EXPECT_EQ(outcome.status, 0) << outcome.err;
         EXPECT_EQ(parsed(outcome.out).rows.size(), count);
         if (KFM_SANITIZED) continue;   // a sanitizer takes memory of its own

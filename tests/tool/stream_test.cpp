@@ -72,10 +72,11 @@ TEST_F(Pipe, SoundOfUnknownLength) {
     for (const std::string size :
          {"\\xff\\xff\\xff\\xff", "\\xff\\xff\\xff\\x7f", "\\0\\0\\0\\x80", "\\0\\xf0\\xff\\x7f"})
         for (const std::string from : {"cat open.wav |", ""}) {
-            const Outcome outcome =
-                shell("{ head -c40 whole.wav; printf '" + size + "'; tail -c+45 whole.wav; } > "
-                      "open.wav; " + from + " \"$kfmgen\" transform --length 4 " +
-                      (from.empty() ? "open.wav" : "-"));
+            const Outcome outcome = shell("{ head -c40 whole.wav; printf '" + size +
+                                          "'; tail -c+45 whole.wav; } > "
+                                          "open.wav; " +
+                                          from + " \"$kfmgen\" transform --length 4 " +
+                                          (from.empty() ? "open.wav" : "-"));
             EXPECT_EQ(outcome.err, "") << size << from;
             EXPECT_TRUE(outcome.out == expected) << size << from;
         }
@@ -85,7 +86,8 @@ TEST_F(Pipe, SoundOfUnknownLength) {
 TEST_F(Memory, IsThatOfAFrame) {
     const std::string hop = " --length 64 --hop 100000 ";
     const Outcome sound = shell("head -c 200000000 /dev/zero | \"$kfmgen\" transform"
-                                " --raw s16le --raw-channels 2 --channel 2" + hop);
+                                " --raw s16le --raw-channels 2 --channel 2" +
+                                hop);
     EXPECT_EQ(sound.status, 0) << sound.err;
     EXPECT_EQ(std::ranges::count(sound.out, '\n'), 500 * 64 + 1);
     const Outcome text = shell("yes 1 | head -n 5000000 | \"$kfmgen\" transform" + hop);

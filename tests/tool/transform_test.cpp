@@ -24,7 +24,10 @@ TEST_F(Transform, SeparatorsOfComplexSamples) {
          {"re,im\n1,2\n3,4\n", "re;im\n1;2\n3;4", "\xEF\xBB\xBFre im\n 1  2 \r\n3\t+4\r\n",
           "n,im,x,re\n9,2,9,1\nx,4,9,3\n", "frame,re,im\n7,1,2\n7,3,4\n"})
         EXPECT_EQ(run("transform --length 2", text).out, expected) << text;
-    for (const char* text : {"1,2\n3,4\n", "\xEF\xBB\xBF""1;2\n3;4", " 1  2 \r\n3\t+4\r\n"})
+    for (const char* text : {"1,2\n3,4\n",
+                             "\xEF\xBB\xBF"
+                             "1;2\n3;4",
+                             " 1  2 \r\n3\t+4\r\n"})
         EXPECT_EQ(run("transform --length 2 --complex", text).out, expected) << text;
 }
 
@@ -78,8 +81,7 @@ TEST_F(Transform, FramesEndWithTheSamples) {
                     if (expected == 0) continue;   // refused
                     const std::string options = "transform --family Hartley --length " +
                                                 std::to_string(length) + " --hop " +
-                                                std::to_string(hop) +
-                                                (pad ? "" : " --tail drop");
+                                                std::to_string(hop) + (pad ? "" : " --tail drop");
                     std::string input;
                     for (std::size_t i = 0; i < samples; ++i) input += "1\n";
                     const std::string out = run(options, input).out;
@@ -105,8 +107,8 @@ TEST_F(Transform, FlagsOfEveryFamily) {
     };
     for (const auto& [family, impulse, fwdByN, invByN] : cases)
         for (const std::string precision : {"single", "double"}) {
-            const std::string arguments =
-                "transform --length 4 --family " + family + " --precision " + precision + " --flag ";
+            const std::string arguments = "transform --length 4 --family " + family +
+                                          " --precision " + precision + " --flag ";
             const auto first = [&, input = impulse](const std::string& flag) {
                 const std::string out = run(arguments + flag, input).out;
                 const std::size_t begin = out.find("\n0,0,") + 5;

@@ -38,23 +38,23 @@ std::string exitStatusHelp() {
 
 std::string reason(int error) {
     switch (error) {
-        case ENOENT: return "there is no such file or folder";
-        case ENOTDIR: return "a part of the path is no folder";
-        case EISDIR: return "it is a folder";
-        case EACCES:
-        case EPERM: return "permission denied";
-        case ELOOP: return "its symbolic links lead in a circle";
-        case ENAMETOOLONG: return "the name is too long";
-        case EIO: return "the device reports an error";
-        case ENOSPC:
-        case EDQUOT: return "no space is left";
-        case EFBIG: return "the file would be larger than allowed";
-        case EROFS: return "the file system is read-only";
-        case EPIPE: return "nobody reads it";
-        case EBADF: return "it is closed";
-        case EMFILE:
-        case ENFILE: return "too many files are open";
-        default: return std::strerror(error);
+    case ENOENT: return "there is no such file or folder";
+    case ENOTDIR: return "a part of the path is no folder";
+    case EISDIR: return "it is a folder";
+    case EACCES:
+    case EPERM: return "permission denied";
+    case ELOOP: return "its symbolic links lead in a circle";
+    case ENAMETOOLONG: return "the name is too long";
+    case EIO: return "the device reports an error";
+    case ENOSPC:
+    case EDQUOT: return "no space is left";
+    case EFBIG: return "the file would be larger than allowed";
+    case EROFS: return "the file system is read-only";
+    case EPIPE: return "nobody reads it";
+    case EBADF: return "it is closed";
+    case EMFILE:
+    case ENFILE: return "too many files are open";
+    default: return std::strerror(error);
     }
 }
 
@@ -69,12 +69,10 @@ std::string oneLine(std::string_view message) {
     std::string text;
     for (const char c : shortened(message, 600)) {
         const auto byte = static_cast<unsigned char>(c);
-        if (c == '\n')
-            text += ' ';
+        if (c == '\n') text += ' ';
         else if (byte < 0x20 || byte == 0x7F)
             text += {'\\', 'x', digits[byte / 16], digits[byte % 16]};
-        else
-            text += c;
+        else text += c;
     }
     return text;
 }

@@ -22,7 +22,7 @@ const registry::Family& knownFamily(const std::string& name) {
 }
 
 const registry::Function& knownFunction(const registry::Family& family, int length,
-                                       bool doublePrecision) {
+                                        bool doublePrecision) {
     int member = family.first;
     while (member <= family.last && static_cast<int>(family.samples(member)) != length) ++member;
     if (member > family.last)
@@ -30,8 +30,8 @@ const registry::Function& knownFunction(const registry::Family& family, int leng
                          " has lengths " + std::to_string(family.samples(family.first)) + " to " +
                          std::to_string(family.samples(family.last)) +
                          (family.byOrder ? ", powers of two" : ""));
-    const registry::Element* element = *std::ranges::find(
-        family.elements, doublePrecision, &registry::Element::doublePrecision);
+    const registry::Element* element =
+        *std::ranges::find(family.elements, doublePrecision, &registry::Element::doublePrecision);
     return *std::ranges::find(registry::functions(),
                               registry::functionName(family, member, *element),
                               &registry::Function::name);
@@ -58,12 +58,8 @@ class FixedTransform : public FrameTransform {
 public:
     FixedTransform(const registry::Family& family, const registry::Function& function, int length,
                    int flag)
-        : name_(family.name),
-          function_(function),
-          ordered_(family.byOrder),
-          flag_(flag),
-          source_(formOf(family, family.inverse())),
-          result_(formOf(family, !family.inverse())),
+        : name_(family.name), function_(function), ordered_(family.byOrder), flag_(flag),
+          source_(formOf(family, family.inverse())), result_(formOf(family, !family.inverse())),
           sourcePlaces_(placesOf(source_, spectrumLayout(family), length)),
           resultPlaces_(placesOf(result_, spectrumLayout(family), length)),
           data_(2 * (length + 1)) {   // room for every form on either side

@@ -29,8 +29,8 @@ public:
     // From here on a pipe leads forward only.
     void forgetBeginning() { keeps_ = false; }
 
-    std::optional<std::uint64_t> size() const;   // none of a pipe
-    int error() const { return error_; }   // the errno of a failed read, else 0
+    std::optional<std::uint64_t> size() const;          // none of a pipe
+    int error() const { return error_; }                // the errno of a failed read, else 0
     const std::string& name() const { return name_; }   // for messages
 
 private:
@@ -46,7 +46,7 @@ private:
     std::uint64_t position_ = 0;   // of the next read
     std::uint64_t arrived_ = 0;    // bytes that the descriptor has passed
     bool keeps_ = true;
-    std::vector<char> kept_;       // of a pipe: its first bytes
+    std::vector<char> kept_;   // of a pipe: its first bytes
     int error_ = 0;
 };
 

@@ -50,9 +50,7 @@ bool LineReader::refill() {
     return count > 0;
 }
 
-std::string LineReader::place() const {
-    return file_.name() + ":" + std::to_string(number_);
-}
+std::string LineReader::place() const { return file_.name() + ":" + std::to_string(number_); }
 
 std::string LineReader::place(std::string_view part) const {
     return place() + ":" + std::to_string(part.data() - line_.data() + 1);

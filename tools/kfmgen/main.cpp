@@ -18,8 +18,8 @@ namespace kfm::tool {
 namespace {
 
 void addTransform(CLI::App& app, TransformOptions& options) {
-    CLI::App& command = *app.add_subcommand(
-        "transform", "Transform successive frames of a signal; CSV out");
+    CLI::App& command =
+        *app.add_subcommand("transform", "Transform successive frames of a signal; CSV out");
     addInput(command, options.input,
              "sound, or text with a sample per line; standard input if not given or -. The inverse "
              "real DFT takes bins 0 to length/2 of each frame");
@@ -65,8 +65,9 @@ void addSpectrum(CLI::App& app, InputOptions& input, double& slice, std::ostream
 }
 
 void addListings(CLI::App& app, bool& names, std::ostream& out) {
-    app.add_subcommand("info", "Show which build of the library this is")
-        ->callback([&out] { printInfo(out); });
+    app.add_subcommand("info", "Show which build of the library this is")->callback([&out] {
+        printInfo(out);
+    });
     CLI::App& list = *app.add_subcommand("list", "Show families, lengths and element types");
     list.add_flag("--names", names, "names of all functions instead");
     list.callback([&names, &out] { names ? printFunctionNames(out) : printFamilies(out); });

@@ -14,7 +14,7 @@ constexpr const char* tooLarge = "is out of range";
 template <class Number>
 struct Read {
     Number value = 0;
-    bool whole;    // nothing else is there
+    bool whole;   // nothing else is there
     bool inRange;
 };
 

@@ -42,8 +42,7 @@ std::string folded(const std::string& text, std::size_t width) {
 CLI::Option* addNumber(CLI::App& command, const std::string& name, int& value, int least, int most,
                        const std::string& help) {
     const auto read = [=, &value](const std::string& text) {
-        value = static_cast<int>(
-            inRange<std::int64_t>(name, text, wholeNumber(text), least, most));
+        value = static_cast<int>(inRange<std::int64_t>(name, text, wholeNumber(text), least, most));
     };
     return command.add_option_function<std::string>(name, read, help)->type_name("NUMBER");
 }
@@ -65,8 +64,9 @@ void addInput(CLI::App& command, InputOptions& input, const std::string& help) {
     CLI::Option* channel =
         command
             .add_option_function<std::string>(
-                name, choose, "of several channels or columns the one of this number, from 1 on, "
-                              "or the mean of all: mix")
+                name, choose,
+                "of several channels or columns the one of this number, from 1 on, "
+                "or the mean of all: mix")
             ->type_name("NUMBER|mix");
     command
         .add_flag_callback(
@@ -84,8 +84,7 @@ void addInput(CLI::App& command, InputOptions& input, const std::string& help) {
         addChoice<std::string>(command, "--raw", input.raw.encoding, encodings,
                                "the input is sound without a header, encoded as" + list)
             ->type_name("ENCODING");
-    addNumber(command, "--raw-channels", input.raw.channels, 1, 1024, "1 if not given")
-        ->needs(raw);
+    addNumber(command, "--raw-channels", input.raw.channels, 1, 1024, "1 if not given")->needs(raw);
     addNumber(command, "--raw-rate", input.raw.rate, 1, std::numeric_limits<int>::max(),
               "samples per second, 44100 if not given")
         ->needs(raw);

@@ -56,22 +56,17 @@ void guard(const std::string& path) {
 
 OutputFile::OutputFile(const std::string& path)
     : name_(path == "-" ? "standard output" : displayed(path)),
-      buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)),
-      end_(buffer_.get()),
+      buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)), end_(buffer_.get()),
       room_(bufferSize) {
     struct stat old;
     const int number = path == "-" ? STDOUT_FILENO : numberInName(path);
     const bool exists = number < 0 && ::stat(path.c_str(), &old) == 0;
-    if (number >= 0)
-        descriptor_ = Descriptor::copyOf(number);
-    else if (exists && S_ISDIR(old.st_mode))
-        fail(EISDIR);
+    if (number >= 0) descriptor_ = Descriptor::copyOf(number);
+    else if (exists && S_ISDIR(old.st_mode)) fail(EISDIR);
     else if (exists && !S_ISREG(old.st_mode))
         descriptor_ = Descriptor(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
-    else if (!exists && (errno != ENOENT || path.empty() || path.back() == '/'))
-        fail(errno);
-    else
-        openBeside(linkTarget(path), exists ? &old : nullptr);
+    else if (!exists && (errno != ENOENT || path.empty() || path.back() == '/')) fail(errno);
+    else openBeside(linkTarget(path), exists ? &old : nullptr);
     if (!descriptor_) fail(errno);
 }
 

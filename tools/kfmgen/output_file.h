@@ -34,7 +34,7 @@ private:
     void flush();
     [[noreturn]] void fail(int error) const;
 
-    std::string name_;    // for messages
+    std::string name_;   // for messages
     Descriptor descriptor_;
     std::string target_;   // the file to replace; empty when it is written as it stands
     std::string beside_;   // what is written in its place so far

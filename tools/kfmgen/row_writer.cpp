@@ -36,9 +36,8 @@ void RowWriter::writeFrame(std::span<const double> values) {
 
 // The shortest that read back as the same value in its precision.
 char* RowWriter::digits(char* to, double value) const {
-    return doublePrecision_
-               ? std::to_chars(to, to + longestNumber, value).ptr
-               : std::to_chars(to, to + longestNumber, static_cast<float>(value)).ptr;
+    return doublePrecision_ ? std::to_chars(to, to + longestNumber, value).ptr
+                            : std::to_chars(to, to + longestNumber, static_cast<float>(value)).ptr;
 }
 
 }   // namespace kfm::tool

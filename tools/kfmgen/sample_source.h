@@ -16,10 +16,10 @@ namespace kfm::tool {
 // Which channels of a sound, or columns without names of a text, make a sample.
 struct Channels {
     enum class Use {
-        unset,      // the only one; columns named re and im are a complex sample
-        one,        // `number`, from 1 on
-        mix,        // the mean of all
-        complex,    // the first is the real, the second the imaginary part
+        unset,     // the only one; columns named re and im are a complex sample
+        one,       // `number`, from 1 on
+        mix,       // the mean of all
+        complex,   // the first is the real, the second the imaginary part
     };
     Use use = Use::unset;
     int number = 1;
@@ -40,10 +40,10 @@ struct InputOptions {
 
 // What a source has to deliver: anything else is refused at the place where it stands.
 struct Demand {
-    bool complex = false;     // two values per sample, the second 0 where samples are real
-    bool single = false;      // only what single precision holds
-    std::size_t frame = 0;    // rows that say their frame must have so many each; 0: any number
-    bool bins = false;        // rows that say their frame are bins of half a spectrum
+    bool complex = false;    // two values per sample, the second 0 where samples are real
+    bool single = false;     // only what single precision holds
+    std::size_t frame = 0;   // rows that say their frame must have so many each; 0: any number
+    bool bins = false;       // rows that say their frame are bins of half a spectrum
     std::string taker = "this command";   // who wants it, for messages
 };
 

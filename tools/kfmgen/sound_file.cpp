@@ -48,12 +48,12 @@ const std::map<std::string, int> encodings = {
 
 int sampleBytes(int format) {
     switch (format & SF_FORMAT_SUBMASK) {
-        case SF_FORMAT_PCM_16: return 2;
-        case SF_FORMAT_PCM_24: return 3;
-        case SF_FORMAT_PCM_32:
-        case SF_FORMAT_FLOAT: return 4;
-        case SF_FORMAT_DOUBLE: return 8;
-        default: return 1;
+    case SF_FORMAT_PCM_16: return 2;
+    case SF_FORMAT_PCM_24: return 3;
+    case SF_FORMAT_PCM_32:
+    case SF_FORMAT_FLOAT: return 4;
+    case SF_FORMAT_DOUBLE: return 8;
+    default: return 1;
     }
 }
 
@@ -70,8 +70,9 @@ SF_VIRTUAL_IO SoundFile::calls = {
     [](sf_count_t offset, int origin, void* data) {
         const auto& [file, length, emptyReads] = *static_cast<Stream*>(data);
         const sf_count_t here = file.position();
-        const sf_count_t position =
-            offset + (origin == SEEK_SET ? 0 : origin == SEEK_CUR ? here : length);
+        const sf_count_t position = offset + (origin == SEEK_SET   ? 0
+                                              : origin == SEEK_CUR ? here
+                                                                   : length);
         if (position < 0) return sf_count_t{-1};
         file.seek(position);
         return position;
@@ -113,9 +114,9 @@ SoundFile::SoundFile(InputFile& file, const RawSound& raw) : stream_{file, 0} {
     stream_.emptyReads = 0;
     if (handle_ || !length) return;
     switch (sf_error(nullptr)) {
-        case SF_ERR_UNRECOGNISED_FORMAT: return;
-        case SF_ERR_UNSUPPORTED_ENCODING: fail("a sound in an encoding that cannot be read");
-        default: fail("a sound that is damaged or of an unknown kind");
+    case SF_ERR_UNRECOGNISED_FORMAT: return;
+    case SF_ERR_UNSUPPORTED_ENCODING: fail("a sound in an encoding that cannot be read");
+    default: fail("a sound that is damaged or of an unknown kind");
     }
 }
 

@@ -17,8 +17,7 @@ public:
                 const InputOptions& options, const Demand& demand)
         : SampleSource(file->name(), demand),
           kind_(options.raw.encoding.empty() ? SourceKind::sound : SourceKind::raw),
-          file_(std::move(file)),
-          sound_(std::move(sound)),
+          file_(std::move(file)), sound_(std::move(sound)),
           choice_(options.channels, demand,
                   {.file = name(), .word = "channel", .count = sound_->channels()}),
           block_(blockSamples / sound_->channels() * sound_->channels()) {}

@@ -107,8 +107,8 @@ void TextSource::readRow(double* sample) {
 void TextSource::checkLabels() {
     const std::string_view frame = fields_[columns_.frame];
     const std::string_view index = fields_[columns_.index];
-    const std::string what = labels_->next(checked(wholeNumber(frame), frame),
-                                           checked(wholeNumber(index), index));
+    const std::string what =
+        labels_->next(checked(wholeNumber(frame), frame), checked(wholeNumber(index), index));
     if (!what.empty()) fail(index, what);
 }
 

@@ -26,10 +26,9 @@ void checkHop(const SampleSource& source, const Framing& framing) {
 void checkRange(std::span<const double> result, const FrameTransform& transform,
                 const std::string& name, std::uint64_t frame) {
     if (std::ranges::all_of(result, [](double value) { return std::isfinite(value); })) return;
-    throw InputError(name + ": results of frame " + std::to_string(frame) +
-                     " are too large for " +
-                     (transform.doublePrecision() ? "double precision"
-                                                  : "single precision; see --precision"));
+    throw InputError(
+        name + ": results of frame " + std::to_string(frame) + " are too large for " +
+        (transform.doublePrecision() ? "double precision" : "single precision; see --precision"));
 }
 
 }   // namespace
@@ -38,8 +37,7 @@ void runTransform(const TransformOptions& options) {
     const std::unique_ptr<FrameTransform> transform = makeTransform(options.choice);
     const std::size_t length = transform->sourceSize();
     const Framing framing{length, options.hop > 0 ? options.hop : length, options.tail};
-    const std::unique_ptr<SampleSource> source =
-        openSamples(options.input, demandOf(*transform));
+    const std::unique_ptr<SampleSource> source = openSamples(options.input, demandOf(*transform));
     checkHop(*source, framing);
 
     OutputFile out(options.output);

@@ -137,7 +137,8 @@ KernelFamily family(const Kind& kind) {
         return choice(kind.function, size, element, target);
     };
     family.emit = [&kind](int size, const Element& element, const Target&,
-                          const ScheduleChoice& schedule, std::span<const registry::Family* const>) {
+                          const ScheduleChoice& schedule,
+                          std::span<const registry::Family* const>) {
         return emit(kind, size, element, schedule);
     };
     family.ports = slotPorts;

@@ -17,8 +17,7 @@ Ref reversed(Graph& g, Ref a) {
 }
 
 Rows transposed(Graph& g, const Rows& x) {
-    if (g.lanes() == 2)
-        return {g.select(x[0], x[1], {0, 2}), g.select(x[0], x[1], {1, 3})};
+    if (g.lanes() == 2) return {g.select(x[0], x[1], {0, 2}), g.select(x[0], x[1], {1, 3})};
     const Ref low01 = g.select(x[0], x[1], {0, 4, 1, 5});
     const Ref high01 = g.select(x[0], x[1], {2, 6, 3, 7});
     const Ref low23 = g.select(x[2], x[3], {0, 4, 1, 5});
@@ -93,7 +92,9 @@ void sixteen(Graph& g) {
     const Rows v = transposed(g, inputRows(g, 16, 4, 0));
     Rows z;
     for (int r = 0; r < 4; ++r) {
-        const auto cosine = [&](int q) { return Constant::cosTurn((2 * q + 1) * (2 * r + 1), 128); };
+        const auto cosine = [&](int q) {
+            return Constant::cosTurn((2 * q + 1) * (2 * r + 1), 128);
+        };
         const auto sine = [&](int q) { return Constant::sinTurn((2 * q + 1) * (2 * r + 1), 128); };
         const Constant sign = r % 2 ? -1 : 1;
         const LaneConstant direct = {cosine(0), sign * cosine(0), cosine(1), sign * cosine(1)};
@@ -127,12 +128,9 @@ Graph fixedTransformGraph(int n, bool doublePrecision) {
     const int lanes = doublePrecision ? 2 : 4;
     const int used = n < 4 * lanes ? 1 : lanes;
     Graph g(used, {}, used);
-    if (g.lanes() == 1)
-        scalar(g, n);
-    else if (n == 16 && lanes == 4)
-        sixteen(g);
-    else
-        twoStages(g, n, n == 8 ? 2 : 4);
+    if (g.lanes() == 1) scalar(g, n);
+    else if (n == 16 && lanes == 4) sixteen(g);
+    else twoStages(g, n, n == 8 ? 2 : 4);
     return g;
 }
 

@@ -26,9 +26,7 @@ public:
 
 }   // namespace
 
-std::unique_ptr<Ports> slotPorts(const registry::Element&) {
-    return std::make_unique<SlotPorts>();
-}
+std::unique_ptr<Ports> slotPorts(const registry::Element&) { return std::make_unique<SlotPorts>(); }
 
 std::string printNetwork(const Graph& g, const registry::Element& element,
                          const ScheduleChoice& choice) {

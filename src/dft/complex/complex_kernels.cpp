@@ -50,8 +50,8 @@ ScheduleChoice choice(int n, const Element& element, const Target& target) {
 std::string emit(int n, const Element& element, const Target& target, const ScheduleChoice& choice,
                  std::span<const Family* const> families) {
     std::ostringstream out, exported;
-    out << fileHead("Complex DFT, " + describe(n, element),
-                    graph(n, element, target, false), choice)
+    out << fileHead("Complex DFT, " + describe(n, element), graph(n, element, target, false),
+                    choice)
         << "#include \"core/complex_kernel.h\"\n\nnamespace {\n\nusing namespace kfm::simd;\n"
         << "using kfm::launder;\n\n";
     for (const Family* family : families) {

@@ -54,7 +54,7 @@ Plan doublePrecisionPlan(int n) {
         {34, pfa(2, seventeen)},
         {35, pfa(factored5(), rader(pfa(2, 3)))},
         {36, pfa(4, nine)},
-        {37, rader(pfa(4, nine), 13, 17)},   // 1.82
+        {37, rader(pfa(4, nine), 13, 17)},         // 1.82
         {38, pfa(2, rader(pfa(2, nine), 2, 8))},   // 1.70
         {39, pfa(3, thirteen)},
         {40, pfa(8, 5)},

@@ -54,12 +54,12 @@ public:
         for (const Complex& t : pairs_) {
             const long j = i + 1;
             sum = add(g_, sum, scale(g_, factors({i * k, j * l, i * k, j * l}, p_), t));
-            sum = add(g_, sum, scale(g_, factors({j * k, i * l, j * k, i * l}, p_),
-                                     select(g_, t, neighbours)));
+            sum = add(g_, sum,
+                      scale(g_, factors({j * k, i * l, j * k, i * l}, p_),
+                            select(g_, t, neighbours)));
             i += 2;
         }
-        if (odd_)
-            sum = add(g_, sum, scale(g_, factors({i * k, i * l, i * k, i * l}, p_), *odd_));
+        if (odd_) sum = add(g_, sum, scale(g_, factors({i * k, i * l, i * k, i * l}, p_), *odd_));
         return sum;
     }
 
@@ -95,19 +95,18 @@ std::vector<int> mirroredOrder(int p) {
     return order;
 }
 
-std::vector<LaneVector> directColumn(Graph& g, int p, std::span<const Complex> groups,
-                                     Sign sign) {
+std::vector<LaneVector> directColumn(Graph& g, int p, std::span<const Complex> groups, Sign sign) {
     const ColumnModule module(g, p, groups);
     std::vector<LaneVector> result = {{module.outputZero(), {0, -1, -1, -1}}};
     int k = 1;
     for (; 2 * (k + 1) < p; k += 2)
-        result.push_back({signedSum(g, module.parts(k, k + 1), {0, 1, 0, 1}, {2, 3, 2, 3},
-                                    {0, 0, 1, 1}, sign),
-                          {k, k + 1, p - k, p - k - 1}});
+        result.push_back(
+            {signedSum(g, module.parts(k, k + 1), {0, 1, 0, 1}, {2, 3, 2, 3}, {0, 0, 1, 1}, sign),
+             {k, k + 1, p - k, p - k - 1}});
     if (2 * k < p)
-        result.push_back({signedSum(g, module.parts(k, k), {0, 0, 0, 0}, {2, 2, 2, 2},
-                                    {0, 1, 0, 1}, sign),
-                          {k, p - k, -1, -1}});
+        result.push_back(
+            {signedSum(g, module.parts(k, k), {0, 0, 0, 0}, {2, 2, 2, 2}, {0, 1, 0, 1}, sign),
+             {k, p - k, -1, -1}});
     return result;
 }
 
@@ -150,8 +149,8 @@ std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts
         const Complex other = two ? parts[i + 1] : parts[i];
         const Complex c = two ? select(g, parts[i], other, lowHalves) : parts[i];
         const Complex s = select(g, parts[i], other, highHalves);
-        result.push_back({addTimesI(g, c, s, sign), addTimesI(g, c, s, opposite(sign)), i,
-                          two ? i + 1 : -1});
+        result.push_back(
+            {addTimesI(g, c, s, sign), addTimesI(g, c, s, opposite(sign)), i, two ? i + 1 : -1});
     }
     return result;
 }
@@ -194,8 +193,7 @@ std::vector<LaneVector> joinColumns(Graph& g, int p, std::span<const Complex> pa
             joinLanes(both, first, {k, p - k, 0, -1});
         }
     }
-    if (parts.size() % 2 == 0)
-        join(first, select(g, first, neighbours), {0, -1, -1, -1});
+    if (parts.size() % 2 == 0) join(first, select(g, first, neighbours), {0, -1, -1, -1});
     return result;
 }
 
@@ -208,8 +206,8 @@ std::vector<int> mirroredPairOrder(int p) {
     return order;
 }
 
-std::vector<LaneVector> directTwoColumns(Graph& g, int p, std::span<const Complex> t,
-                                         Complex first, Sign sign) {
+std::vector<LaneVector> directTwoColumns(Graph& g, int p, std::span<const Complex> t, Complex first,
+                                         Sign sign) {
     const std::vector<Complex> parts = directParts(g, p, t, first);
     std::vector<int> outputs(parts.size());
     std::iota(outputs.begin(), outputs.end(), 1);

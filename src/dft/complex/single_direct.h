@@ -34,8 +34,8 @@ std::vector<Complex> mirroredSums(Graph& g, int p, std::span<const Complex> a,
 
 // The outputs C -+ iS of both signs from vectors (C, C', S, S'), by two vectors at a time.
 struct SignedOutputs {
-    Complex plus, minus;         // C + i*sign*S and C - i*sign*S
-    int first, second;           // from which vectors; second = -1 for a lone one
+    Complex plus, minus;   // C + i*sign*S and C - i*sign*S
+    int first, second;     // from which vectors; second = -1 for a lone one
 };
 std::vector<SignedOutputs> combineParts(Graph& g, std::span<const Complex> parts, Sign sign);
 
@@ -62,8 +62,8 @@ int elementOfColumn(int p, int i, int column);
 std::vector<int> mirroredPairOrder(int p);
 
 // The transform of length 2p from the sums and differences t of two columns and their x0.
-std::vector<LaneVector> directTwoColumns(Graph& g, int p, std::span<const Complex> t,
-                                         Complex first, Sign sign);
+std::vector<LaneVector> directTwoColumns(Graph& g, int p, std::span<const Complex> t, Complex first,
+                                         Sign sign);
 
 // The transform of length 2p of one column in that order.
 std::vector<LaneVector> directColumnOfPairs(Graph& g, int p, std::span<const Complex> groups,

@@ -52,13 +52,11 @@ Complex multiplyBin(Graph& g, Complex bin, const BinConstants& constants) {
 }
 
 std::vector<Ref> convolveReal(Graph& g, const Plan& plan, std::vector<Ref> inputs,
-                              const std::function<BinConstants(int)>& constants, Ref x0,
-                              Ref& sum) {
+                              const std::function<BinConstants(int)>& constants, Ref x0, Ref& sum) {
     inputs.resize(plan.n);
     HalfSpectrum spectrum = realDft(g, plan, inputs);
     sum = spectrum[0].re;
-    for (int k = 0; 2 * k <= plan.n; ++k)
-        spectrum[k] = multiplyBin(g, spectrum[k], constants(k));
+    for (int k = 0; 2 * k <= plan.n; ++k) spectrum[k] = multiplyBin(g, spectrum[k], constants(k));
     spectrum[0].re = g.add(spectrum[0].re, x0);
     return realSynthesis(g, plan, spectrum);
 }

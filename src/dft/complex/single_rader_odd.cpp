@@ -35,8 +35,9 @@ std::vector<Complex> halfVectors(Graph& g, const OddRader& rader) {
         const Complex x = load4(g, z), y = load4(g, mirror);
         const Complex sum = add(g, x, y), difference = sub(g, x, y);
         for (int lane = 0; lane < count; lane += 2) {
-            const Complex two = select(g, sum, difference, lane == 0 ? LanePattern{0, 4, 1, 5}
-                                                                     : LanePattern{2, 6, 3, 7});
+            const Complex two =
+                select(g, sum, difference,
+                       lane == 0 ? LanePattern{0, 4, 1, 5} : LanePattern{2, 6, 3, 7});
             result.push_back(two);
             if (lane + 1 < count) result.push_back(select(g, two, {2, 3, 2, 3}));
         }
@@ -90,8 +91,8 @@ private:
         const ComplexConstant a = rader_.cosineBin(k), b = rader_.sineBin(k);
         const Ref own = g_.mul(LaneConstant{a.re, k ? a.re : 0, b.re, k ? b.re : 0}, bin);
         if (k == 0) return own;
-        return g_.add(own, g_.mul(LaneConstant{-a.im, a.im, -b.im, b.im},
-                                  g_.select(bin, neighbours)));
+        return g_.add(own,
+                      g_.mul(LaneConstant{-a.im, a.im, -b.im, b.im}, g_.select(bin, neighbours)));
     }
 
     Graph& g_;
@@ -108,8 +109,8 @@ void raderHalfGraph(Graph& g, const Plan& plan, Sign sign) {
     };
     const Complex x0 = loadLane0(g, 0);
     Complex sums;
-    const std::vector<Complex> parts = convolve(g, plan.first().second(), halfVectors(g, rader),
-                                                constants, x0, sums);
+    const std::vector<Complex> parts =
+        convolve(g, plan.first().second(), halfVectors(g, rader), constants, x0, sums);
     store4(g, {add(g, x0, sums), {0, -1, -1, -1}});
     for (int j = 0; j < rader.q; j += 4) {
         const int count = std::min(4, rader.q - j);
@@ -155,8 +156,8 @@ void raderMirrorGraph(Graph& g, const Plan& plan, Sign sign) {
     for (int i = 1; i <= half; ++i) parts.push_back({re[i], im[i]});
     for (const SignedOutputs& y : combineParts(g, parts, sign)) {
         const int i = y.first + 1, l = y.second + 1;
-        storeSigned(g, rader, y, l > 0 ? std::array{q - i, i, q - l, l}
-                                       : std::array{q - i, i, -1, -1});
+        storeSigned(g, rader, y,
+                    l > 0 ? std::array{q - i, i, q - l, l} : std::array{q - i, i, -1, -1});
     }
 }
 

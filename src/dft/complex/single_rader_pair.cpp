@@ -37,8 +37,7 @@ Positions residuesModulo4(const Plan& plan, const RaderOrder& order) {
     const auto constants = [&order, transformOf](int k) {
         const auto c0 = transformOf(order.cosines, 0, k), c1 = transformOf(order.cosines, 1, k);
         const auto s0 = transformOf(order.sines, 0, k), s1 = transformOf(order.sines, 1, k);
-        return BinConstants{lanesOf(c0, c0, s0, s0),
-                            lanesOf(c1, c1, scaled(s1, Constant(-1)), s1)};
+        return BinConstants{lanesOf(c0, c0, s0, s0), lanesOf(c1, c1, scaled(s1, Constant(-1)), s1)};
     };
     return {&rows, q, position, constants, false};
 }
@@ -56,8 +55,9 @@ Positions evenAndOddSamples(const Plan& plan, const RaderOrder& order) {
             if ((t + 2 * q) % 2 != phase) continue;
             const int root = (t + q) % q;
             const Constant s = order.sines[root];
-            sequence[((t + 2 * n) % (2 * n)) / 2] =
-                !sine ? order.cosines[root] : root % 2 == 0 ? s : -s;
+            sequence[((t + 2 * n) % (2 * n)) / 2] = !sine           ? order.cosines[root]
+                                                    : root % 2 == 0 ? s
+                                                                    : -s;
         }
         return weightedBin(sequence, k);
     };
@@ -100,8 +100,8 @@ std::vector<LaneVector> raderPairTransform(Graph& g, const Plan& plan, Sign sign
     const Ref first = g.load(input(0));
     const Complex x0 = {g.select(first, {0, 0, 2, 2}), g.select(first, {1, 1, 3, 3})};
     Complex sums;
-    std::vector<Complex> parts = convolve(g, *positions.plan, sumsAndDifferences(g, pairs),
-                                          positions.constants, x0, sums);
+    std::vector<Complex> parts =
+        convolve(g, *positions.plan, sumsAndDifferences(g, pairs), positions.constants, x0, sums);
     parts.resize(positions.vectors);
 
     const Complex all = add(g, add(g, sums, select(g, sums, neighbours)), x0);

@@ -51,8 +51,8 @@ std::vector<LaneVector> raderRowTransform(Graph& g, const Plan& plan, Sign sign,
     const TwoStep step(plan.first());
     if (step.columns % 4 == 1)
         throw std::invalid_argument(plan.text() + ": a lone column would not come back in place");
-    const std::vector<LaneVector> bins = rowTransform(
-        g, step, Sign::minus, [&](int m) { return input(order.input[m]); });
+    const std::vector<LaneVector> bins =
+        rowTransform(g, step, Sign::minus, [&](int m) { return input(order.input[m]); });
 
     const Complex x0 = loadLane0(g, input(0));
     std::vector<LaneVector> result = {{add(g, x0, bins[0].value), {0, -1, -1, -1}}};

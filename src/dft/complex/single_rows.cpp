@@ -84,8 +84,8 @@ void storeColumnPair(Graph& g, const TwoStep& step, Sign sign, Complex a, Comple
     storeHalf(g, step.output(ka, 2), step.output(kb, 2), difference, 0);
     const int viaSum = sign == Sign::minus ? 1 : 3;
     storeHalf(g, step.output(ka, viaSum), step.output(kb, viaSum), {sum.re, difference.im}, 1);
-    storeHalf(g, step.output(ka, 4 - viaSum), step.output(kb, 4 - viaSum),
-              {difference.re, sum.im}, 1);
+    storeHalf(g, step.output(ka, 4 - viaSum), step.output(kb, 4 - viaSum), {difference.re, sum.im},
+              1);
 }
 
 // The whole transform. Where rows or columns are left over and the module along them is direct,
@@ -146,8 +146,8 @@ private:
         const int a = rows_.back()[0], b = rows_.back()[1], p = step_.columns;
         std::vector<MirroredPair> pairs;
         for (int i = 1; 2 * i < p; ++i)
-            pairs.push_back({{inputOf(a, i), inputOf(b, i)},
-                             {inputOf(a, p - i), inputOf(b, p - i)}});
+            pairs.push_back(
+                {{inputOf(a, i), inputOf(b, i)}, {inputOf(a, p - i), inputOf(b, p - i)}});
         lastColumnZero_ = lowerHalf(g_, load4(g_, {inputOf(a, 0), inputOf(b, 0), -1, -1}));
         const std::vector<Complex> parts =
             directParts(g_, p, sumsAndDifferences(g_, pairs), lastColumnZero_);
@@ -159,12 +159,9 @@ private:
         const int count = countOf(columns);
         if (step_.rows == 4 && count == 1)
             result_.push_back(singleColumn(g_, step_, sign_, rowsOf(0, columns[0]), columns[0]));
-        else if (mirrored() && count == 1)
-            loneColumn(columns[0]);
-        else if (mirrored() && count == 2)
-            columnPair(columns[0], columns[1]);
-        else
-            transposedColumns(columns, count);
+        else if (mirrored() && count == 1) loneColumn(columns[0]);
+        else if (mirrored() && count == 2) columnPair(columns[0], columns[1]);
+        else transposedColumns(columns, count);
     }
 
     // Column k1 of a group of rows, twiddled.
@@ -213,8 +210,7 @@ private:
         std::vector<Complex> x(step_.rows);
         for (int i = 0; i < int(groups_.size()); ++i) {
             std::vector<Complex> block;
-            for (int lane = 0; lane < count; ++lane)
-                block.push_back(groups_[i][columns[lane]]);
+            for (int lane = 0; lane < count; ++lane) block.push_back(groups_[i][columns[lane]]);
             const std::array<Complex, 4> rows = transpose4(g_, block);
             for (int lane = 0; lane < countOf(rows_[i]); ++lane) x[rows_[i][lane]] = rows[lane];
         }

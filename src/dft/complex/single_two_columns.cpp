@@ -40,8 +40,8 @@ std::vector<LaneVector> raderColumns(Graph& g, const Plan& plan, Sign sign) {
     };
     const Complex x0 = firstInputs(g, p);
     Complex sums;
-    const std::vector<Complex> parts = convolve(g, plan.first().second(),
-                                                sumsAndDifferences(g, pairs), constants, x0, sums);
+    const std::vector<Complex> parts =
+        convolve(g, plan.first().second(), sumsAndDifferences(g, pairs), constants, x0, sums);
     return joinColumns(g, p, parts, outputs, add(g, x0, sums), sign);
 }
 

@@ -73,8 +73,9 @@ RealRow row(int n) {
 // The formulas of 4, 8 and 10 are kept to the signs of zeros.
 Arithmetic forwardArithmetic(int n, bool singlePrecision) {
     const bool apart = std::has_single_bit(unsigned(n)) || n == 6 || n == 9;
-    Arithmetic arithmetic{
-        .mixed = singlePrecision, .factoring = !apart, .exactZeros = n == 4 || n == 8 || n == 10};
+    Arithmetic arithmetic{.mixed = singlePrecision,
+                          .factoring = !apart,
+                          .exactZeros = n == 4 || n == 8 || n == 10};
     if (!singlePrecision) return arithmetic;
     if (std::has_single_bit(unsigned(n))) arithmetic.rounding = unsigned(Border::rotation);
     if (n == 6 || n == 10) arithmetic.rounding = unsigned(Border::module);

@@ -102,9 +102,9 @@ Graph inverseGraph(const RealRow& row, bool singlePrecision) {
     // Pairs of a prime are synthesised as c - d and c + d with plain sums of sines in d: the
     // transpose of the conjugated transform, whose samples come in reversed order.
     const bool reversed = row.plan.kind == Plan::Kind::direct && row.lanes == 2;
-    const std::vector<ComplexLanes> spectrum =
-        reversed ? symmetricPairs(network, inputs, Sign::plus)
-                 : realDftInLanes(network, row.plan, inputs);
+    const std::vector<ComplexLanes> spectrum = reversed
+                                                   ? symmetricPairs(network, inputs, Sign::plus)
+                                                   : realDftInLanes(network, row.plan, inputs);
     std::map<Ref, SpectrumVector> vectors;
     for (const LaneOutput& output : packed(spectrum, n))
         vectors[output.value.vector.magnitude()].add(output);

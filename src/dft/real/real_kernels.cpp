@@ -45,8 +45,7 @@ std::string function(const Family& family, int n, const Element& element) {
     if (zeros)
         out << "    const KfmStatus status = " << run << "    if (status == kfmOk) " << packed
             << "::storeZeros(dst);\n    return status;\n}\n";
-    else
-        out << "    return " << run << "}\n";
+    else out << "    return " << run << "}\n";
     return out.str();
 }
 
@@ -59,10 +58,11 @@ std::string emit(bool inverse, int n, const Element& element, const ScheduleChoi
                  std::span<const Family* const> families) {
     std::string functions;
     for (const Family* family : families) functions += function(*family, n, element) + "\n";
-    const std::string title = (inverse ? "Inverse real DFT, " : "Real DFT, ") + describe(n, element);
+    const std::string title =
+        (inverse ? "Inverse real DFT, " : "Real DFT, ") + describe(n, element);
     return printRealKernel({title, inverse ? "inverse" : "forward",
-                            inverse ? Packed::source : Packed::destination,
-                            twoStepInverseSqrt(n), functions},
+                            inverse ? Packed::source : Packed::destination, twoStepInverseSqrt(n),
+                            functions},
                            graph(inverse, n, element), n, element, choice);
 }
 
@@ -77,7 +77,8 @@ KernelFamily family(bool inverse) {
                 const bool single = !element.doublePrecision;
                 return inverse ? inverseGraph(variant, single) : forwardGraph(variant, single);
             },
-            describe, inverse ? inverseChoice : forwardChoice,
+            describe,
+            inverse ? inverseChoice : forwardChoice,
             [=](int n, const Element& element, const Target&, const ScheduleChoice& choice,
                 std::span<const Family* const> families) {
                 return emit(inverse, n, element, choice, families);

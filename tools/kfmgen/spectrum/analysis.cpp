@@ -5,8 +5,7 @@
 namespace kfm::tool {
 
 SpectrumAnalysis::SpectrumAnalysis(double rate, double sliceSeconds, Visit visit)
-    : grid_{rate, frameLength(rate), 0},
-      visit_(std::move(visit)),
+    : grid_{rate, frameLength(rate), 0}, visit_(std::move(visit)),
       slices_(rate, sliceSeconds, grid_.bins, [this](const Slice& slice) { take(slice); }),
       frames_(grid_.bins, [this](const Frame& frame) { slices_.add(frame); }) {}
 

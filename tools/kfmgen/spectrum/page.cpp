@@ -120,8 +120,7 @@ void printSubject(const SpectrumPage::Subject& subject, const Slice& whole,
                       hertz(grid.lowest(), digits).c_str(),
                       hertz(grid.highest(), digits - 1).c_str(), difference(grid.step()).c_str(),
                       difference(grid.separation()).c_str());
-    else
-        out << "  range    none: too short for any tone\n";
+    else out << "  range    none: too short for any tone\n";
     out << format("  levels   0 dB is a sine of full scale; the mean, %.5g, does not count\n",
                   whole.moments.mean() + 0.0)
         << format("  rows     of %g s; a shade is %g dB, from the loudest down: ", sliceSeconds,
@@ -137,8 +136,7 @@ void printTones(const Slice& whole, const FrequencyGrid& grid, std::ostream& out
         << (tones.empty() ? "  no peaks\n" : "  strongest peaks:\n");
     for (const Peak& tone : tones) {
         const double share = 1 + (tone.decibels - tones.front().decibels) / barRange;
-        out << format("%8s Hz%s  ",
-                      hertz(tone.frequency, decimals(grid.step()) + 1).c_str(),
+        out << format("%8s Hz%s  ", hertz(tone.frequency, decimals(grid.step()) + 1).c_str(),
                       level(tone.decibels).c_str())
             << std::string(std::lround(std::max(0.0, share) * barColumns), '#') << '\n';
     }
@@ -147,7 +145,9 @@ void printTones(const Slice& whole, const FrequencyGrid& grid, std::ostream& out
 }   // namespace
 
 void SpectrumPage::addRow(const Slice& slice, const FrequencyGrid& grid) {
-    Row row{slice.start, static_cast<float>(slice.moments.decibels()), {},
+    Row row{slice.start,
+            static_cast<float>(slice.moments.decibels()),
+            {},
             columnLevels(slice.spectrum, grid)};
     for (const Peak& peak : audible(strongestPeaks(slice.spectrum, grid, tonesPerRow)))
         row.tones.push_back(static_cast<float>(peak.frequency));

@@ -16,10 +16,8 @@ double partSeconds(double rate, std::size_t frameLength) {
 }   // namespace
 
 Slices::Slices(double rate, double seconds, std::size_t frameLength, Visit visit)
-    : rate_(rate),
-      seconds_(seconds > 0 ? seconds : partSeconds(rate, frameLength)),
-      fitting_(seconds <= 0),
-      visit_(std::move(visit)) {}
+    : rate_(rate), seconds_(seconds > 0 ? seconds : partSeconds(rate, frameLength)),
+      fitting_(seconds <= 0), visit_(std::move(visit)) {}
 
 // Where slice `number` begins.
 std::uint64_t Slices::boundary(std::uint64_t number) const {
