@@ -1,6 +1,6 @@
 #include "wht/wht_kernels.h"
 
-#include "kernelgen/frame.h"
+#include "kernelgen/kernel_functions.h"
 #include "wht/blocking.h"
 
 namespace kfm::wht {

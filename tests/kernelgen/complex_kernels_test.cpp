@@ -9,8 +9,8 @@
 #include <sstream>
 
 #include "dft/complex/two_step.h"
+#include "kernel_commands.h"
 #include "kernelgen/evaluate.h"
-#include "kernelgen/kernel_commands.h"
 #include "kfmgen.h"
 #include "registry/functions.h"
 

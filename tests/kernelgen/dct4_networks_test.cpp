@@ -8,8 +8,8 @@
 
 #include "dct4/codelets.h"
 #include "dct4/networks/fixed_transform.h"
+#include "kernel_commands.h"
 #include "kernelgen/evaluate.h"
-#include "kernelgen/kernel_commands.h"
 #include "kernelgen/report.h"
 
 using namespace kfm;

@@ -1,5 +1,5 @@
 // Renewing the declarations in the public header.
-#include "kernelgen/frame.h"
+#include "frame.h"
 
 #include <gtest/gtest.h>
 

@@ -8,9 +8,9 @@
 #include <set>
 #include <tuple>
 
+#include "kernel_commands.h"
 #include "kernelgen/evaluate.h"
 #include "kernelgen/joined_graph.h"
-#include "kernelgen/kernel_commands.h"
 #include "kernelgen/pairing_state.h"
 #include "kernelgen/program.h"
 

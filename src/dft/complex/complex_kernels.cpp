@@ -4,8 +4,8 @@
 #include <stdexcept>
 
 #include "kernelgen/emit.h"
-#include "kernelgen/frame.h"
 #include "kernelgen/kernel_file.h"
+#include "kernelgen/kernel_functions.h"
 
 namespace kfm::dft::complex {
 

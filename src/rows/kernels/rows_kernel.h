@@ -1,13 +1,16 @@
-// The sources of the library of rows: the kernels of every family for several rows at a time, and the
-// entries that choose among them by length.
+// The kernels of every family for several rows at a time, as sources of the library of rows.
 #pragma once
 
 #include <string>
 
 #include "kernelgen/generator.h"
-#include "kernelgen/rows_records.h"
+#include "rows/kernels/rows_records.h"
 
 namespace kfm::kernelgen {
+
+// The head of the function of one length, which the entries of the library call.
+std::string rowsFunction(const registry::Family& family, int length,
+                         const registry::Element& element);
 
 // In words, with the schedule: "4 in lanes; 24:0:1:sums:0".
 std::string describeRows(const KernelFamily& family, int length, const registry::Element& element,
@@ -17,10 +20,5 @@ std::string describeRows(const KernelFamily& family, int length, const registry:
 std::string rowsKernelSource(const KernelFamily& family, int length,
                              const registry::Element& element, const Target& target,
                              const RowsForms& forms, const ScheduleChoice& choice);
-
-// The exported functions of all families, which choose among those by length.
-std::string rowsEntries();
-// `header` with their declarations made anew.
-std::string withRowsDeclarations(std::string_view header);
 
 }   // namespace kfm::kernelgen

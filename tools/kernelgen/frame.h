@@ -4,18 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "kernelgen/target.h"
 #include "registry/registry.h"
 
 namespace kfm::kernelgen {
-
-// The functions of one kernel, for a block of C linkage: the exported one, which tests alignment
-// where the registry says so and the target gains by it, and its unaligned copy where it has one.
-// `kernel` is the type that runKernel() takes.
-std::string kernelFunctions(const registry::Family& family, int length,
-                            const registry::Element& element, const Target& target,
-                            const std::string& kernel);
 
 // Linker version script that exports these names and nothing else.
 std::string symbolMap(const std::vector<std::string>& names);

@@ -1,4 +1,4 @@
-#include "kernelgen/kernel_commands.h"
+#include "kernel_commands.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@
 #include "kernelgen/candidates.h"
 #include "kernelgen/program.h"
 #include "kernelgen/report.h"
-#include "kernelgen/rows_kernel.h"
+#include "rows/kernels/rows_kernel.h"
 #include "wht/wht_kernels.h"
 
 namespace kfm::kernelgen {

@@ -10,12 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "dct4/networks/codelet_families.h"
-#include "kernelgen/frame.h"
-#include "kernelgen/kernel_commands.h"
-#include "kernelgen/rows_kernel.h"
+#include "frame.h"
+#include "kernel_commands.h"
 #include "kernelgen/search.h"
 #include "registry/registry.h"
+#include "rows_frame.h"
 
 namespace fs = std::filesystem;
 

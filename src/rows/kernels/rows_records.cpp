@@ -1,4 +1,4 @@
-#include "kernelgen/rows_records.h"
+#include "rows/kernels/rows_records.h"
 
 #include <algorithm>
 #include <iterator>

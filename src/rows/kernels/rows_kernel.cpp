@@ -1,10 +1,9 @@
-#include "kernelgen/rows_kernel.h"
+#include "rows/kernels/rows_kernel.h"
 
 #include <set>
 #include <sstream>
 
 #include "kernelgen/emit.h"
-#include "kernelgen/frame.h"
 #include "kernelgen/kernel_file.h"
 #include "kernelgen/rows_graphs.h"
 
@@ -13,7 +12,6 @@ namespace {
 
 using registry::Element;
 using registry::Family;
-using registry::transformName;
 
 // Vectors by their numbers, whatever fills their lanes.
 class RowPorts : public Ports {
@@ -85,11 +83,6 @@ std::string layouts(const Family& family, int length) {
     return family.inverse() ? packed + ", " + plain : plain + ", " + packed;
 }
 
-// "(const Job<Kfm32fc>& job)"
-std::string jobParameter(const Element& element) {
-    return "(const Job<" + std::string(element.type) + ">& job)";
-}
-
 std::string function(const Family& family, int length, const Element& element,
                      const RowsForms& forms) {
     const std::string transform = direction(family) + "Transform, " + std::to_string(length) + ", ";
@@ -103,20 +96,16 @@ std::string function(const Family& family, int length, const Element& element,
     const std::string spaced = forms.spaced == RowsForm::single
                                    ? "spacedSingly<" + places + ">(job, " + single + ")"
                                    : "spacedInGroups<" + transform + places + ">(job)";
-    return "void " + transformName(family, length, element) + jobParameter(element) +
-           " {\n    if (job.contiguous()) " + contiguous + "(job, " + single + ");\n    else " +
-           spaced + ";\n}\n";
-}
-
-std::string parameters(const Family& family, const Element& element) {
-    const std::string type(element.type), indent = "\n    ";
-    return "(" + indent + "const " + type + " *src, ptrdiff_t srcStride, ptrdiff_t srcDistance," +
-           indent + type + " *dst, ptrdiff_t dstStride, ptrdiff_t dstDistance," + indent + "int " +
-           family.lengthName() + ", ptrdiff_t rows, int flag" +
-           (family.byOrder ? ", Kfm8u *buffer" : "") + ")";
+    return rowsFunction(family, length, element) + " {\n    if (job.contiguous()) " + contiguous +
+           "(job, " + single + ");\n    else " + spaced + ";\n}\n";
 }
 
 }   // namespace
+
+std::string rowsFunction(const Family& family, int length, const Element& element) {
+    return "void " + registry::transformName(family, length, element) + "(const Job<" +
+           std::string(element.type) + ">& job)";
+}
 
 std::string describeRows(const KernelFamily& kernels, int length, const Element& element,
                          const Target& target) {
@@ -152,38 +141,6 @@ std::string rowsKernelSource(const KernelFamily& kernels, int length, const Elem
     }
     out << "}   // namespace\n\n" << functions.str() << "}   // namespace kfm::rows\n";
     return out.str();
-}
-
-std::string rowsEntries() {
-    std::ostringstream out;
-    out << "// Made by kernelgen from the registry. Do not edit.\n#include \"rows/entry.h\"\n\n";
-    forEachVariant([&](const Family& family, const Element& element) {
-        if (family.byOrder) return;
-        out << "namespace kfm::rows {\n";
-        for (int length = family.first; length <= family.last; ++length)
-            out << "void " << transformName(family, length, element) << jobParameter(element)
-                << ";\n";
-        out << "}\n\nextern \"C\" KfmStatus " << registry::rowsName(family, element)
-            << parameters(family, element) << " {\n"
-            << "    static constexpr kfm::rows::Function<" << element.type
-            << ">* functions[] = {\n";
-        for (int length = family.first; length <= family.last; ++length)
-            out << "        kfm::rows::" << transformName(family, length, element) << ",\n";
-        out << "    };\n    return kfm::rows::call<" << element.type << ">(functions, "
-            << family.first
-            << ", length,\n        {{src, srcStride, srcDistance}, {dst, dstStride, dstDistance}, rows, "
-               "flag});\n}\n\n";
-    });
-    return out.str();
-}
-
-std::string withRowsDeclarations(std::string_view header) {
-    std::string text;
-    forEachVariant([&](const Family& family, const Element& element) {
-        text += "KFM_API KfmStatus " + registry::rowsName(family, element) +
-                parameters(family, element) + ";\n";
-    });
-    return renewed(std::string(header), "/* declarations of families */\n", text);
 }
 
 }   // namespace kfm::kernelgen
