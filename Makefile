@@ -10,7 +10,7 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header clean
+.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header format clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -59,6 +59,10 @@ uninstall:
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"
+
+format:
+	@tools/install-dependencies.sh format
+	@tools/format.sh
 
 clean:
 	rm -rf build

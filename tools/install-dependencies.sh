@@ -1,6 +1,6 @@
 #!/bin/sh
-# install-dependencies.sh <install|demo|test|bench>: installs the Debian packages that a goal needs
-# and this machine lacks. Does nothing when all are there, fails when some cannot be had.
+# install-dependencies.sh <goal of the Makefile>: installs the Debian packages that it needs and this
+# machine lacks. Does nothing when all are there, fails when some cannot be had.
 set -eu
 
 tool="libcli11-dev libsndfile1-dev"
@@ -9,11 +9,13 @@ case ${1:-} in
              why="to build the command-line tool" ;;
     demo)    wanted="$tool alsa-utils"
              why="to build the command-line tool and to have a recording to show" ;;
-    test)    wanted="$tool libgtest-dev googletest g++-multilib pkg-config valgrind"
+    test)    wanted="$tool libgtest-dev googletest g++-multilib pkg-config valgrind clang-format"
              why="to build the tests, also for 32 bits" ;;
     bench)   wanted="libfftw3-dev libcli11-dev g++-multilib"
              why="to measure beside other libraries, also for 32 bits" ;;
-    *) echo "usage: $0 install|demo|test|bench" >&2; exit 2 ;;
+    format)  wanted="clang-format"
+             why="to lay out the sources" ;;
+    *) echo "usage: $0 install|demo|test|bench|format" >&2; exit 2 ;;
 esac
 
 installed() {
