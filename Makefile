@@ -10,7 +10,7 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header format clean
+.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header format docs clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -63,6 +63,11 @@ header:
 format:
 	@tools/install-dependencies.sh format
 	@tools/format.sh
+
+docs:
+	@tools/install-dependencies.sh docs
+	@tools/docs.sh "$$BUILD"
+	@echo "$$BUILD/docs/index.html"
 
 clean:
 	rm -rf build

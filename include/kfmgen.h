@@ -32,9 +32,9 @@
 #ifndef KFMGEN_H
 #define KFMGEN_H
 
-/* Of this file; kfmgenGetLibVersion tells that of the library. */
+/* Version of this file; kfmgenGetLibVersion tells that of the library. */
 #define KFMGEN_VERSION_MAJOR 6
-#define KFMGEN_VERSION_MINOR 1
+#define KFMGEN_VERSION_MINOR 1 /* see KFMGEN_VERSION_MAJOR */
 
 #if defined(__GNUC__)
 #define KFM_API __attribute__((visibility("default")))
@@ -48,19 +48,20 @@
 extern "C" {
 #endif
 
-/* Element types. A complex value is its real part followed by its imaginary part. */
-typedef float Kfm32f;
-typedef double Kfm64f;
+typedef float Kfm32f;          /* a real number of single precision */
+typedef double Kfm64f;         /* a real number of double precision */
 typedef unsigned char Kfm8u;   /* a byte of a memory block */
 
+/* A complex number of single precision: its real part followed by its imaginary part. */
 typedef struct {
-    Kfm32f re;
-    Kfm32f im;
+    Kfm32f re;   /* real part */
+    Kfm32f im;   /* imaginary part */
 } Kfm32fc;
 
+/* The same of double precision. */
 typedef struct {
-    Kfm64f re;
-    Kfm64f im;
+    Kfm64f re;   /* real part */
+    Kfm64f im;   /* imaginary part */
 } Kfm64fc;
 
 /* What a call returns: kfmOk or a negative value. When a call fails, nothing has been written. */
@@ -99,23 +100,23 @@ enum {
  * Transforms without a direction say below how they read the flags.
  */
 enum {
-    kfmScaleFwdByN = 1,
-    kfmScaleInvByN = 2,
-    kfmScaleBySqrtN = 4,
-    kfmScaleNone = 8
+    kfmScaleFwdByN = 1,   /* forward transforms divide by N */
+    kfmScaleInvByN = 2,   /* inverse transforms divide by N */
+    kfmScaleBySqrtN = 4,  /* both divide by the square root of N */
+    kfmScaleNone = 8      /* neither divides */
 };
 
 /* The build of the library. The record and its strings are constant and live as long as the
  * library is loaded. */
 typedef struct {
-    int versionMajor;
-    int versionMinor;
-    int buildMajor;
-    int buildNumber;
+    int versionMajor;         /* as KFMGEN_VERSION_MAJOR when the library was built */
+    int versionMinor;         /* as KFMGEN_VERSION_MINOR */
+    int buildMajor;           /* build of that version */
+    int buildNumber;          /* number of the build */
     char targetCode[4];       /* processor generation of the kernels: "w7" and two NULs, SSE2 */
     const char *libraryName;  /* file name of the shared library */
-    const char *versionText;
-    const char *buildDate;
+    const char *versionText;  /* version and build in words */
+    const char *buildDate;    /* day of the build */
 } KfmLibraryVersion;
 
 /* The version record; the same address at every call, never null. */
@@ -1511,8 +1512,8 @@ KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int fla
  * system's cos and sin.
  * ------------------------------------------------------------------------------------------ */
 
-typedef struct KfmDCT4Spec_32f KfmDCT4Spec_32f;
-typedef struct KfmDCT4Spec_64f KfmDCT4Spec_64f;
+typedef struct KfmDCT4Spec_32f KfmDCT4Spec_32f;   /* a DCT-IV specification, single precision */
+typedef struct KfmDCT4Spec_64f KfmDCT4Spec_64f;   /* a DCT-IV specification, double precision */
 
 /* Bytes of the block that a plan of `len` needs.
  *   kfmErrSize       a length that cannot be planned; *size is left alone

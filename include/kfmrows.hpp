@@ -54,12 +54,12 @@ public:
                   take(before, behind, count - 1, distance);
     }
 
-    Value* data() const noexcept { return data_; }
-    std::size_t count() const noexcept { return count_; }
-    std::size_t length() const noexcept { return length_; }
-    std::ptrdiff_t stride() const noexcept { return stride_; }
-    std::ptrdiff_t distance() const noexcept { return distance_; }
-    bool insideArray() const noexcept { return inside_; }
+    Value* data() const noexcept { return data_; }                   // element 0 of frame 0
+    std::size_t count() const noexcept { return count_; }            // of frames
+    std::size_t length() const noexcept { return length_; }          // of each, in elements
+    std::ptrdiff_t stride() const noexcept { return stride_; }       // from element to element
+    std::ptrdiff_t distance() const noexcept { return distance_; }   // from frame to frame
+    bool insideArray() const noexcept { return inside_; }   // all elements are in the array
 
 private:
     static bool take(std::size_t& before, std::size_t& behind, std::size_t steps,
@@ -76,6 +76,7 @@ private:
     std::ptrdiff_t stride_, distance_;
     bool inside_ = true;
 };
+// Of an array of any kind.
 template <class Array>
 Frames(Array&, std::size_t)
     -> Frames<typename decltype(std::span(std::declval<Array&>()))::element_type>;

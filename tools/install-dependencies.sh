@@ -15,7 +15,9 @@ case ${1:-} in
              why="to measure beside other libraries, also for 32 bits" ;;
     format)  wanted="clang-format"
              why="to lay out the sources" ;;
-    *) echo "usage: $0 install|demo|test|bench|format" >&2; exit 2 ;;
+    docs)    wanted="doxygen graphviz"
+             why="to write the pages of the documentation" ;;
+    *) echo "usage: $0 install|demo|test|bench|format|docs" >&2; exit 2 ;;
 esac
 
 installed() {

@@ -44,7 +44,8 @@ struct KeepPlan {   // the memory is another's
 
 }   // namespace detail
 
-// `Release` tells whose memory it is: see Dct4 and Dct4In.
+// A plan for one length, which is called like a function. `Release` tells whose memory it is in: see
+// Dct4 and Dct4In.
 template <detail::Number T, class Release>
 class Dct4Plan {
     using C = detail::Dct4Functions<T>;
@@ -55,6 +56,7 @@ public:
     explicit Dct4Plan(std::size_t length) requires std::same_as<Release, detail::FreePlan<T>>
         : Dct4Plan(make(length).orThrow()) {}
 
+    // The same without exceptions.
     static Expected<Dct4Plan> make(
         std::size_t length) requires std::same_as<Release, detail::FreePlan<T>> {
         Spec* spec = nullptr;
@@ -81,14 +83,16 @@ public:
         return Dct4Plan(spec, length);
     }
 
+    // The length that is planned.
     std::size_t size() const noexcept { return length_; }
 
+    // Transforms src to dst, both of size() elements; they may be the same memory.
     Result operator()(std::span<const T> src, std::span<T> dst) {
         if (src.size() != length_ || dst.size() != length_) return kfmErrSize;
         return C::run(src.data(), dst.data(), spec_.get());
     }
 
-    // For kfmrDCT4.
+    // The plan as the C functions take it, such as kfmrDCT4_32f.
     const Spec* specification() const noexcept { return spec_.get(); }
 
 private:
@@ -98,8 +102,10 @@ private:
     std::size_t length_;
 };
 
+// A plan in memory of the library's.
 template <detail::Number T>
 using Dct4 = Dct4Plan<T, detail::FreePlan<T>>;
+// A plan in the caller's memory.
 template <detail::Number T>
 using Dct4In = Dct4Plan<T, detail::KeepPlan>;
 

@@ -28,14 +28,14 @@ enum class Scale : int {
 // Half the spectrum of a real signal: as complex bins 0 to N/2, or as N numbers.
 enum class Layout { ccs, pack, perm };
 
-struct Dft {};
-struct InverseDft {};
+struct Dft {};          // of complex numbers
+struct InverseDft {};   // of complex numbers
 template <Layout layout>
 struct RealDft {};   // from N numbers to half a spectrum
 template <Layout layout>
-struct InverseRealDft {};
-struct Hartley {};
-struct Wht {};   // Walsh-Hadamard, of a power of two
+struct InverseRealDft {};   // from half a spectrum to N numbers
+struct Hartley {};          // of N numbers
+struct Wht {};              // Walsh-Hadamard, of a power of two
 
 namespace detail {
 

@@ -21,8 +21,10 @@ public:
         if (n == 0 || values.size() != detail::spectrumSize(layout, n)) throw Error(kfmErrSize);
     }
 
+    // The number of samples, and of bins before they repeat.
     std::size_t size() const noexcept { return n_; }
 
+    // Bin k.
     std::complex<T> operator[](std::ptrdiff_t k) const noexcept {
         const auto n = static_cast<std::ptrdiff_t>(n_);
         const std::ptrdiff_t bin = ((k % n) + n) % n;
