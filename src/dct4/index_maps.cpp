@@ -24,7 +24,8 @@ void EnvLambda<Real>::init(int length, int divisor) {
 
 template <class Real>
 Real EnvLambda<Real>::value(int i) const {
-    return (static_cast<Real>(i) + Real(0.5)) / static_cast<Real>(a / b);
+    const int points = a / b;
+    return (static_cast<Real>(i) + Real(0.5)) / static_cast<Real>(points);
 }
 
 template <class Real>

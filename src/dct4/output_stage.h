@@ -15,7 +15,7 @@ struct Env4 : Environment {
 
     static int chooseRule(int d);
     static Bytes mem(int len, int d);
-    void init(void* arena, int len, int d, const EnvFSplit<Real>* split);
+    void init(void* arena, int inputLen, int divisor, const EnvFSplit<Real>* twiddles);
     KfmStatus build();
     void del();
     void compute(const Real* w, Real* dst) const;
@@ -31,7 +31,7 @@ struct Env2 : Environment {
 
     static int chooseRule(int rows);
     static Bytes mem(int len, int d);
-    void init(void* arena, int len, int d, const EnvFCompose<Real>* compose);
+    void init(void* arena, int inputLen, int divisor, const EnvFCompose<Real>* twiddles);
     KfmStatus build();
     void del();
     void compute(const Real* w, Real* dst) const {

@@ -34,7 +34,7 @@ struct Env8 : Environment {
 
     static int chooseRule(int divisor);
     static Bytes mem(int a, int divisor);
-    void init(void* arena, const SplitShape& shape, int divisor, const EnvLambda<Real>* lambda);
+    void init(void* arena, const SplitShape& shape, int splitFactor, const EnvLambda<Real>* map);
     KfmStatus build();
     void del();
     void compute(Real* rows) const;

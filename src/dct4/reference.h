@@ -50,7 +50,10 @@ class Ref {
 public:
     Ref() = default;
     Ref(const Ref&) = delete;
-    Ref& operator=(const Ref& other) { return *this = other.get(); }
+    Ref& operator=(const Ref& other) {
+        *this = other.get();
+        return *this;
+    }
     Ref& operator=(T* target) {
         storeReference(&distance_, reinterpret_cast<std::uintptr_t>(target), originOfData(this));
         return *this;

@@ -20,7 +20,7 @@ struct Plan {
         paddedRader   // the same, the convolution continued to a longer one
     };
 
-    Plan(int n);   // an integer in a factor tree: the direct module, or a power of two
+    Plan(int length);   // an integer in a factor tree: the direct module, or a power of two
 
     int n = 0;
     Kind kind = Kind::direct;

@@ -38,7 +38,7 @@ public:
     // What an operation computes, as an expression of the names of its operands.
     std::string expression(int operation);
     // The statement that stores an output.
-    std::string store(int output);
+    std::string store(int number);
     // Scale factors in other precisions and with other signs than `scale`, made once; empty where
     // nothing is scaled.
     std::string scales();

@@ -15,8 +15,8 @@ std::string describe(int order, const Element& element) {
     const std::optional<Blocking> blocking = findBlocking(element.doublePrecision, order);
     if (!blocking) return "one block in registers";
     const auto count = [](int logarithm) { return std::to_string(1 << logarithm); };
-    const std::string blocks = count(blocking->across) + " blocks of order " +
-                               std::to_string(blocking->block) + ", then across them";
+    std::string blocks = count(blocking->across) + " blocks of order " +
+                         std::to_string(blocking->block) + ", then across them";
     if (!blocking->threePasses()) return blocks;
     return count(blocking->chunks) + " chunks of " + count(blocking->chunk()) + " elements, each " +
            blocks + "; then across the chunks";

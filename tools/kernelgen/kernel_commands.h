@@ -22,10 +22,10 @@ std::vector<KernelFile> kernelFiles();
 // Before the name of a source: its kernels for rows.
 inline constexpr std::string_view rowsFolder = "rows/";
 
-// The source of one kernel; an empty schedule takes the one on record. Given one, a kernel of rows
+// The source of one kernel; an empty choice takes the schedule on record. Given one, a kernel of rows
 // takes all of them in groups.
 std::string kernelSource(std::string_view source, int length, const registry::Element& element,
-                         const Target& target, std::string_view schedule = {});
+                         const Target& target, std::string_view choice = {});
 
 // The schedules, and where vectors are wide enough the pairings, from which the tuner chooses; then
 // what may be better than the winner of those.

@@ -13,11 +13,11 @@ std::string rowsFunction(const registry::Family& family, int length,
                          const registry::Element& element);
 
 // In words, with the schedule: "4 in lanes; 24:0:1:sums:0".
-std::string describeRows(const KernelFamily& family, int length, const registry::Element& element,
+std::string describeRows(const KernelFamily& kernels, int length, const registry::Element& element,
                          const Target& target);
 
 // The C++ source of the row functions of one length and element type.
-std::string rowsKernelSource(const KernelFamily& family, int length,
+std::string rowsKernelSource(const KernelFamily& kernels, int length,
                              const registry::Element& element, const Target& target,
                              const RowsForms& forms, const ScheduleChoice& choice);
 
