@@ -12,7 +12,7 @@ std::string familyName(const std::string& family, std::optional<SpectrumLayout> 
 
 // `flag` is one of the library's scaling flags. Throws UsageError for a family or a length that
 // does not exist.
-std::unique_ptr<FrameTransform> fixedTransform(const std::string& family, int length,
+std::unique_ptr<FrameTransform> fixedTransform(const std::string& name, int length,
                                                bool doublePrecision, int flag);
 
 }   // namespace kfm::tool
