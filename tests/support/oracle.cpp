@@ -87,8 +87,7 @@ std::vector<Quad> definition(const Transform& transform, const Signal& source) {
     if (transform.walshHadamard()) return walshHadamard(source);
     // The Hartley transform is the sum of the two parts, with the sine as it is.
     const int sign = transform.inverse() || transform.hartley() ? +1 : -1;
-    const std::vector<Quad> whole =
-        complexDft(asComplex(transform, source), transform.length, sign);
+    std::vector<Quad> whole = complexDft(asComplex(transform, source), transform.length, sign);
     if (transform.element->complex) return whole;
     std::vector<Quad> result;
     for (const Slot& slot : slots(transform.destination(), transform.length))
