@@ -10,7 +10,7 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header format docs clean
+.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header format tidy docs clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -63,6 +63,10 @@ header:
 format:
 	@tools/install-dependencies.sh format
 	@tools/format.sh
+
+tidy:
+	@tools/install-dependencies.sh tidy
+	@tools/tidy.sh "$(JOBS)"
 
 docs:
 	@tools/install-dependencies.sh docs

@@ -15,9 +15,11 @@ case ${1:-} in
              why="to measure beside other libraries, also for 32 bits" ;;
     format)  wanted="clang-format"
              why="to lay out the sources" ;;
+    tidy)    wanted="$tool libgtest-dev libfftw3-dev clang clang-tidy"
+             why="to look for mistakes in the sources" ;;
     docs)    wanted="doxygen graphviz"
              why="to write the pages of the documentation" ;;
-    *) echo "usage: $0 install|demo|test|bench|format|docs" >&2; exit 2 ;;
+    *) echo "usage: $0 install|demo|test|bench|format|tidy|docs" >&2; exit 2 ;;
 esac
 
 installed() {
