@@ -20,7 +20,7 @@ struct KernelName {
 class ScheduleTable {
 public:
     // A file that does not exist is an empty table.
-    explicit ScheduleTable(std::filesystem::path file);
+    explicit ScheduleTable(std::filesystem::path path);
 
     // Empty for a kernel without a row.
     std::string find(const KernelName& kernel) const;
