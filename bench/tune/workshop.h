@@ -45,7 +45,7 @@ public:
                                        const std::string& winner = {}) const;
     // In the order of the list; of candidates with the same code only the first.
     std::vector<Candidate> make(const KernelSource& kernel,
-                                const std::vector<std::string>& schedules) const;
+                                const std::vector<std::string>& choices) const;
 
 private:
     std::string compiler(const KernelSource& kernel) const;
