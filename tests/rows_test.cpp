@@ -95,6 +95,21 @@ TEST_P(Rows, GiveTheBitsOfSingleCalls) {
     }
 }
 
+// Calls that are too large for the nearest caches go other ways, which end in a group that is not full.
+TEST_P(Rows, GiveTheBitsOfSingleCallsBeyondTheCaches) {
+    constexpr Offset bytes = 200 << 10;
+    Random random(testSeed());
+    for (int length = first(); length <= last(); length += 1 + length / 8) {
+        const Transform& one = single(length);
+        if (one.length > 64) break;
+        const auto [in, out] = elements(one);
+        const Offset rows = bytes / Offset((in + out) * elementBytes()) + length % 7;
+        compare(one, length, rows, {1, in}, {1, out}, allFlags[length % allFlags.size()],
+                Flush::end, length % 5, random);
+        if (HasFatalFailure()) return;
+    }
+}
+
 TEST_P(Rows, WorkInPlace) {
     Random random(testSeed());
     int turn = 0;

@@ -15,13 +15,30 @@ namespace kfm::rows {
 template <std::ptrdiff_t step>
 using Known = std::integral_constant<std::ptrdiff_t, step>;
 
+// A vector of rows: in a buffer, whose step is known, at a multiple of its size.
+template <class Value, int rows, class Step>
+struct VectorAt {
+    using Values = VectorOfRows<Value, rows>;
+    static constexpr bool inBuffer = !std::is_same_v<Step, std::ptrdiff_t>;
+
+    KFM_OPERATION static auto load(const Value* p) {
+        if constexpr (inBuffer) return Values::load(p);
+        else return Values::loadAnywhere(p);
+    }
+    KFM_OPERATION static void store(Value* p, typename Values::Type v) {
+        if constexpr (inBuffer) Values::store(p, v);
+        else Values::storeAnywhere(p, v);
+    }
+};
+
 template <class Value, int rows, class Step>
 struct PlainReader {
     using Values = VectorOfRows<Value, rows>;
+    using At = VectorAt<Value, rows, Step>;
     const Value* values;
     Step step;
 
-    KFM_OPERATION auto load(int i) const { return Values::loadAnywhere(values + i * step); }
+    KFM_OPERATION auto load(int i) const { return At::load(values + i * step); }
     KFM_OPERATION static auto zero() { return typename Values::Type{}; }
     KFM_OPERATION static auto everywhere(const RealOf<Value>* factor) {
         return Values::everywhere(factor);
@@ -34,12 +51,12 @@ struct PlainReader {
 
 template <class Value, int rows, class Step>
 struct PlainWriter {
-    using Values = VectorOfRows<Value, rows>;
+    using At = VectorAt<Value, rows, Step>;
     Value* values;
     Step step;
 
-    KFM_OPERATION void store(int i, typename Values::Type v) const {
-        Values::storeAnywhere(values + i * step, v);
+    KFM_OPERATION void store(int i, typename At::Values::Type v) const {
+        At::store(values + i * step, v);
     }
 };
 
@@ -52,8 +69,8 @@ struct PackedReader : PlainReader<Real, rows, Step> {
 
     KFM_OPERATION auto load(int i) const {
         if (i == 0) return Base::load(0);
-        if (n % 2 == 0 && i == n - 1) return Base::Values::loadAnywhere(last);
-        return Base::Values::loadAnywhere(others + (i - 1) * Base::step);
+        if (n % 2 == 0 && i == n - 1) return Base::At::load(last);
+        return Base::At::load(others + (i - 1) * Base::step);
     }
 };
 
@@ -62,10 +79,10 @@ struct PackedWriter : PlainWriter<Real, rows, Step> {
     using Base = PlainWriter<Real, rows, Step>;
     Real *others, *last;
 
-    KFM_OPERATION void store(int i, typename Base::Values::Type v) const {
+    KFM_OPERATION void store(int i, typename Base::At::Values::Type v) const {
         if (i == 0) Base::store(0, v);
-        else if (n % 2 == 0 && i == n - 1) Base::Values::storeAnywhere(last, v);
-        else Base::Values::storeAnywhere(others + (i - 1) * Base::step, v);
+        else if (n % 2 == 0 && i == n - 1) Base::At::store(last, v);
+        else Base::At::store(others + (i - 1) * Base::step, v);
     }
 };
 

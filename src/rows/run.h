@@ -3,6 +3,7 @@
 #pragma once
 
 #include "kfmgen.h"
+#include "rows/ahead.h"
 #include "rows/any_spacing.h"
 #include "rows/group.h"
 #include "rows/job.h"
@@ -58,8 +59,10 @@ public:
     void contiguous(Job<Value>& left) const {
         alignas(32) Value in[inSlots * rows], out[outSlots * rows];
         setZeros(out);
+        const bool far = isFar<Plain<inSlots>, Plain<outSlots>>(left);
         for (; left.rows >= rows; left.advance(rows)) {
             bringInBlocks<rows, inSlots>(left.src, in);
+            if (far) lookAhead<Plain<inSlots>, Plain<outSlots>>(left, rows);
             if constexpr (inRegisters<inSlots>)
                 Transform::run(reader<In, rows, n>(in, Known<rows>()),
                                writer<Out, rows, n>(out, Known<rows>()), factor_);
@@ -114,9 +117,13 @@ private:
     const RealOf<Value>* factor_;
 };
 
-template <class Element>
+template <class In, class Out, class Element>
 void contiguousSingly(Job<Element> left, Single<Element>* single) {
-    for (; left.rows > 0; left.advance(1)) single(left.src.data, left.dst.data, left.flag);
+    const bool far = isFar<In, Out>(left);
+    for (; left.rows > 0; left.advance(1)) {
+        if (far) lookAhead<In, Out>(left, 1);
+        single(left.src.data, left.dst.data, left.flag);
+    }
 }
 
 template <class Transform, int n, class In, class Out, class Element>
@@ -134,10 +141,13 @@ void contiguousInLanes(const Job<Element>& job, Single<Element>* single) {
 template <class Transform, int n, class In, class Out>
 void contiguousInPairs(Job<Kfm64fc> left, Single<Kfm64fc>* single) {
     const double* factor = chooseScale<Transform::direction>(Transform::scales, left.flag);
-    for (; left.rows >= 2; left.advance(2))
+    const bool far = isFar<In, Out>(left);
+    for (; left.rows >= 2; left.advance(2)) {
+        if (far) lookAhead<In, Out>(left, 2);
         Transform::run(PairReader{{left.src.data, {}}, left.src.distance},
                        PairWriter{{left.dst.data, {}}, left.dst.distance}, factor);
-    contiguousSingly(left, single);
+    }
+    contiguousSingly<In, Out>(left, single);
 }
 #endif
 

@@ -88,16 +88,20 @@ std::string function(const Family& family, int length, const Element& element,
     const std::string transform = direction(family) + "Transform, " + std::to_string(length) + ", ";
     const std::string places = layouts(family, length);
     const std::string single = registry::functionName(family, length, element);
+    const std::string singly = "contiguousSingly<" + places + ">(job, " + single + ")";
     const std::string contiguous =
         forms.contiguous == RowsForm::single
-            ? "contiguousSingly"
+            ? singly
             : (forms.contiguous == RowsForm::pairs ? "contiguousInPairs<" : "contiguousInLanes<") +
-                  transform + places + ">";
+                  transform + places + ">(job, " + single + ")";
     const std::string spaced = forms.spaced == RowsForm::single
                                    ? "spacedSingly<" + places + ">(job, " + single + ")"
                                    : "spacedInGroups<" + transform + places + ">(job)";
-    return rowsFunction(family, length, element) + " {\n    if (job.contiguous()) " + contiguous +
-           "(job, " + single + ");\n    else " + spaced + ";\n}\n";
+    std::string text =
+        rowsFunction(family, length, element) + " {\n    if (!job.contiguous()) " + spaced + ";\n";
+    if (forms.far != forms.contiguous)
+        text += "    else if (isFar<" + places + ">(job)) " + singly + ";\n";
+    return text + "    else " + contiguous + ";\n}\n";
 }
 
 }   // namespace
@@ -118,8 +122,9 @@ std::string describeRows(const KernelFamily& kernels, int length, const Element&
         const Graph graph = kernels.graph(length, element, target, false);
         return std::to_string(rowsAtOnce(graph, element, target)) + " in lanes";
     };
-    const auto [contiguous, spaced] = rowsForms(kernels.source, length, element, target);
+    const auto [contiguous, far, spaced] = rowsForms(kernels.source, length, element, target);
     std::string text = describe(contiguous);
+    if (far != contiguous) text += "; beyond the caches " + describe(far);
     if (spaced != contiguous) text += "; with strides " + describe(spaced);
     if (contiguous == RowsForm::single && spaced == RowsForm::single) return text;
     return text + "; " + rowsSchedule(kernels.source, length, element, target).text();

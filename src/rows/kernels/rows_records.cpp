@@ -13,7 +13,7 @@ RowsForms widestForms(const Element& element, const Target& target) {
     const RowsForm widest = !(element.complex && element.doublePrecision) ? RowsForm::lanes
                             : target.vectorBytes > 16                     ? RowsForm::pairs
                                                                           : RowsForm::single;
-    return {widest, widest};
+    return {widest, widest, widest};
 }
 
 RowsForms rowsForms(std::string_view source, int length, const Element& element,
@@ -33,8 +33,10 @@ RowsForms rowsForms(std::string_view source, int length, const Element& element,
             continue;
         std::istringstream lengths(row.lengths);
         const std::vector<int> all{std::istream_iterator<int>(lengths), {}};
-        if (std::ranges::count(all, length) > 0)
-            (row.spacing == "contiguous" ? forms.contiguous : forms.spaced) = RowsForm::single;
+        if (std::ranges::count(all, length) == 0) continue;
+        if (row.spacing == "spaced") forms.spaced = RowsForm::single;
+        else forms.far = RowsForm::single;
+        if (row.spacing == "contiguous") forms.contiguous = RowsForm::single;
     }
     return forms;
 }

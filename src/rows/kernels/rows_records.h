@@ -16,9 +16,9 @@ enum class RowsForm {
     pairs,    // complex elements of two rows in one vector
     lanes,    // a row in every lane
 };
-// Of contiguous rows, and of all others.
+// Of contiguous rows, of those that are too many for the nearest caches, and of all others.
 struct RowsForms {
-    RowsForm contiguous, spaced;
+    RowsForm contiguous, far, spaced;
 };
 // As many rows at a time as vectors have room for.
 RowsForms widestForms(const registry::Element& element, const Target& target);
