@@ -1,6 +1,7 @@
 #!/bin/sh
-# renew_tables.sh [folder of builds]: writes the tables of docs/measurements.md again from what
-# `make bench` measured. Above each table stands the script and the CSV it comes from:
+# renew_tables.sh [folder of builds]: writes the tables of docs/measurements.md and the picture of the
+# README again from what `make bench` measured. Above each table stands the script and the CSV that it
+# comes from:
 #   <!-- table: measurements.awk x86-64/bench.csv family=DFTFwd_CToC -->
 # Where that CSV is not there the table stays; figures within the text are for its author.
 set -eu
@@ -28,3 +29,12 @@ awk -v build="${1:-build}" '
     { skipping = 0; print }
 ' "$document" >"$renewed"
 cp "$renewed" "$document"
+
+measured=${1:-build}/x86-64
+if [ -e "$measured/bench.csv" ] && [ -e "$measured/rowsbench.csv" ]; then
+    if command -v gnuplot >/dev/null; then
+        gnuplot -e "folder='$measured'" bench/speed.gnuplot > docs/pictures/speed.svg
+    else
+        echo "The picture stays: gnuplot is not installed (Debian: gnuplot-nox)." >&2
+    fi
+fi
