@@ -1,6 +1,7 @@
 #!/bin/sh
-# install-dependencies.sh <install|demo|test|bench>: installs the Debian packages that a goal needs
-# and this machine lacks. Does nothing when all are there, fails when some cannot be had.
+# install-dependencies.sh <install|demo|test|bench|packages|test-packages>: installs the Debian
+# packages that a goal needs and this machine lacks. Does nothing when all are there, fails when some
+# cannot be had.
 set -eu
 
 tool="libcli11-dev libsndfile1-dev"
@@ -13,7 +14,13 @@ case ${1:-} in
              why="to build the tests, also for 32 bits" ;;
     bench)   wanted="libfftw3-dev libcli11-dev g++-multilib"
              why="to measure beside other libraries, also for 32 bits" ;;
-    *) echo "usage: $0 install|demo|test|bench" >&2; exit 2 ;;
+    packages)
+             wanted="$tool dpkg-dev g++-multilib file"
+             why="to build packages, also for i386" ;;
+    test-packages)
+             wanted="lintian mmdebstrap"
+             why="to check packages and to install them on a system of their own" ;;
+    *) echo "usage: $0 install|demo|test|bench|packages|test-packages" >&2; exit 2 ;;
 esac
 
 installed() {
