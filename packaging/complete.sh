@@ -21,6 +21,11 @@ programs() {
 components=runtime
 [ ! -d "$staged/tool" ] || components="$components tool"
 for component in $components; do
+    # What a package of debug symbols says of itself is what the package itself says.
+    package=$(ls "$staged/$component/usr/share/doc")
+    documents=$staged/${component}_dbgsym/usr/share/doc
+    mkdir -p "$documents"
+    ln -sfn "$package" "$documents/$package-dbgsym"
     for file in $(programs "$component"); do
         id=$(readelf -n "$file" | sed -n 's/.*Build ID: //p')
         [ -n "$id" ] || { echo "$file has no build ID for its debug symbols." >&2; exit 1; }
@@ -36,12 +41,12 @@ done
 
 cd "$control"
 printf 'Source: kfmgen\n\nPackage: %s\nArchitecture: any\n' "$runtime" > debian/control
-dpkg-gensymbols -p"$runtime" -v"$version" -P"$staged/runtime" -Osymbols
+dpkg-gensymbols -q -p"$runtime" -v"$version" -P"$staged/runtime" -Osymbols
 sed -nE "s/^(lib.*)\.so\.(.*) $runtime .*/\1 \2 $runtime (>= $version)/p" symbols > shlibs
 
 # dpkg-shlibdeps takes what a package in the making says of its libraries from its folder DEBIAN.
-mkdir "$staged/runtime/DEBIAN"
-trap 'rm -rf "$staged/runtime/DEBIAN"' EXIT
+trap 'rm -rf "$staged"/*/DEBIAN' EXIT
+for component in $components; do mkdir "$staged/$component/DEBIAN"; done
 cp symbols shlibs "$staged/runtime/DEBIAN"
 for component in $components; do
     without=

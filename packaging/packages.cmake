@@ -3,8 +3,8 @@
 set(KFM_MAINTAINER
     "Seed af296dbe maintainers <maintainers@users.noreply.c-seed-af296dbe.example>")
 set(CPACK_PACKAGE_CONTACT "${KFM_MAINTAINER}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")   # each package has its own
 set(CPACK_OUTPUT_FILE_PREFIX ${PROJECT_BINARY_DIR}/packages)
-set(CPACK_PACKAGE_CHECKSUM "")
 
 set(CPACK_SOURCE_GENERATOR TXZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME kfmgen-${PROJECT_VERSION})
@@ -30,10 +30,11 @@ set(CPACK_COMPONENTS_ALL "")
 macro(kfm_package component name)
     cmake_parse_arguments(arg "" "SECTION;DESCRIPTION;DEPENDS" "FIELDS" ${ARGN})
     string(TOUPPER ${component} upper)
-    list(JOIN arg_FIELDS "\n" fields)
+    list(PREPEND arg_FIELDS ${arg_SECTION})
+    list(JOIN arg_FIELDS "\n" section)
     list(APPEND CPACK_COMPONENTS_ALL ${component})
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})
-    set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION "${arg_SECTION}\n${fields}")
+    set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION "${section}")
     set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${arg_DEPENDS}")
     set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_DESCRIPTION}")
 endmacro()
@@ -69,7 +70,7 @@ kfm_package(runtime ${runtime} SECTION libs FIELDS "Multi-Arch: same"
     DESCRIPTION "signal transforms of short fixed length
 Complex and real DFT, Hartley and Walsh-Hadamard transforms, each length by a
 function of its own with all constants built in, and the DCT-IV of any power
-of two; the same transforms of many rows at once; aligned memory blocks.
+of two. Further, the same transforms of many rows at once.
 
 On amd64 the dynamic loader chooses code for processors with AVX2 by itself.")
 kfm_package(development libkfmgen-dev SECTION libdevel FIELDS "Multi-Arch: same"
