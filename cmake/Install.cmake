@@ -29,8 +29,12 @@ install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 set(package_dir ${CMAKE_INSTALL_DATADIR}/cmake/kfmgen)
 install(EXPORT kfmgen-targets NAMESPACE kfm:: DESTINATION ${package_dir}
         FILE kfmgen-targets-${KFM_TARGET}.cmake)
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
-    COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)
+function(kfm_version_file)
+    set(CMAKE_SIZEOF_VOID_P "")   # the file is the same for all targets
+    write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
+        COMPATIBILITY SameMajorVersion)
+endfunction()
+kfm_version_file()
 install(FILES cmake/kfmgen-config.cmake ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
         DESTINATION ${package_dir})
 

@@ -31,7 +31,8 @@ for file in $(dpkg -L $installed | sort -u); do
     ! readelf -d "$file" | grep -E 'R(UN)?PATH' || complain "$file has a run path."
     ! readelf -SW "$file" | grep -E '\.(symtab|debug)' || complain "$file is not stripped."
     rest=${id#??}
-    readelf -SW "/usr/lib/debug/.build-id/${id%"$rest"}/$rest.debug" | grep -q '\.debug_line' ||
+    readelf -SW "/usr/lib/debug/.build-id/${id%"$rest"}/$rest.debug" 2> log |
+        grep -q '\.debug_line' ||
         complain "$file has no debug symbols."
 done
 
@@ -56,8 +57,8 @@ programs() {
 }
 programs x86_64-linux-gnu "$v3"
 programs i386-linux-gnu "" -m32
-printf '%s\n' 1 0 0 0 > impulse.txt
-[ "$(kfmgen transform --length 4 impulse.txt | grep -c ',1,0$')" -eq 4 ] ||
+printf '%s\n' 1 0 0 0 0 0 0 0 > impulse.txt
+[ "$(kfmgen transform --length 8 impulse.txt | grep -c ',1,0$')" -eq 8 ] ||
     complain "The spectrum of an impulse is not flat."
 
 quietly apt-get purge -y --autoremove $installed

@@ -15,18 +15,8 @@ fail() { echo "$*" >&2; exit 1; }
 ls "$packages"/*.deb "$packages"/*.tar.xz > /dev/null || fail "There are none: make packages"
 mkdir -p "$scratch"
 
-echo "lintian"
+echo "Looked at by lintian"
 lintian --fail-on error,warning "$packages"/*.deb
-
-echo "Sources"
-sources=$scratch/sources
-rm -rf "$sources"
-mkdir "$sources"
-tar -C "$sources" -xf "$packages"/*.tar.xz
-TARGETS=x86-64 GOAL=kfmgenw7 BUILD=build \
-    unshare --net "$sources"/kfmgen-*/tools/build.sh "${JOBS:-1}" > "$scratch/sources.log" 2>&1 ||
-    { tail -20 "$scratch/sources.log"; fail "The sources do not build."; }
-rm -rf "$sources"
 
 # No updates: they may be of different age for the two architectures, which then exclude each other.
 apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' \
@@ -44,7 +34,7 @@ if [ ! -e "$system" ]; then
     mv "$system.part.tar" "$system"
 fi
 
-echo "Installed"
+echo "Installed, used and purged"
 root=$scratch/root
 rm -rf --one-file-system "$root"
 mkdir -p "$root"
@@ -62,4 +52,14 @@ unshare --mount --pid --fork --kill-child sh -euc '
         DEBIAN_FRONTEND=noninteractive chroot "$1" /work/installed_test.sh "$2"
     ' sh "$root" "$source"
 rm -rf --one-file-system "$root"
+
+echo "Built from the sources"
+sources=$scratch/sources
+rm -rf "$sources"
+mkdir "$sources"
+tar -C "$sources" -xf "$packages"/*.tar.xz
+TARGETS=x86-64 GOAL=kfmgenw7 BUILD=build \
+    unshare --net "$sources"/kfmgen-*/tools/build.sh "${JOBS:-1}" > "$scratch/sources.log" 2>&1 ||
+    { tail -20 "$scratch/sources.log"; fail "The sources do not build."; }
+rm -rf "$sources"
 echo "All packages are fit to be installed."
