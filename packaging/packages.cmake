@@ -39,7 +39,7 @@ macro(kfm_package component name)
     set(CPACK_DEBIAN_${upper}_DESCRIPTION "${arg_DESCRIPTION}")
 endmacro()
 
-# kfm_debug_symbols(<component>): the package of what complete.sh takes out of the component's files.
+# kfm_debug_symbols(<component>): the package of what complete.sh takes out of a component's files.
 macro(kfm_debug_symbols component)
     string(TOUPPER ${component} upper)
     set(package ${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
@@ -50,7 +50,7 @@ macro(kfm_debug_symbols component)
     install(DIRECTORY DESTINATION lib/debug/.build-id COMPONENT ${component}_dbgsym)
 endmacro()
 
-# kfm_documents(<component>): what every package says of itself.
+# kfm_documents(<component> <package>): what every package says of itself.
 function(kfm_documents component package)
     install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright ${PROJECT_BINARY_DIR}/changelog
         DESTINATION share/doc/${package} COMPONENT ${component})

@@ -20,7 +20,7 @@ quietly apt-get install -y --no-install-recommends ./*.deb
 installed=$(for deb in *.deb; do
     echo "$(dpkg-deb -f "$deb" Package):$(dpkg-deb -f "$deb" Architecture)"
 done)
-dpkg --verify $installed
+[ -z "$(dpkg --verify $installed | tee /dev/stderr)" ] || complain "That was packed otherwise."
 
 for file in $(dpkg -L $installed | sort -u); do
     [ -f "$file" ] && [ ! -L "$file" ] || continue
