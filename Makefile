@@ -10,7 +10,8 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench tune install uninstall header format tidy docs clean
+.PHONY: all test test-sanitized memcheck demo bench tune install uninstall packages test-packages \
+	header format tidy docs clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -56,6 +57,14 @@ install:
 
 uninstall:
 	@tools/uninstall.sh "$(PREFIX)" $$(sed "s,[^ ]*,$$BUILD/&,g" "$$BUILD/targets")
+
+packages:
+	@tools/install-dependencies.sh packages
+	@packaging/build.sh "$(JOBS)"
+
+test-packages:
+	@tools/install-dependencies.sh test-packages
+	@tests/packages/packages_test.sh "$$BUILD/packages"
 
 header:
 	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"

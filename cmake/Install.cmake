@@ -1,5 +1,7 @@
 # Installation: libraries with their development links, headers, pkg-config files, CMake package.
+# Component "runtime" is what programs need to run, "development" to be built; the tool's is "tool".
 include(CMakePackageConfigHelpers)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 
 # The loader prefers any variant to the base library: one that is there already is of another build.
 install(CODE "
@@ -10,15 +12,16 @@ install(CODE "
         \"\${folders}/$<TARGET_FILE_NAME:kfmrows>\")
     if(variants)
         file(REMOVE \${variants})
-    endif()")
+    endif()" COMPONENT runtime)
 install(TARGETS kfmgenw7 kfmrows kfmcore kfmgen-static EXPORT kfmgen-targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 get_property(variants GLOBAL PROPERTY KFM_VARIANTS)
 foreach(variant IN LISTS variants)
     get_target_property(folder ${variant} KFM_FOLDER)
     install(TARGETS ${variant}
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} NAMELINK_SKIP)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${folder} COMPONENT runtime NAMELINK_SKIP)
 endforeach()
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
@@ -26,8 +29,12 @@ install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 set(package_dir ${CMAKE_INSTALL_DATADIR}/cmake/kfmgen)
 install(EXPORT kfmgen-targets NAMESPACE kfm:: DESTINATION ${package_dir}
         FILE kfmgen-targets-${KFM_TARGET}.cmake)
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
-    COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)
+function(kfm_version_file)
+    set(CMAKE_SIZEOF_VOID_P "")   # the file is the same for all targets
+    write_basic_package_version_file(${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
+        COMPATIBILITY SameMajorVersion)
+endfunction()
+kfm_version_file()
 install(FILES cmake/kfmgen-config.cmake ${PROJECT_BINARY_DIR}/kfmgen-config-version.cmake
         DESTINATION ${package_dir})
 

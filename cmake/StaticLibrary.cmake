@@ -23,4 +23,4 @@ foreach(library IN ITEMS kfmcore kfmgenw7 kfmrows)
         COMMAND ${CMAKE_COMMAND} -E create_symlink libkfmgen.a lib${library}.a
         WORKING_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY} VERBATIM)
 endforeach()
-install(FILES ${names} DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES ${names} DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)

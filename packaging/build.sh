@@ -1,0 +1,20 @@
+#!/bin/sh
+# build.sh <jobs>: builds each target below $BUILD/packages and leaves its Debian packages and the
+# sources as an archive in that folder.
+set -eu
+cd "$(dirname "$0")/.."
+export BUILD="${BUILD:-build}/packages"
+mkdir -p "$BUILD"
+rm -f "$BUILD"/*.deb "$BUILD"/*.tar.xz
+tools/build.sh "$1" -DKFM_BUILD_TOOL=ON -DKFM_PACKAGES=ON
+for target in $(cat "$BUILD/targets"); do
+    (cd "$BUILD/$target" && rm -rf packages && cpack -G DEB > cpack.log 2>&1) ||
+        { cat "$BUILD/$target/cpack.log"; exit 1; }
+    mv "$BUILD/$target"/packages/*.deb "$BUILD"
+done
+cd "$BUILD/x86-64"
+cpack --config CPackSourceConfig.cmake > cpack.log 2>&1 ||
+    { cat cpack.log; exit 1; }
+mv packages/*.tar.xz ..
+cd ..
+du -h ./*.deb ./*.tar.xz
