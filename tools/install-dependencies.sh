@@ -7,9 +7,9 @@ tool="libcli11-dev libsndfile1-dev"
 case ${1:-} in
     install) wanted=$tool
              why="to build the command-line tool" ;;
-    demo)    wanted="$tool alsa-utils"
+    demo)    wanted="$tool alsa-utils gnuplot-nox"
              why="to build the command-line tool and to have a recording to show" ;;
-    test)    wanted="$tool libgtest-dev googletest g++-multilib pkg-config valgrind"
+    test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind"
              why="to build the tests, also for 32 bits" ;;
     bench)   wanted="libfftw3-dev libcli11-dev g++-multilib"
              why="to measure beside other libraries, also for 32 bits" ;;

@@ -83,7 +83,7 @@ void TextSource::checkNumbers() {
 }
 
 std::size_t TextSource::fill(std::span<double> values) {
-    const std::size_t width = demand().complex ? 2 : 1;
+    const std::size_t width = choice_ ? choice_->width() : 1;
     std::size_t count = 0;
     while ((count + 1) * width <= values.size() && nextRow()) readRow(&values[width * count++]);
     if (labels_ && (count + 1) * width <= values.size())
