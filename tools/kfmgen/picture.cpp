@@ -34,13 +34,14 @@ void addPicture(CLI::App& command, PictureOptions& options, bool framesWithoutPi
                                              "picture to draw by gnuplot, NAME.png or NAME.svg; "
                                              "without it a page for the terminal");
     output->type_name("FILE");
+    const std::string defaultWindow =
+        std::string_view(options.window.name) == window::hann.name ? "hann" : "blackman-harris";
     const auto frames = {
         addChoice<window::Shape>(command, "--window", options.window,
                                  {{"hann", window::hann},
                                   {"blackman-harris", window::blackmanHarris},
                                   {"none", window::none}},
-                                 "window of the frames; hann for a spectrogram and "
-                                 "blackman-harris for a spectrum if not given"),
+                                 "window of the frames; " + defaultWindow + " if not given"),
         addNumber(command, "--length", options.length, shortest, longest,
                   "samples in a frame, a power of two; as fits the rate if not given"),
         command

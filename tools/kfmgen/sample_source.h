@@ -50,6 +50,13 @@ struct Demand {
     std::string taker = "this command";   // who wants it, for messages
 };
 
+// What a text may say of the samples that its frames were made of, in lines "# rate 48000" and
+// "# samples 100".
+struct Notes {
+    int rate = 0;
+    std::optional<std::uint64_t> samples;
+};
+
 enum class SourceKind { text, sound, raw };
 
 class SampleSource {
@@ -66,6 +73,7 @@ public:
     virtual int rate() const { return 0; }   // samples per second; a text has none
     virtual int channels() const = 0;        // in the file, whatever was chosen
     virtual std::optional<std::uint64_t> count() const { return std::nullopt; }   // where known
+    virtual Notes notes() const { return {}; }      // among the lines read so far
     virtual bool framed() const { return false; }   // rows say their frame
 
     const std::string& name() const { return name_; }   // as messages call it

@@ -12,8 +12,8 @@ void addSpectrum(CLI::App& app, std::ostream& page) {
         InputOptions input;
         SpectrumOptions spectrum;
     };
-    CLI::App& command = *app.add_subcommand(
-        "spectrum", "Show the strongest tones of a sound over time, or draw its mean spectrum");
+    CLI::App& command =
+        *app.add_subcommand("spectrum", "Show the tones of a sound, or draw its spectrum");
     const auto options = std::make_shared<Options>();
     options->spectrum.picture.window = window::blackmanHarris;
     addInput(command, options->input, "sound; standard input if not given or -");

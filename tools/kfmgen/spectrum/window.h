@@ -12,6 +12,7 @@ namespace kfm::tool::window {
 struct Shape {
     const char* name;
     std::array<double, 4> terms;
+    bool root = false;   // the square root of the sum
 };
 
 // Of four terms: what lies four units (FrequencyGrid::unit) or more beside a tone is 92 dB below
@@ -20,14 +21,17 @@ inline constexpr Shape blackmanHarris = {"Blackman-Harris", {0.35875, -0.48829, 
 inline constexpr double sidelobes = -92;   // dB
 
 inline constexpr Shape hann = {"Hann", {0.5, -0.5}};
+inline constexpr Shape rootHann = {"square root of the Hann", {0.5, -0.5}, true};
 inline constexpr Shape none = {"no", {1}};
 
 // At the middles of `length` equal parts, so that the window of one sample is no zero.
 inline std::vector<double> weights(const Shape& shape, std::size_t length) {
     std::vector<double> weights(length);
-    for (std::size_t n = 0; n < length; ++n)
+    for (std::size_t n = 0; n < length; ++n) {
         for (std::size_t j = 0; j < shape.terms.size(); ++j)
             weights[n] += shape.terms[j] * std::cos(2 * std::numbers::pi * j * (n + 0.5) / length);
+        if (shape.root) weights[n] = std::sqrt(weights[n]);
+    }
     return weights;
 }
 
