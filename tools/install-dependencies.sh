@@ -9,9 +9,10 @@ case ${1:-} in
              why="to build the command-line tool" ;;
     demo)    wanted="$tool alsa-utils"
              why="to build the command-line tool and to have a recording to show" ;;
-    test)    wanted="$tool libgtest-dev googletest g++-multilib pkg-config valgrind clang-format"
+    test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind
+                     clang-format"
              why="to build the tests, also for 32 bits" ;;
-    bench)   wanted="libfftw3-dev libcli11-dev g++-multilib"
+    bench)   wanted="libfftw3-dev libcli11-dev g++-multilib gnuplot-nox"
              why="to measure beside other libraries, also for 32 bits" ;;
     format)  wanted="clang-format"
              why="to lay out the sources" ;;

@@ -21,6 +21,8 @@ public:
     // Throws InputError when there is no such choice among these channels.
     ChannelChoice(const Channels& wanted, const Demand& demand, const ChannelsThere& there);
 
+    std::size_t width() const { return width_; }   // values per sample
+
     // Makes one sample of the channels of one moment. Returns what is wrong with it, if anything.
     std::string make(std::span<const double> channels, double* sample) const;
 
@@ -30,6 +32,8 @@ private:
     static constexpr int none = -1, all = -2;
 
     Demand demand_;
+    std::size_t width_;
+    bool each_ = false;
     int re_ = 0;
     int im_ = none;
 };

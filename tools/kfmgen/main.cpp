@@ -2,76 +2,17 @@
 #include <signal.h>
 
 #include <iostream>
-#include <limits>
 #include <new>
 #include <sstream>
 
+#include "commands.h"
 #include "descriptor.h"
 #include "kfmgen.h"
-#include "listing.h"
 #include "options.h"
 #include "output_file.h"
-#include "spectrum.h"
-#include "transform.h"
 
 namespace kfm::tool {
 namespace {
-
-void addTransform(CLI::App& app, TransformOptions& options) {
-    CLI::App& command =
-        *app.add_subcommand("transform", "Transform successive frames of a signal; CSV out");
-    addInput(command, options.input,
-             "sound, or text with a sample per line; standard input if not given or -. The inverse "
-             "real DFT takes bins 0 to length/2 of each frame");
-    command
-        .add_option("-o,--output", options.output,
-                    "CSV file, replaced when all is done; standard output if not given or -")
-        ->type_name("FILE");
-    command
-        .add_option("--family", options.choice.family,
-                    "family, see `kfmgen list`; DFTFwd_CToC if not given. With --layout the "
-                    "direction of the real DFT: DFTFwd (default) or DFTInv")
-        ->type_name("NAME");
-    addChoice<SpectrumLayout>(command, "--layout", options.choice.layout,
-                              {{"ccs", SpectrumLayout::ccs},
-                               {"pack", SpectrumLayout::pack},
-                               {"perm", SpectrumLayout::perm}},
-                              "real DFT by the functions for this packed layout");
-    constexpr int most = std::numeric_limits<int>::max();
-    addNumber(command, "--length", options.choice.length, -most, most, "length of the transform")
-        ->required();
-    addNumber(command, "--hop", options.hop, 1, most,
-              "samples (bins, if bins come in) from frame to frame; the whole frame if not given");
-    addChoice<int>(command, "--flag", options.choice.flag,
-                   {{"none", kfmScaleNone},
-                    {"fwd-by-n", kfmScaleFwdByN},
-                    {"inv-by-n", kfmScaleInvByN},
-                    {"by-sqrt-n", kfmScaleBySqrtN}},
-                   "scaling; none if not given");
-    addChoice<bool>(command, "--precision", options.choice.doublePrecision,
-                    {{"single", false}, {"double", true}},
-                    "single if not given; results that are too large for it are an error");
-    addChoice<Tail>(command, "--tail", options.tail, {{"pad", Tail::pad}, {"drop", Tail::drop}},
-                    "last samples that do not fill a frame: pad with zeros (default) or drop");
-    command.callback([&options] { runTransform(options); });
-}
-
-void addSpectrum(CLI::App& app, InputOptions& input, double& slice, std::ostream& out) {
-    CLI::App& command =
-        *app.add_subcommand("spectrum", "Show the strongest tones of a sound over time");
-    addInput(command, input, "sound; standard input if not given or -");
-    addNumber(command, "--slice", slice, 0.01, 3600, "seconds per row; fits a screen if not given");
-    command.callback([&] { showSpectrum(input, slice, out); });
-}
-
-void addListings(CLI::App& app, bool& names, std::ostream& out) {
-    app.add_subcommand("info", "Show which build of the library this is")->callback([&out] {
-        printInfo(out);
-    });
-    CLI::App& list = *app.add_subcommand("list", "Show families, lengths and element types");
-    list.add_flag("--names", names, "names of all functions instead");
-    list.callback([&names, &out] { names ? printFunctionNames(out) : printFamilies(out); });
-}
 
 std::string version() {
     const KfmLibraryVersion& library = *kfmgenGetLibVersion();
@@ -97,13 +38,10 @@ void run(int argc, char** argv) {
     app.set_version_flag("--version", version(), "Show the version and exit");
     app.footer(exitStatusHelp());
     std::ostringstream page;
-    TransformOptions transform;
-    InputOptions sound;
-    double slice = 0;
-    bool names = false;
-    addListings(app, names, page);
-    addTransform(app, transform);
-    addSpectrum(app, sound, slice, page);
+    addListings(app, page);
+    addTransform(app);
+    addSpectrum(app, page);
+    addSpectrogram(app, page);
     for (CLI::App* command : app.get_subcommands({})) foldHelp(*command);
     parse(app, argc, argv, page);
 

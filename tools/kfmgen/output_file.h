@@ -28,11 +28,14 @@ public:
 
     void complete();
 
+    // For who writes it otherwise; then nothing by write().
+    int descriptor() const { return descriptor_.number(); }
+    [[noreturn]] void fail(int error) const;
+
 private:
     void openBeside(const std::string& target, const struct stat* old);
     void makeRoom(std::size_t size);
     void flush();
-    [[noreturn]] void fail(int error) const;
 
     std::string name_;   // for messages
     Descriptor descriptor_;

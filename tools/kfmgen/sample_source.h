@@ -4,7 +4,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -19,6 +21,7 @@ struct Channels {
         unset,     // the only one; columns named re and im are a complex sample
         one,       // `number`, from 1 on
         mix,       // the mean of all
+        each,      // every one for itself: a sample has as many values
         complex,   // the first is the real, the second the imaginary part
     };
     Use use = Use::unset;
@@ -47,20 +50,30 @@ struct Demand {
     std::string taker = "this command";   // who wants it, for messages
 };
 
+// What a text may say of the samples that its frames were made of, in lines "# rate 48000" and
+// "# samples 100".
+struct Notes {
+    int rate = 0;
+    std::optional<std::uint64_t> samples;
+};
+
 enum class SourceKind { text, sound, raw };
 
 class SampleSource {
 public:
     virtual ~SampleSource() = default;
 
-    // Fills whole samples of one value, or two where complex ones are demanded. Returns how many
-    // samples; fewer than there is room for only at the end. Values are finite, full scale of a
+    // Fills whole samples of one value, or two where complex ones are demanded, or one per channel
+    // where each is chosen. Returns how many samples; fewer than there is room for only at the end.
+    // Values are finite, full scale of a
     // sound is 1. Throws InputError for what cannot be read, is not all there, or is empty.
     std::size_t read(std::span<double> values);
 
     virtual SourceKind kind() const = 0;
-    virtual int rate() const { return 0; }          // samples per second; a text has none
-    virtual int channels() const = 0;               // in the file, whatever was chosen
+    virtual int rate() const { return 0; }   // samples per second; a text has none
+    virtual int channels() const = 0;        // in the file, whatever was chosen
+    virtual std::optional<std::uint64_t> count() const { return std::nullopt; }   // where known
+    virtual Notes notes() const { return {}; }      // among the lines read so far
     virtual bool framed() const { return false; }   // rows say their frame
 
     const std::string& name() const { return name_; }   // as messages call it

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <string_view>
 
 namespace kfm::tool {
@@ -153,6 +152,11 @@ void SoundFile::checkEnd() const {
 
 void SoundFile::fail(const std::string& what) const {
     throw InputError(stream_.file.name() + ": " + what);
+}
+
+std::optional<std::uint64_t> SoundFile::count() const {
+    if (openEnded()) return std::nullopt;
+    return info_.frames;
 }
 
 // Who writes a sound into a pipe does not know its length and puts the largest in its place.

@@ -4,7 +4,9 @@
 
 #include <sndfile.h>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "input_file.h"
 #include "sample_source.h"
@@ -20,6 +22,7 @@ public:
     explicit operator bool() const { return handle_ != nullptr; }
     int channels() const { return info_.channels; }
     int rate() const { return info_.samplerate; }
+    std::optional<std::uint64_t> count() const;   // of moments, as the header says
 
     // Moments of one sample per channel. Returns how many; fewer than there is room for only at the
     // end. Throws InputError where the file cannot be read on or ends before its time.

@@ -25,6 +25,7 @@ public:
     SourceKind kind() const override { return kind_; }
     int rate() const override { return sound_->rate(); }
     int channels() const override { return sound_->channels(); }
+    std::optional<std::uint64_t> count() const override { return sound_->count(); }
 
 private:
     std::size_t fill(std::span<double> values) override;
@@ -40,7 +41,7 @@ private:
 
 std::size_t SoundSource::fill(std::span<double> values) {
     const std::size_t channels = sound_->channels();
-    const std::size_t width = demand().complex ? 2 : 1;
+    const std::size_t width = choice_.width();
     const std::size_t wanted = values.size() / width;
     std::size_t count = 0;
     for (; count < wanted; ++count, ++begin_, ++delivered_) {

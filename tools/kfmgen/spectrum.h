@@ -1,13 +1,20 @@
-// `kfmgen spectrum`: the tones of a sound over time.
+// `kfmgen spectrum`: the tones of a sound over time as a page, its mean spectrum as a picture.
 #pragma once
 
 #include <ostream>
 
+#include "picture.h"
 #include "sample_source.h"
 
 namespace kfm::tool {
 
-// With `sliceSeconds` 0 the slices are as long as it takes to fit a screen.
-void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& out);
+struct SpectrumOptions {
+    double sliceSeconds = 0;   // of the page; 0: as long as it takes to fit a screen
+    PictureOptions picture;
+    bool logarithmic = true;
+};
+
+void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& page);
+void drawSpectrum(const InputOptions& input, const SpectrumOptions& options);
 
 }   // namespace kfm::tool

@@ -1,5 +1,6 @@
 #include "text_source.h"
 
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -20,11 +21,13 @@ public:
 
     SourceKind kind() const override { return SourceKind::text; }
     int channels() const override { return static_cast<int>(columns_.data.size()); }
+    Notes notes() const override { return notes_; }
     bool framed() const override { return columns_.framed; }
 
 private:
     std::size_t fill(std::span<double> values) override;
     bool nextRow();
+    void note(std::string_view line);
     void checkNumbers();
     void readRow(double* sample);
     void checkLabels();
@@ -34,6 +37,7 @@ private:
 
     std::unique_ptr<InputFile> file_;
     LineReader lines_;
+    Notes notes_;
     TextColumns columns_;
     std::optional<ChannelChoice> choice_;
     std::optional<FrameLabels> labels_;
@@ -71,9 +75,21 @@ bool TextSource::nextRow() {
     if (std::exchange(held_, false)) return true;
     while (const auto line = lines_.next()) {
         row_ = trimmed(*line);
-        if (!row_.empty() && row_.front() != '#') return true;
+        if (row_.starts_with('#')) note(row_);
+        else if (!row_.empty()) return true;
     }
     return false;
+}
+
+// Other remarks are anybody's.
+void TextSource::note(std::string_view line) {
+    split(line, blanks, fields_);
+    if (fields_.size() != 3 || fields_[0] != "#") return;
+    const Parsed<std::int64_t> number = wholeNumber(fields_[2]);
+    if (number.trouble || number.value < 1) return;
+    if (fields_[1] == "samples") notes_.samples = number.value;
+    if (fields_[1] == "rate" && number.value <= std::numeric_limits<int>::max())
+        notes_.rate = static_cast<int>(number.value);
 }
 
 // A first line in words is no row of so many channels.
@@ -83,7 +99,7 @@ void TextSource::checkNumbers() {
 }
 
 std::size_t TextSource::fill(std::span<double> values) {
-    const std::size_t width = demand().complex ? 2 : 1;
+    const std::size_t width = choice_ ? choice_->width() : 1;
     std::size_t count = 0;
     while ((count + 1) * width <= values.size() && nextRow()) readRow(&values[width * count++]);
     if (labels_ && (count + 1) * width <= values.size())

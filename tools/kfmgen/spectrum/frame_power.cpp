@@ -5,8 +5,6 @@
 #include <numeric>
 #include <stdexcept>
 
-#include "window.h"
-
 namespace kfm::tool {
 namespace {
 
@@ -21,13 +19,13 @@ int commonExponent(std::span<const double> samples) {
 
 }   // namespace
 
-FramePower::FramePower(std::size_t bins)
-    : plan_(static_cast<int>(bins)), ahead_(bins), reversed_(bins) {
+FramePower::FramePower(std::size_t bins, const window::Shape& shape)
+    : shape_(shape), plan_(static_cast<int>(bins)), ahead_(bins), reversed_(bins) {
     if (!plan_) throw std::logic_error("no DCT-IV of this length");
 }
 
 void FramePower::setWindow(std::size_t length) {
-    window_ = window::weights(length);
+    window_ = window::weights(shape_, length);
     const double gain = std::accumulate(window_.begin(), window_.end(), 0.0) / 2;
     for (double& weight : window_) weight /= gain;
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dct4_plan.h"
+#include "window.h"
 
 namespace kfm::tool {
 
@@ -21,7 +22,7 @@ struct FramePowers {
 class FramePower {
 public:
     // `bins` is a length of the DCT-IV.
-    explicit FramePower(std::size_t bins);
+    explicit FramePower(std::size_t bins, const window::Shape& shape = window::blackmanHarris);
 
     // Of at least one and at most `bins` finite samples, under a window of as many, without their
     // mean. Valid until the next call.
@@ -31,6 +32,7 @@ private:
     void setWindow(std::size_t length);
     void windowed(std::span<const double> samples, double scale);
 
+    window::Shape shape_;
     Dct4Plan<Kfm64f> plan_;
     std::vector<double> window_;   // a sine of amplitude 1 has power 1 under it
     std::vector<double> ahead_;

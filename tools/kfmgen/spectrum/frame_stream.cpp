@@ -4,9 +4,10 @@
 
 namespace kfm::tool {
 
-FrameStream::FrameStream(std::size_t length, Visit visit)
-    : length_(length), power_(length), visit_(std::move(visit)) {
-    recent_.reserve(length + hop(length));
+FrameStream::FrameStream(const FrameShape& shape, Visit visit)
+    : length_(shape.length), hop_(shape.hop), power_(shape.length, shape.window),
+      visit_(std::move(visit)) {
+    recent_.reserve(length_ + hop_);
 }
 
 // The frame at the end of `recent_` stands for all samples that no frame stood for, but for
@@ -21,12 +22,12 @@ void FrameStream::visitLast(std::size_t after) {
 
 void FrameStream::add(std::span<const double> samples) {
     while (!samples.empty()) {
-        const std::size_t full = recent_.size() < length_ ? length_ : length_ + hop(length_);
+        const std::size_t full = recent_.size() < length_ ? length_ : length_ + hop_;
         const std::size_t taken = std::min(samples.size(), full - recent_.size());
         recent_.insert(recent_.end(), samples.begin(), samples.begin() + taken);
         samples = samples.subspan(taken);
         if (recent_.size() < full) return;
-        visitLast(length_ / 2 - hop(length_) / 2);
+        visitLast((length_ - hop_) / 2);
         const std::size_t surplus = recent_.size() - length_;
         recent_.erase(recent_.begin(), recent_.begin() + surplus);
         done_ -= surplus;

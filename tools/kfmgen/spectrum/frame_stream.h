@@ -1,5 +1,4 @@
-// Frames of a stream of samples with their powers: each begins a quarter of a frame after the
-// one before, so that under the window all samples weigh alike within a quarter of a decibel.
+// Frames of a stream of samples with their powers.
 #pragma once
 
 #include <cstdint>
@@ -17,23 +16,27 @@ struct Frame {
     FramePowers powers;
 };
 
+// `length` is a length of the DCT-IV and even, `hop` no longer.
+struct FrameShape {
+    std::size_t length;
+    std::size_t hop;   // from the start of one frame to the start of the next
+    window::Shape window;
+};
+
 class FrameStream {
 public:
     using Visit = std::function<void(const Frame&)>;
 
-    // `length` is a length of the DCT-IV and a multiple of 8.
-    FrameStream(std::size_t length, Visit visit);
+    FrameStream(const FrameShape& shape, Visit visit);
 
     void add(std::span<const double> samples);
     // The last frame ends with the last sample. A stream shorter than a frame is one frame.
     void finish();
 
-    static std::size_t hop(std::size_t length) { return length / 4; }
-
 private:
     void visitLast(std::size_t after);
 
-    std::size_t length_;
+    std::size_t length_, hop_;
     FramePower power_;
     Visit visit_;
     std::vector<double> recent_;   // a frame and the hop that follows

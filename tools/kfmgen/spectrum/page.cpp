@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <cstdio>
 
+#include "bands.h"
+#include "page_text.h"
 #include "window.h"
 
 namespace kfm::tool {
@@ -12,46 +12,7 @@ namespace {
 
 constexpr std::size_t tonesPerRow = 3;
 constexpr std::size_t tonesOverall = 8;
-constexpr double silence = -150;   // dB; what is below is fainter than a sound file can be
 constexpr double columnsPerOctave = 3;
-constexpr double dbPerShade = 6;
-constexpr std::string_view ramp = " .:-=+*#%@";
-constexpr std::size_t pageWidth = 80;
-
-template <class... Values>
-std::string format(const char* pattern, Values... values) {
-    std::string text(std::snprintf(nullptr, 0, pattern, values...), '\0');
-    std::snprintf(text.data(), text.size() + 1, pattern, values...);
-    return text;
-}
-
-// With a suffix where the value would not fit seven characters.
-std::string hertz(double frequency, int decimals) {
-    if (frequency < 99999) return format("%.*f", decimals, frequency);
-    if (frequency < 99999e3) return format("%.1fk", frequency / 1e3);
-    return format("%.1fM", frequency / 1e6);
-}
-
-// Three digits of a frequency difference.
-std::string difference(double frequency) {
-    return frequency < 1e3   ? format("%.3g", frequency)
-           : frequency < 1e6 ? format("%.3gk", frequency / 1e3)
-                             : format("%.3gM", frequency / 1e6);
-}
-
-std::string samples(std::uint64_t count) {
-    return std::to_string(count) + (count == 1 ? " sample" : " samples");
-}
-
-std::string level(double decibels) {
-    if (decibels < silence) return "    silent";
-    return format("%7.1f dB", std::round(10 * decibels) / 10 + 0.0);   // no negative zero
-}
-
-// Enough decimals to tell multiples of `step` apart.
-int decimals(double step) {
-    return std::clamp(static_cast<int>(std::ceil(-std::log10(step) - 1e-9)), 0, 5);
-}
 
 std::size_t columnCount(const FrequencyGrid& grid) {
     const double octaves = std::log2(grid.highest() / grid.lowest());
@@ -60,24 +21,12 @@ std::size_t columnCount(const FrequencyGrid& grid) {
 
 // The strongest bin of each column.
 std::vector<float> columnLevels(const PowerSpectrum& spectrum, const FrequencyGrid& grid) {
+    const Bands columns(grid, proportionalBands(grid.lowest(), std::exp2(1 / columnsPerOctave),
+                                                columnCount(grid)));
     std::vector<float> levels;
-    const auto firstBin = [&](std::size_t column) {
-        const double edge = grid.lowest() * std::exp2(column / columnsPerOctave);
-        return std::min(grid.bins - 1, grid.firstBin(edge));
-    };
-    for (std::size_t column = 0; column < columnCount(grid); ++column) {
-        const auto bins = spectrum.powers().subspan(
-            firstBin(column), std::max<std::size_t>(1, firstBin(column + 1) - firstBin(column)));
-        levels.push_back(spectrum.decibels(*std::ranges::max_element(bins)));
-    }
+    for (std::size_t column = 0; column < columns.count(); ++column)
+        levels.push_back(spectrum.decibels(columns.strongest(spectrum.powers(), column)));
     return levels;
-}
-
-char shade(double level, double loudest) {
-    if (level < silence) return ramp.front();
-    const double steps = (loudest - level) / dbPerShade;
-    const std::size_t top = ramp.size() - 1;
-    return ramp[top - static_cast<std::size_t>(std::min<double>(top, steps))];
 }
 
 std::vector<Peak> audible(std::vector<Peak> peaks) {
@@ -90,20 +39,13 @@ std::string axis(const FrequencyGrid& grid) {
     std::string text(columnCount(grid), ' ');
     for (double tick = 1; tick < grid.highest(); tick *= 10) {
         if (tick < grid.lowest()) continue;
-        const std::string label = tick < 1e3   ? format("%.0f", tick)
-                                  : tick < 1e6 ? format("%.0fk", tick / 1e3)
-                                               : format("%.0fM", tick / 1e6);
+        const std::string label = roundHertz(tick);
         const std::size_t column =
             static_cast<std::size_t>(std::log2(tick / grid.lowest()) * columnsPerOctave);
         if (column + label.size() + 1 <= text.size())
             text.replace(column, label.size() + 1, "|" + label);
     }
     return text;
-}
-
-std::string cut(const std::string& name) {
-    if (name.size() <= pageWidth) return name;
-    return "..." + name.substr(name.size() - (pageWidth - 3));
 }
 
 void printSubject(const SpectrumPage::Subject& subject, const Slice& whole,
@@ -113,7 +55,7 @@ void printSubject(const SpectrumPage::Subject& subject, const Slice& whole,
     out << cut(subject.name) << '\n'
         << format("  sound    %.*f s, %s at %.0f Hz; %s\n", decimals(seconds) + 2, seconds,
                   samples(whole.moments.count()).c_str(), grid.rate, subject.channel.c_str())
-        << format("  window   %s, %s, %.3g s; DCT-IV of length %zu\n", window::name,
+        << format("  window   %s, %s, %.3g s; DCT-IV of length %zu\n", window::blackmanHarris.name,
                   samples(grid.window).c_str(), grid.window / grid.rate, grid.bins);
     if (columnCount(grid) > 0)
         out << format("  range    %s to %s Hz in steps of %s Hz; resolution %s Hz\n",
@@ -125,7 +67,7 @@ void printSubject(const SpectrumPage::Subject& subject, const Slice& whole,
                   whole.moments.mean() + 0.0)
         << format("  rows     of %g s; a shade is %g dB, from the loudest down: ", sliceSeconds,
                   dbPerShade)
-        << std::string(ramp.rbegin(), ramp.rend() - 1) << "\n\n";
+        << shadesFromLoudest() << "\n\n";
 }
 
 void printTones(const Slice& whole, const FrequencyGrid& grid, std::ostream& out) {

@@ -9,6 +9,8 @@
 
 namespace kfm::tool {
 
+inline constexpr double silence = -150;   // dB; what is below is fainter than a sound file can be
+
 class PowerSpectrum {
 public:
     // The frame counts as much as its weight.

@@ -4,20 +4,13 @@
 #include <cmath>
 
 namespace kfm::tool {
-namespace {
 
-constexpr int decade = 10;
-constexpr std::size_t parts = 5 * Slices::most;   // the most that may become slices of 5 parts
-
-double partSeconds(double rate, std::size_t frameLength) {
-    return std::pow(decade, std::ceil(std::log10(FrameStream::hop(frameLength) / rate)));
+Slices::Slices(double rate, SliceChoice choice, Visit visit)
+    : rate_(rate), choice_(std::move(choice)), seconds_(choice_.seconds), visit_(std::move(visit)) {
 }
 
-}   // namespace
-
-Slices::Slices(double rate, double seconds, std::size_t frameLength, Visit visit)
-    : rate_(rate), seconds_(seconds > 0 ? seconds : partSeconds(rate, frameLength)),
-      fitting_(seconds <= 0), visit_(std::move(visit)) {}
+// The most slices that steps before the last make few enough.
+std::size_t Slices::room() const { return choice_.most * choice_.steps[choice_.steps.size() - 2]; }
 
 // Where slice `number` begins.
 std::uint64_t Slices::boundary(std::uint64_t number) const {
@@ -47,8 +40,8 @@ void Slices::visitAll() {
 // The slice at `position_`, a new one where the last is complete.
 Slice& Slices::current() {
     if (!slices_.empty() && position_ < boundary(number_ + 1)) return slices_.back();
-    if (!fitting_) visitAll();
-    if (slices_.size() == parts) merge(decade);
+    if (choice_.most == 0) visitAll();
+    else if (slices_.size() == room()) merge(choice_.steps.back());
     while (position_ >= boundary(number_ + 1)) ++number_;
     slices_.push_back({number_ * seconds_, {}, {}});
     return slices_.back();
@@ -67,12 +60,11 @@ void Slices::add(const Frame& frame) {
 }
 
 void Slices::finish() {
-    if (fitting_)
-        for (const std::size_t step : {1, 2, 5})
-            if (slices_.size() <= step * most) {
-                merge(step);
-                break;
-            }
+    for (const std::size_t step : choice_.steps)
+        if (slices_.size() <= step * choice_.most) {
+            merge(step);
+            break;
+        }
     visitAll();
 }
 

@@ -18,14 +18,19 @@ struct Slice {
     PowerSpectrum spectrum;
 };
 
+// Slices of `seconds`, visited as they are complete. Or no more than `most`, visited at the end:
+// they are as many times as long as one of the `steps` says, after the last of these was taken as
+// often as it took.
+struct SliceChoice {
+    double seconds;
+    std::size_t most = 0;
+    std::vector<std::size_t> steps = {};   // ascending from 1, two or more
+};
+
 class Slices {
 public:
     using Visit = std::function<void(const Slice&)>;
-    static constexpr std::size_t most = 20;   // of those that fit
-
-    // Slices of `seconds`, visited as they are complete. With 0 they fit: 1, 2 or 5 times a power
-    // of ten of seconds, not much shorter than a frame; visited at the end.
-    Slices(double rate, double seconds, std::size_t frameLength, Visit visit);
+    Slices(double rate, SliceChoice choice, Visit visit);
 
     void add(const Frame& frame);
     void finish();
@@ -34,13 +39,14 @@ public:
 
 private:
     Slice& current();
+    std::size_t room() const;
     std::uint64_t boundary(std::uint64_t number) const;
     void visitAll();
     void merge(std::size_t count);
 
     double rate_;
+    SliceChoice choice_;
     double seconds_;
-    bool fitting_;
     Visit visit_;
     std::vector<Slice> slices_;
     std::uint64_t number_ = 0;     // of the slice that the next sample belongs to
