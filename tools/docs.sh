@@ -20,3 +20,5 @@ doxygen -l "$LAYOUT"
 sed -i '/<detaileddescription/d; s/<briefdescription[^>]*>/<detaileddescription title=""\/>/' "$LAYOUT"
 rm -rf "$OUTPUT/docs"   # pages of what there is no more
 doxygen docs/site/Doxyfile
+mkdir "$OUTPUT/docs/docs"   # pictures are where the pages say
+cp -R docs/pictures "$OUTPUT/docs/docs"

@@ -1,8 +1,8 @@
-# readme_blocks.awk: from a README the shell script that does what it says, block after block. A block
+# readme_blocks.awk: from README and guide the shell script that does what they say, block after block. A block
 # of shell runs as it stands. A block of C is saved under the name in its first line, built and run by
 # the command beside that name, and once more as C++. One of C++ is built and run by its own command
 # alone. A block of CMake becomes CMakeLists.txt.
-function refuse(what) { print "line " NR ": " what > "/dev/stderr"; exit refused = 1 }
+function refuse(what) { print FILENAME ", line " FNR ": " what > "/dev/stderr"; exit refused = 1 }
 function save(name) { printf "cat > %s <<\"END OF BLOCK\"\n%sEND OF BLOCK\n", name, text }
 # Line by line, because "sh -e" goes on where the first of two joined commands fails.
 function run(commands) { gsub(/ && /, "\n", commands); print commands }

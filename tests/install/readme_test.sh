@@ -1,6 +1,6 @@
 #!/bin/sh
-# readme_test.sh <source folder> <build folder of x86-64> <scratch folder>: does what the README
-# says, block after block (readme_blocks.awk tells how).
+# readme_test.sh <source folder> <build folder of x86-64> <scratch folder>: does what README and
+# guide say, block after block (readme_blocks.awk tells how).
 #
 # Only make is another: of its goals, which all have to exist, it does "install PREFIX=..." alone,
 # with what is built already.
@@ -26,11 +26,14 @@ MAKE
 printf '#!/bin/sh\n' > "$scratch/bin/ldconfig"
 chmod +x "$scratch/bin/make" "$scratch/bin/ldconfig"
 
-awk -f "$(dirname "$(realpath "$0")")/readme_blocks.awk" "$source/README.md" > "$scratch/script"
+awk -f "$(dirname "$(realpath "$0")")/readme_blocks.awk" "$source/README.md" "$source/docs/guide.md" \
+    > "$scratch/script"
 # Goals and files that are named in passing.
-grep -oE '`(CXX=[a-z+]+ )?make( [a-z]+)?`' "$source/README.md" | tr -d '`' >> "$scratch/script"
-grep -oE '(\]\(|^\| `)[^`)]+' "$source/README.md" | sed 's/^](//; s/^| `//' |
-    while read -r path; do echo "test -e \"$source/$path\""; done >> "$scratch/script"
+for page in README.md docs/guide.md; do
+    grep -oE '`([A-Z]+=[a-z0-9+-]+ )?make( [a-z]+)?`' "$source/$page" | tr -d '`'
+    grep -oE '\]\([^)]+' "$source/$page" | sed 's/^](//; s/#.*//' |
+        while read -r path; do echo "test -e \"$source/$(dirname "$page")/$path\""; done
+done >> "$scratch/script"
 
 cd "$scratch/work"
 HOME=$home PATH=$scratch/bin:$PATH sh -eux "$scratch/script"

@@ -42,7 +42,8 @@ tar -C "$root" -xf "$system"
 mkdir "$root/work"
 cp "$packages"/*.deb "$here/installed_test.sh" "$here/taken.cmake" \
     "$source/tests/install/taken_libraries.cmake" "$root/work"
-awk -f "$source/tests/install/readme_blocks.awk" "$source/README.md" > "$root/work/readme.sh"
+awk -f "$source/tests/install/readme_blocks.awk" "$source/README.md" "$source/docs/guide.md" \
+    > "$root/work/readme.sh"
 cp /etc/resolv.conf "$root/etc/resolv.conf"
 # Mounts and processes of it end with it.
 unshare --mount --pid --fork --kill-child sh -euc '
