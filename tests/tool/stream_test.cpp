@@ -99,6 +99,38 @@ TEST_F(Memory, IsThatOfAFrame) {
     for (const Outcome& outcome : {sound, text, line}) EXPECT_LT(outcome.peakKiB, 64 << 10);
 }
 
+// On a terminal, which `script` makes, slow work shows how far it is and takes that back.
+class Progress : public ToolTest {
+protected:
+    std::string terminal(const std::string& command) const {
+        textFile("command", command);
+        const Outcome outcome = shell("script -qec 'bash command' /dev/null </dev/null");
+        EXPECT_EQ(outcome.status, 0) << outcome.out;
+        return outcome.out;
+    }
+};
+
+TEST_F(Progress, IsShownOfSlowWorkAndTakenBack) {
+    const std::string slowly = "(yes 1 | head -n 400; sleep 1.2; yes 1 | head -n 400) | ";
+    const std::string transform = "\"$kfmgen\" transform --length 64 ";
+    const std::string shown = terminal(slowly + transform + "-o out");
+    EXPECT_NE(shown.find("\r\x1B[K448 samples, 1 s"), std::string::npos) << shown;
+    EXPECT_TRUE(shown.ends_with("\r\x1B[K")) << shown;
+    // Of a file one knows how far; stopped for a while, any work is slow.
+    textFile("all", ones(4000000));
+    const std::string bar =
+        terminal(transform + "-o out all & sleep 0.02\n"
+                             "kill -STOP $!; sleep 1.2; kill -CONT $!; wait $!");
+    EXPECT_NE(bar.find("\r\x1B[K["), std::string::npos) << bar;
+    EXPECT_NE(bar.find(" %, "), std::string::npos) << bar;
+    EXPECT_TRUE(bar.ends_with(" s left\r\x1B[K")) << bar;
+    // Not in what is read there, nor for quick work, nor where nobody looks.
+    EXPECT_EQ(terminal(slowly + transform).find('\x1B'), std::string::npos);
+    EXPECT_EQ(terminal("yes 1 | head -n 4 | " + transform + "-o out"), "");
+    EXPECT_EQ(terminal(slowly + transform + "-o out 2>log"), "");
+    EXPECT_EQ(contents("log"), "");
+}
+
 // `limit` bytes are read, then the device fails.
 class FailingRead : public ToolTest {
 protected:

@@ -39,6 +39,14 @@ std::optional<std::uint64_t> InputFile::size() const {
     return std::max<off_t>(status.st_size - origin_, 0);
 }
 
+std::optional<double> InputFile::shareRead() const {
+    const std::optional<std::uint64_t> all = size();
+    if (!all || *all == 0) return std::nullopt;
+    return std::min(1.0, static_cast<double>(position_) / static_cast<double>(*all));
+}
+
+bool InputFile::terminal() const { return ::isatty(descriptor_.number()) != 0; }
+
 std::size_t InputFile::readSome(std::span<char> bytes) {
     if (error_ != 0 || bytes.empty()) return 0;
     const std::size_t count = seekable_ ? readFile(bytes) : readKept(bytes);

@@ -30,6 +30,8 @@ public:
     void forgetBeginning() { keeps_ = false; }
 
     std::optional<std::uint64_t> size() const;          // none of a pipe
+    std::optional<double> shareRead() const;            // of a file
+    bool terminal() const;                              // somebody types
     int error() const { return error_; }                // the errno of a failed read, else 0
     const std::string& name() const { return name_; }   // for messages
 

@@ -72,6 +72,7 @@ void runInverse(const TransformOptions& options) {
     if (options.realPart && width == 1)
         throw UsageError("--real: results of " + transform->name() + " are real");
 
+    if (!showsOnTerminal(options.output)) source->showProgress();
     const auto out =
         signalWriter(options.output, {options.format, width == 2 && !options.realPart,
                                       transform->doublePrecision(), rateOf(options, *source)});

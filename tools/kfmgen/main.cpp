@@ -7,6 +7,7 @@
 
 #include "commands.h"
 #include "descriptor.h"
+#include "documentation.h"
 #include "kfmgen.h"
 #include "options.h"
 #include "output_file.h"
@@ -18,6 +19,14 @@ std::string version() {
     const KfmLibraryVersion& library = *kfmgenGetLibVersion();
     return "kfmgen " + std::to_string(library.versionMajor) + "." +
            std::to_string(library.versionMinor);
+}
+
+// For those who build and install the program, so not in its help.
+void addDocumentation(CLI::App& app, std::ostream& page) {
+    CLI::App& command = *app.add_subcommand("documentation")->group("");
+    command.add_flag_callback("--man", [&] { printManual(app, version(), page); });
+    command.add_flag_callback("--bash", [&] { printBashCompletion(app, page); });
+    command.add_flag_callback("--zsh", [&] { printZshCompletion(app, page); });
 }
 
 void parse(CLI::App& app, int argc, char** argv, std::ostream& out) {
@@ -42,6 +51,7 @@ void run(int argc, char** argv) {
     addTransform(app);
     addSpectrum(app, page);
     addSpectrogram(app, page);
+    addDocumentation(app, page);
     for (CLI::App* command : app.get_subcommands({})) foldHelp(*command);
     parse(app, argc, argv, page);
 

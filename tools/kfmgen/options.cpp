@@ -24,6 +24,8 @@ Channels channelsNamed(const std::string& name, const std::string& word) {
     return {Channels::Use::one, static_cast<int>(number)};
 }
 
+}   // namespace
+
 std::string folded(const std::string& text, std::size_t width) {
     std::istringstream words(text);
     std::string result, line;
@@ -36,8 +38,6 @@ std::string folded(const std::string& text, std::size_t width) {
     }
     return result + line;
 }
-
-}   // namespace
 
 CLI::Option* addNumber(CLI::App& command, const std::string& name, int& value, int least, int most,
                        const std::string& help) {

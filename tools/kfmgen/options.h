@@ -34,6 +34,9 @@ CLI::Option* addChoice(CLI::App& command, const std::string& name, Variable& val
 // The options that say what is read and how; `help` is that of the file.
 void addInput(CLI::App& command, InputOptions& input, const std::string& help);
 
+// The words in lines of at most so many characters.
+std::string folded(const std::string& text, std::size_t width);
+
 // Breaks what the options say of themselves into lines for a terminal of 80 columns.
 void foldHelp(CLI::App& command);
 

@@ -54,6 +54,11 @@ void guard(const std::string& path) {
 
 }   // namespace
 
+bool showsOnTerminal(const std::string& path) {
+    const int number = path == "-" ? STDOUT_FILENO : numberInName(path);
+    return number >= 0 && ::isatty(number) != 0;
+}
+
 OutputFile::OutputFile(const std::string& path)
     : name_(path == "-" ? "standard output" : displayed(path)),
       buffer_(std::make_unique_for_overwrite<char[]>(bufferSize)), end_(buffer_.get()),

@@ -12,6 +12,9 @@
 
 namespace kfm::tool {
 
+// Whether what is written there is read at once by who sits before the terminal.
+bool showsOnTerminal(const std::string& path);
+
 class OutputFile {
 public:
     // - is standard output. Devices, pipes and the like are written as they stand; a symbolic link

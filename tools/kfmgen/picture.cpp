@@ -89,6 +89,7 @@ std::unique_ptr<SampleSource> openSound(InputOptions& input, const std::string& 
     if (input.channels.use == Channels::Use::each && source->channels() > mostChannels)
         throw InputError(source->name() + ": " + std::to_string(source->channels()) +
                          " channels are more than can be shown together: choose one by --channel");
+    source->showProgress();
     return source;
 }
 

@@ -22,9 +22,14 @@ void checkText(InputFile& file) {
 
 std::size_t SampleSource::read(std::span<double> values) {
     const std::size_t count = fill(values);
-    if (empty_ && count == 0) throw InputError(name_ + ": no samples");
-    empty_ = false;
+    if (count_ == 0 && count == 0) throw InputError(name_ + ": no samples");
+    count_ += count;
+    if (progress_) progress_->update(file().shareRead(), count_);
     return count;
+}
+
+void SampleSource::showProgress() {
+    if (!file().terminal()) progress_.emplace();
 }
 
 std::unique_ptr<SampleSource> openSamples(const InputOptions& options, const Demand& demand) {

@@ -12,6 +12,8 @@
 #include <vector>
 
 #include "failure.h"
+#include "input_file.h"
+#include "progress.h"
 
 namespace kfm::tool {
 
@@ -78,6 +80,8 @@ public:
 
     const std::string& name() const { return name_; }   // as messages call it
 
+    void showProgress();   // from here on, unless somebody types the samples
+
 protected:
     SampleSource(std::string name, const Demand& demand)
         : name_(std::move(name)), demand_(demand) {}
@@ -86,10 +90,12 @@ protected:
 
 private:
     virtual std::size_t fill(std::span<double> values) = 0;
+    virtual const InputFile& file() const = 0;
 
     std::string name_;
     Demand demand_;
-    bool empty_ = true;
+    std::optional<Progress> progress_;
+    std::uint64_t count_ = 0;   // samples so far
 };
 
 // Throws InputError for what cannot be opened, is neither sound nor text, or does not have the

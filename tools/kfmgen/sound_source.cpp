@@ -29,6 +29,7 @@ public:
 
 private:
     std::size_t fill(std::span<double> values) override;
+    const InputFile& file() const override { return *file_; }
 
     SourceKind kind_;
     std::unique_ptr<InputFile> file_;

@@ -24,6 +24,7 @@ void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& 
     if (one.channels.use == Channels::Use::unset) one.channels.use = Channels::Use::mix;
     const auto source = openSamples(one, {.taker = "spectrum"});
     if (source->rate() == 0) throw InputError(source->name() + ": is text, not a sound");
+    source->showProgress();
 
     SpectrumPage page;
     SpectrumAnalysis analysis(source->rate(), sliceSeconds,

@@ -26,6 +26,7 @@ public:
 
 private:
     std::size_t fill(std::span<double> values) override;
+    const InputFile& file() const override { return *file_; }
     bool nextRow();
     void note(std::string_view line);
     void checkNumbers();

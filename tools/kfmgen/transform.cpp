@@ -82,6 +82,7 @@ void runTransform(const TransformOptions& options) {
     checkHop(*source, framing);
     const ResultLabels labels = labelsOf(options, *transform, *source, framing);
 
+    if (!showsOnTerminal(options.output)) source->showProgress();
     OutputFile out(options.output);
     const auto note = [&](const char* what, std::uint64_t number) {
         if (options.restorable && number > 0)
