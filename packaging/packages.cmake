@@ -83,11 +83,11 @@ kfm_documents(development libkfmgen-dev)
 kfm_debug_symbols(runtime)
 if(TARGET kfmgen)
     target_compile_options(kfmgen PRIVATE ${debug_symbols})
-    kfm_package(tool kfmgen SECTION sound
+    kfm_package(tool kfmgen SECTION sound FIELDS "Recommends: gnuplot-nox"
         DESCRIPTION "signal transforms of short fixed length at the command line
 Applies the transforms of libkfmgenw7 to the frames of a sound or of a text
-file with a sample per line, lists what there is, and shows the spectrum of a
-sound.")
+file with a sample per line and back, lists what there is, and shows spectra
+and spectrograms of a sound, in the terminal or drawn by gnuplot.")
     kfm_documents(tool kfmgen)
     kfm_debug_symbols(tool)
 endif()

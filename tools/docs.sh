@@ -20,5 +20,7 @@ doxygen -l "$LAYOUT"
 sed -i '/<detaileddescription/d; s/<briefdescription[^>]*>/<detaileddescription title=""\/>/' "$LAYOUT"
 rm -rf "$OUTPUT/docs"   # pages of what there is no more
 doxygen docs/site/Doxyfile
-mkdir "$OUTPUT/docs/docs"   # pictures are where the pages say
+# Pictures are where README and the pages beside it say.
+mkdir "$OUTPUT/docs/docs"
+cp -R docs/pictures "$OUTPUT/docs"
 cp -R docs/pictures "$OUTPUT/docs/docs"
