@@ -3,9 +3,9 @@
 #include <iomanip>
 
 #include "kfmgen.h"
-#include "planned_transform.h"
 #include "registry/functions.h"
 #include "registry/loaded_library.h"
+#include "transform/planned_transform.h"
 
 namespace kfm::tool {
 

@@ -5,12 +5,12 @@
 #include <new>
 #include <sstream>
 
-#include "commands.h"
+#include "commands/commands.h"
+#include "commands/documentation.h"
+#include "commands/options.h"
 #include "descriptor.h"
-#include "documentation.h"
 #include "kfmgen.h"
-#include "options.h"
-#include "output_file.h"
+#include "output/output_file.h"
 
 namespace kfm::tool {
 namespace {

@@ -1,7 +1,7 @@
 #include "spectrogram.h"
 
-#include "gnuplot.h"
-#include "output_file.h"
+#include "output/output_file.h"
+#include "pictures/gnuplot.h"
 #include "spectrum/page_text.h"
 #include "spectrum/spectrogram_page.h"
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "gnuplot.h"
-#include "output_file.h"
+#include "output/output_file.h"
+#include "pictures/gnuplot.h"
 #include "spectrum/analysis.h"
 #include "spectrum/page.h"
 

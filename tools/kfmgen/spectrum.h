@@ -3,8 +3,8 @@
 
 #include <ostream>
 
-#include "picture.h"
-#include "sample_source.h"
+#include "input/sample_source.h"
+#include "pictures/picture.h"
 
 namespace kfm::tool {
 
