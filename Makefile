@@ -10,8 +10,8 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench tune install uninstall packages test-packages \
-	header format tidy docs clean
+.PHONY: all test test-sanitized memcheck demo bench measurements tune install uninstall \
+	packages test-packages header format tidy docs clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -43,6 +43,9 @@ bench:
 	@tools/install-dependencies.sh bench
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
 	@$(EACH_TARGET) cmake --build "$$BUILD/$$target" --target bench; done
+
+measurements: bench
+	@bench/renew_tables.sh "$$BUILD"
 
 tune:
 	@tools/install-dependencies.sh bench

@@ -3,6 +3,7 @@
 # README again from what `make bench` measured. Above each table stands the script and the CSV that it
 # comes from:
 #   <!-- table: measurements.awk x86-64/bench.csv family=DFTFwd_CToC -->
+# and above the line that names a processor the file with its name.
 # Where that CSV is not there the table stays; figures within the text are for its author.
 set -eu
 cd "$(dirname "$0")/.."
@@ -21,6 +22,19 @@ awk -v build="${1:-build}" '
         if (!missing) printf "%s", table
         skipping = !missing
         blank = 1
+        next
+    }
+    /^<!-- processor: / {
+        name = ""
+        file = build "/" $3
+        split($3, part, "/")
+        named = (getline name < file) > 0
+        close(file)
+        print
+        if (named) {
+            getline   # the one before
+            print "Measured on, " part[1] ": " name
+        }
         next
     }
     blank && /^$/ { blank = 0; next }   # between the marker and its table
