@@ -9,11 +9,16 @@ for program in doxygen dot; do
         exit 77
     fi
 done
-OUTPUT=${1:-build}
-LAYOUT=$OUTPUT/docs-layout.xml
+mkdir -p "${1:-build}"
+OUTPUT=$(realpath "${1:-build}")
+# Doxygen finds no page by a path with a space, so it reads copies.
+inputs=$(mktemp -d)
+trap 'rm -rf "$inputs"' EXIT
+cp -R README.md CHANGELOG.md CONTRIBUTING.md docs include "$inputs"
+cd "$inputs"
+LAYOUT=$inputs/layout.xml
 VERSION=$(sed -n 's/^#define KFMGEN_VERSION_M[A-Z]* \([0-9]*\).*/\1/p' include/kfmgen.h | paste -sd.)
 export OUTPUT LAYOUT VERSION
-mkdir -p "$OUTPUT"
 
 # Doxygen's own order of a page, but with what a family does before the list of its functions.
 doxygen -l "$LAYOUT"
