@@ -41,7 +41,7 @@ demo:
 
 bench:
 	@tools/install-dependencies.sh bench
-	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON
+	@tools/build.sh "$(JOBS)" -DKFM_BUILD_BENCHMARKS=ON -DKFM_BUILD_TOOL=ON
 	@$(EACH_TARGET) cmake --build "$$BUILD/$$target" --target bench; done
 
 measurements: bench

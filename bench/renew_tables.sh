@@ -1,6 +1,6 @@
 #!/bin/sh
-# renew_tables.sh [folder of builds]: writes the tables of docs/measurements.md and the picture of the
-# README again from what `make bench` measured. Above each table stands the script and the CSV that it
+# renew_tables.sh [folder of builds]: writes the tables of docs/measurements.md, its picture and that of
+# the README again from what `make bench` measured. Above each table stands the script and the CSV that it
 # comes from:
 #   <!-- table: measurements.awk x86-64/bench.csv family=DFTFwd_CToC -->
 # and above the line that names a processor the file with its name.
@@ -45,6 +45,7 @@ awk -v build="${1:-build}" '
 cp "$renewed" "$document"
 
 measured=${1:-build}/x86-64
+[ ! -e "$measured/accuracy.svg" ] || cp "$measured/accuracy.svg" docs/pictures
 if [ -e "$measured/bench.csv" ] && [ -e "$measured/rowsbench.csv" ]; then
     if command -v gnuplot >/dev/null; then
         gnuplot -e "folder='$measured'" bench/speed.gnuplot > docs/pictures/speed.svg

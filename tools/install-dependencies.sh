@@ -12,7 +12,7 @@ case ${1:-} in
     test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind
                      clang-format"
              why="to build the tests, also for 32 bits" ;;
-    bench)   wanted="libfftw3-dev libcli11-dev g++-multilib gnuplot-nox"
+    bench)   wanted="$tool libfftw3-dev g++-multilib gnuplot-nox"
              why="to measure beside other libraries, also for 32 bits" ;;
     format)  wanted="clang-format"
              why="to lay out the sources" ;;

@@ -11,6 +11,7 @@
 #include <random>
 #include <vector>
 
+#include "definition/definition.h"
 #include "support/buffer.h"
 #include "support/fault.h"
 
@@ -68,11 +69,9 @@ WideSignal reference(const std::vector<Real>& x) {
     const std::size_t n = x.size();
     WideSignal y(n);
     if (n < 128 || n % 2) {
-        std::vector<Wide> cosines(8 * n);
-        for (std::size_t i = 0; i < 8 * n; ++i) cosines[i] = cosPi(static_cast<Wide>(i) / (4 * n));
-        for (std::size_t k = 0; k < n; ++k)
-            for (std::size_t i = 0; i < n; ++i)
-                y[k] += x[i] * cosines[(2 * i + 1) * (2 * k + 1) % (8 * n)];
+        const std::vector<double> samples(x.begin(), x.end());
+        std::ranges::transform(definition::dct4(samples), y.begin(),
+                               [](definition::Quad value) { return static_cast<Wide>(value); });
         return y;
     }
     std::vector<WideComplex> u(n / 2);

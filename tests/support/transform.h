@@ -12,12 +12,14 @@
 #include <string_view>
 #include <vector>
 
+#include "definition/packed_spectrum.h"
 #include "kfmgen.h"
 #include "registry/functions.h"
 #include "registry/registry.h"
-#include "support/packed_spectrum.h"
 
 namespace kfm::tests {
+
+using definition::Content, definition::Slot;
 
 struct Transform {
     const registry::Function* function;
@@ -31,10 +33,10 @@ struct Transform {
     bool hartley() const { return family->name == "Hartley"; }
     bool walshHadamard() const { return family->name == "WHT"; }
     bool selfInverse() const { return hartley() || walshHadamard(); }
-    Content source() const { return contentsOf(family->name).source; }
-    Content destination() const { return contentsOf(family->name).destination; }
-    std::size_t sourceReals() const { return reals(source(), length); }
-    std::size_t destinationReals() const { return reals(destination(), length); }
+    Content source() const { return definition::contentsOf(family->name).source; }
+    Content destination() const { return definition::contentsOf(family->name).destination; }
+    std::size_t sourceReals() const { return definition::reals(source(), length); }
+    std::size_t destinationReals() const { return definition::reals(destination(), length); }
     bool reads(std::size_t i) const;   // whether element i of the source matters
     // Up to the last real that is read: the array may end there.
     std::size_t readBytes() const;

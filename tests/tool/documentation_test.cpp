@@ -15,7 +15,7 @@ TEST_F(Documentation, CompletionInBash) {
     };
     textFile("sound.wav", "");
     EXPECT_EQ(completed("kfmgen ''"),
-              "info list transform spectrum spectrogram --help --version\n");
+              "info list transform spectrum spectrogram bench accuracy --help --version\n");
     EXPECT_EQ(completed("kfmgen spectr"), "spectrum spectrogram\n");
     EXPECT_EQ(completed("kfmgen transform --pre"), "--precision\n");
     EXPECT_EQ(completed("kfmgen transform --precision ''"), "double single\n");
@@ -27,8 +27,9 @@ TEST_F(Documentation, CompletionInBash) {
 
 TEST_F(Documentation, EveryOptionIsInAllOfThem) {
     const std::string options =
-        shell("for c in info list transform spectrum spectrogram; do \"$kfmgen\" $c --help; done |"
-              " grep -o '^ *--[a-z-]*' | tr -d ' ' | sort -u")
+        shell(
+            "for c in info list transform spectrum spectrogram bench accuracy; do \"$kfmgen\" $c --help; done |"
+            " grep -o '^ *--[a-z-]*' | tr -d ' ' | sort -u")
             .out;
     EXPECT_GT(std::count(options.begin(), options.end(), '\n'), 20);
     textFile("options", options);

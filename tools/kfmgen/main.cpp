@@ -51,6 +51,8 @@ void run(int argc, char** argv) {
     addTransform(app);
     addSpectrum(app, page);
     addSpectrogram(app, page);
+    addBench(app, page);
+    addAccuracy(app, page);
     addDocumentation(app, page);
     for (CLI::App* command : app.get_subcommands({})) foldHelp(*command);
     parse(app, argc, argv, page);

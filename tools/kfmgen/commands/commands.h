@@ -11,5 +11,7 @@ void addListings(CLI::App& app, std::ostream& page);
 void addTransform(CLI::App& app);
 void addSpectrum(CLI::App& app, std::ostream& page);
 void addSpectrogram(CLI::App& app, std::ostream& page);
+void addBench(CLI::App& app, std::ostream& page);
+void addAccuracy(CLI::App& app, std::ostream& page);
 
 }   // namespace kfm::tool

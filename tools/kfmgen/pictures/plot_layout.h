@@ -1,6 +1,7 @@
 // What the pictures have in common: paper, type, margins and caption.
 #pragma once
 
+#include <iterator>
 #include <string>
 
 #include "pictures/plots.h"
@@ -30,6 +31,13 @@ public:
 private:
     int height_;
 };
+
+// Told apart also by those who do not see all colours.
+inline const char* lineColour(std::size_t i) {
+    constexpr const char* colours[] = {"#1f5fa8", "#d9541e", "#2a8a4a", "#8a3fa0",
+                                       "#b08a00", "#3aa6b9", "#c23b6d", "#5a5a5a"};
+    return colours[i % std::size(colours)];
+}
 
 // Levels between round numbers of decibels, with room for `loudest` at the top.
 DecibelRange rangeBelow(double loudest, double span);

@@ -13,10 +13,6 @@ constexpr double shownRange = 120;   // dB, at most
 constexpr int plotHeight = 500;
 constexpr int right = PlotLayout::width - 36;
 
-// Told apart also by those who do not see all colours.
-constexpr const char* colours[] = {"#1f5fa8", "#d9541e", "#2a8a4a", "#8a3fa0",
-                                   "#b08a00", "#3aa6b9", "#c23b6d", "#5a5a5a"};
-
 struct Bins {
     std::size_t first, end;
 };
@@ -93,7 +89,7 @@ std::string spectrumScript(PictureKind kind, const Caption& caption,
     for (std::size_t i = 0; i < channels.size(); ++i) {
         script += data(channels[i], grid, bins, unit, i + 1);
         plot += format("%s$channel%zu using 1:2 with lines lw 1.4 lc rgb '%s' ",
-                       i == 0 ? "plot " : ", ", i + 1, colours[i % std::size(colours)]);
+                       i == 0 ? "plot " : ", ", i + 1, lineColour(i));
         plot += channels.size() == 1 ? "notitle" : "title " + scriptText(caption.channels[i]);
     }
     return script + plot + "\n";

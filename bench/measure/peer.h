@@ -16,8 +16,11 @@ namespace kfm::bench {
 // builds of FFTW the one that is faster at a transform is the peer there.
 void setPeerFolders(const std::vector<std::string>& folders);
 
-// One line for each build of FFTW that was found: its version, with the instruction sets, and file.
+// One line for each file of FFTW that was searched: its version, with the instruction sets.
 std::string describePeers();
+
+// Whether there is a build of FFTW at all.
+bool findsFftw();
 
 // A plan as a subject of the timer, and as a call on arrays aligned to 64 bytes.
 struct PeerPlan {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kfm::tests {
+namespace kfm::definition {
 
 enum class Content { complexSignal, realSignal, ccs, pack, perm };
 
@@ -29,4 +29,4 @@ std::vector<Slot> slots(Content array, int length);
 
 std::size_t reals(Content array, int length);
 
-}   // namespace kfm::tests
+}   // namespace kfm::definition

@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-namespace kfm::tests {
+namespace kfm::definition {
 
 using Quad = long double;
 
@@ -15,13 +15,13 @@ namespace quad {
 using std::abs, std::acos, std::cos, std::ldexp, std::sin, std::sqrt;
 }
 
-}   // namespace kfm::tests
+}   // namespace kfm::definition
 
 #else
 
 #include <quadmath.h>
 
-namespace kfm::tests {
+namespace kfm::definition {
 
 __extension__ typedef __float128 Quad;
 
@@ -34,6 +34,6 @@ inline Quad sin(Quad x) { return sinq(x); }
 inline Quad sqrt(Quad x) { return sqrtq(x); }
 }   // namespace quad
 
-}   // namespace kfm::tests
+}   // namespace kfm::definition
 
 #endif

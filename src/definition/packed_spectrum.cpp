@@ -1,13 +1,13 @@
 // CCS is all bins in order. Pack leaves out what is always zero. Perm is Pack with the last bin of
 // an even length, which is real, moved to the second place.
-#include "support/packed_spectrum.h"
+#include "definition/packed_spectrum.h"
 
 #include <algorithm>
 #include <map>
 #include <stdexcept>
 #include <string>
 
-namespace kfm::tests {
+namespace kfm::definition {
 
 Contents contentsOf(std::string_view family) {
     static const std::map<std::string_view, Content> words = {{"C", Content::complexSignal},
@@ -40,4 +40,4 @@ std::size_t reals(Content array, int length) {
     return array == Content::realSignal ? n : slots(array, length).size();
 }
 
-}   // namespace kfm::tests
+}   // namespace kfm::definition

@@ -2,15 +2,14 @@
 #include "peer.h"
 
 #include <dlfcn.h>
-#include <fftw3.h>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <memory>
 #include <numbers>
 #include <vector>
 
+#include "fftw_interface.h"
 #include "rotations.h"
 #include "signals.h"
 #include "timer.h"
@@ -19,12 +18,6 @@ namespace kfm::bench {
 namespace {
 
 std::vector<std::string> peerFolders;
-
-void* openLibrary(const std::string& path) {
-    void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!handle) std::fprintf(stderr, "no comparison with FFTW: %s\n", dlerror());
-    return handle;
-}
 
 template <class Address>
 void find(void* library, const std::string& name, Address& address) {
@@ -46,13 +39,13 @@ PeerPlan fastest(const std::vector<PeerPlan>& plans) {
 // Whether a plan may overwrite its source. The inverse real DFT of some lengths is faster when it
 // may. What it leaves there is the next call's source: values that grow, which costs nothing.
 using SourceRules = std::vector<unsigned>;
-const SourceRules keepSource = {FFTW_PRESERVE_INPUT};
-const SourceRules anyRule = {FFTW_PRESERVE_INPUT, FFTW_DESTROY_INPUT};
+const SourceRules keepSource = {fftw::preserveInput};
+const SourceRules anyRule = {fftw::preserveInput, fftw::destroyInput};
 
 // A patient search for a length of millions takes minutes; for thousands of rows it takes seconds at
 // each length.
-unsigned effortFor(int length) { return length > 65536 ? FFTW_MEASURE : FFTW_PATIENT; }
-unsigned effortFor(const Rows& rows) { return rows.count > 64 ? FFTW_MEASURE : FFTW_PATIENT; }
+unsigned effortFor(int length) { return length > 65536 ? fftw::measure : fftw::patient; }
+unsigned effortFor(const Rows& rows) { return rows.count > 64 ? fftw::measure : fftw::patient; }
 
 // Planning overwrites its arrays; the timed calls work on fresh ones.
 using MakeSignals = std::function<std::shared_ptr<const Signals>()>;
@@ -73,11 +66,14 @@ std::vector<Real> halfLengthRoots(int m) {
 }
 
 // The part of FFTW's interface in use, for one precision of one build.
-template <class Plan, class Complex, class Real>
+template <class Real>
 class Api {
+    using Plan = fftw::Plan;
+    using Complex = Real[2];
+
 public:
     Api(const std::string& path, const std::string& prefix) {
-        void* library = openLibrary(path);
+        void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
         find(library, prefix + "plan_many_dft", planDft);
         find(library, prefix + "execute_dft", executeDft);
         find(library, prefix + "plan_many_dft_r2c", planForward);
@@ -115,8 +111,8 @@ public:
                                            complexPlan(n, rows, family.inverse()), keepSource,
                                            effort);
         if (family.name == "Hartley")
-            return plans<Real, Real>(makeSignals, executeReal, realPlan(n, rows, FFTW_DHT), anyRule,
-                                     effort);
+            return plans<Real, Real>(makeSignals, executeReal, realPlan(n, rows, fftw::dht),
+                                     anyRule, effort);
         if (!family.name.starts_with("DFT")) return {};
         if (family.inverse())
             return plans<Complex, Real>(makeSignals, executeInverse, inversePlan, anyRule, effort);
@@ -125,7 +121,7 @@ public:
 
     std::vector<PeerPlan> dct4(int length, const registry::Element& element) const {
         return plans<Real, Real>(signalsOf(length, element), executeReal,
-                                 realPlan(length, {}, FFTW_REDFT11), anyRule, effortFor(length));
+                                 realPlan(length, {}, fftw::redft11), anyRule, effortFor(length));
     }
 
     // Between the rotations stand arrays of its own, which the transform may overwrite.
@@ -147,7 +143,7 @@ public:
             transform(plan, from, to);
             rotateOutputs(*to, roots->data(), destination, m);
         };
-        return plans<Real, Real>(signalsOf(length, element), execute, plan, {FFTW_DESTROY_INPUT},
+        return plans<Real, Real>(signalsOf(length, element), execute, plan, {fftw::destroyInput},
                                  effortFor(m));
     }
 
@@ -156,10 +152,10 @@ private:
         return [=, this](Complex* from, Complex* to, unsigned flags) {
             const int stride = rows.stride(), distance = rows.distance(length);
             return planDft(1, &length, rows.count, from, nullptr, stride, distance, to, nullptr,
-                           stride, distance, inverse ? FFTW_BACKWARD : FFTW_FORWARD, flags);
+                           stride, distance, inverse ? fftw::backward : fftw::forward, flags);
         };
     }
-    auto realPlan(int length, const Rows& rows, fftw_r2r_kind kind) const {
+    auto realPlan(int length, const Rows& rows, fftw::Kind kind) const {
         return [=, this](Real* from, Real* to, unsigned flags) {
             const int stride = rows.stride(), distance = rows.distance(length);
             return planReal(1, &length, rows.count, from, nullptr, stride, distance, to, nullptr,
@@ -196,12 +192,12 @@ private:
                         int, int, unsigned) = nullptr;
     void (*executeInverse)(Plan, Complex*, Real*) = nullptr;
     Plan (*planReal)(int, const int*, int, Real*, const int*, int, int, Real*, const int*, int, int,
-                     const fftw_r2r_kind*, unsigned) = nullptr;
+                     const fftw::Kind*, unsigned) = nullptr;
     void (*executeReal)(Plan, Real*, Real*) = nullptr;
 };
 
-using DoubleApi = Api<fftw_plan, fftw_complex, double>;
-using SingleApi = Api<fftwf_plan, fftwf_complex, float>;
+using DoubleApi = Api<double>;
+using SingleApi = Api<float>;
 
 struct Build {
     std::string path;
@@ -243,11 +239,19 @@ void setPeerFolders(const std::vector<std::string>& folders) { peerFolders = fol
 
 std::string describePeers() {
     std::string text;
+    const auto describe = [&](const std::string& file, const auto& api) {
+        text += file + ": " + (api ? api.version : "no comparison, it cannot be opened") + "\n";
+    };
     for (const Build& build : builds()) {
-        if (build.twice) text += build.path + "libfftw3.so.3: " + build.twice.version + "\n";
-        if (build.single) text += build.path + "libfftw3f.so.3: " + build.single.version + "\n";
+        describe(build.path + "libfftw3.so.3", build.twice);
+        describe(build.path + "libfftw3f.so.3", build.single);
     }
     return text;
+}
+
+bool findsFftw() {
+    return std::ranges::any_of(builds(),
+                               [](const Build& build) { return build.twice || build.single; });
 }
 
 PeerPlan fftwPlan(const registry::Function& function) {
