@@ -70,8 +70,8 @@ void addBench(CLI::App& app, std::ostream& page) {
         ReportOptions report;
         int batches = 20, rounds = 2;
     };
-    CLI::App& command = *app.add_subcommand(
-        "bench", "Measure the time of the transforms, beside FFTW's where it is installed");
+    CLI::App& command =
+        *app.add_subcommand("bench", "Measure times of the transforms, beside FFTW's");
     const auto options = std::make_shared<Options>();
     addReport(command, options->choice, options->report);
     addNumber(command, "--batches", options->batches, 1, 100000,
@@ -92,8 +92,7 @@ void addAccuracy(CLI::App& app, std::ostream& page) {
         int signals = 50;
     };
     CLI::App& command =
-        *app.add_subcommand("accuracy",
-                            "Measure the errors of the transforms against sums in 128 bits");
+        *app.add_subcommand("accuracy", "Measure errors of the transforms, beside FFTW's");
     const auto options = std::make_shared<Options>();
     addReport(command, options->choice, options->report);
     addNumber(command, "--signals", options->signals, 1, 1000000,

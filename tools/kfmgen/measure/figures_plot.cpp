@@ -9,7 +9,7 @@
 namespace kfm::tool {
 namespace {
 
-constexpr int panelHeight = 440, keyHeight = 64, gap = 96;
+constexpr int panelHeight = 440, keyHeight = 72, gap = 96;
 constexpr int right = PlotLayout::width - 36;
 constexpr int middle = (PlotLayout::left + right - gap) / 2;
 constexpr std::string_view shownOfSeveral[] = {"DFTFwd_CToC", "DFTFwd_RToCCS", "Hartley"};
