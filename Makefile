@@ -18,7 +18,8 @@ all:
 
 test:
 	@tools/install-dependencies.sh test
-	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON
+	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON \
+		-DKFM_BUILD_PYTHON=ON -DKFM_PYTHON=/usr/bin/python3
 	@ctest --test-dir "$$BUILD" --output-on-failure --no-tests=error --parallel "$(JOBS)"
 
 test-sanitized: export BUILD := $(BUILD)/sanitized

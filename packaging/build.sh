@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 export BUILD="${BUILD:-build}/packages"
 mkdir -p "$BUILD"
 rm -f "$BUILD"/*.deb "$BUILD"/*.tar.xz
-tools/build.sh "$1" -DKFM_BUILD_TOOL=ON -DKFM_PACKAGES=ON
+tools/build.sh "$1" -DKFM_BUILD_TOOL=ON -DKFM_BUILD_PYTHON=ON -DKFM_PACKAGES=ON
 for target in $(cat "$BUILD/targets"); do
     (cd "$BUILD/$target" && rm -rf packages && cpack -G DEB > cpack.log 2>&1) ||
         { cat "$BUILD/$target/cpack.log"; exit 1; }

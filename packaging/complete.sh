@@ -16,11 +16,13 @@ find . -type f -name '*.a' -exec strip --strip-debug --remove-section=.comment \
 
 # programs <component>: its files that the loader loads.
 programs() {
-    find "$1" -type f \( -path '*/bin/*' -o -name 'lib*.so.*' \) | sort
+    find "$1" -type f \( -path '*/bin/*' -o -name 'lib*.so.*' -o -name '_*.so' \) | sort
 }
 
 components=runtime
-[ ! -d tool ] || components="$components tool"
+for component in tool python; do
+    [ ! -d "$component" ] || components="$components $component"
+done
 for component in $components; do
     # What a package of debug symbols says of itself is what the package itself says.
     package=$(ls "$component/usr/share/doc")

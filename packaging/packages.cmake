@@ -91,6 +91,19 @@ and spectrograms of a sound, in the terminal or drawn by gnuplot.")
     kfm_documents(tool kfmgen)
     kfm_debug_symbols(tool)
 endif()
+if(TARGET kfmgen_python)
+    target_compile_options(kfmgen_python PRIVATE ${debug_symbols})
+    math(EXPR next "${Python3_VERSION_MINOR} + 1")
+    kfm_package(python python3-kfmgen SECTION python FIELDS "Suggests: python3-scipy"
+        DEPENDS "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next}), python3-numpy"
+        DESCRIPTION "signal transforms of short fixed length for NumPy arrays
+The transforms of libkfmgenw7 along any axis of arrays of any shape and strides,
+many rows at a time, and a backend for scipy.fft.")
+    kfm_documents(python python3-kfmgen)
+    kfm_debug_symbols(python)
+    set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/python/postinst
+        ${PROJECT_SOURCE_DIR}/packaging/python/prerm)
+endif()
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/control/shlibs
     ${PROJECT_BINARY_DIR}/control/symbols ${PROJECT_SOURCE_DIR}/packaging/triggers)
 set(CPACK_KFM_CONTROL ${PROJECT_BINARY_DIR}/control)

@@ -4,13 +4,14 @@
 set -eu
 
 tool="libcli11-dev libsndfile1-dev"
+python="python3-dev python3-numpy"
 case ${1:-} in
     install) wanted=$tool
              why="to build the command-line tool" ;;
     demo)    wanted="$tool alsa-utils"
              why="to build the command-line tool and to have a recording to show" ;;
     test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind
-                     clang-format"
+                     clang-format $python python3-scipy python3-pytest python3-hypothesis"
              why="to build the tests, also for 32 bits" ;;
     bench)   wanted="$tool libfftw3-dev g++-multilib gnuplot-nox"
              why="to measure beside other libraries, also for 32 bits" ;;
@@ -20,13 +21,15 @@ case ${1:-} in
              why="to look for mistakes in the sources" ;;
     docs)    wanted="doxygen graphviz"
              why="to write the pages of the documentation" ;;
+    wheel)   wanted=$python
+             why="to build the Python package" ;;
     packages)
-             wanted="$tool dpkg-dev g++-multilib file"
+             wanted="$tool $python dpkg-dev g++-multilib file"
              why="to build packages, also for i386" ;;
     test-packages)
              wanted="lintian mmdebstrap"
              why="to check packages and to install them on a system of their own" ;;
-    *) echo "usage: $0 install|demo|test|bench|format|tidy|docs|packages|test-packages" >&2; exit 2 ;;
+    *) echo "usage: $0 install|demo|test|bench|format|tidy|docs|wheel|packages|test-packages" >&2; exit 2 ;;
 esac
 
 installed() {

@@ -1,6 +1,6 @@
 #!/bin/sh
-# readme_test.sh <source folder> <build folder of x86-64> <scratch folder>: does what README and
-# guide say, block after block (readme_blocks.awk tells how).
+# readme_test.sh <source folder> <build folder of x86-64> <scratch folder> <python>: does
+# what README and guide say, block after block (readme_blocks.awk tells how).
 #
 # Only make is another: of its goals, which all have to exist, it does "install PREFIX=..." alone,
 # with what is built already.
@@ -22,9 +22,15 @@ case \$* in
     *) exec $(command -v make) --dry-run -C "$source" "\$@" > /dev/null ;;
 esac
 MAKE
+# The interpreter of the Python package, where that is built.
+cat > "$scratch/bin/python3" <<PYTHON
+#!/bin/sh
+[ -d "$build/python" ] || exit 0
+PYTHONPATH="$build/python" exec $4 "\$@"
+PYTHON
 # The loader of this machine is not to know the scratch folder.
 printf '#!/bin/sh\n' > "$scratch/bin/ldconfig"
-chmod +x "$scratch/bin/make" "$scratch/bin/ldconfig"
+chmod +x "$scratch"/bin/*
 
 awk -f "$(dirname "$(realpath "$0")")/readme_blocks.awk" "$source/README.md" "$source/docs/guide.md" \
     > "$scratch/script"

@@ -23,7 +23,7 @@ apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created
     'Origin: Debian' 'Codename: bookworm' | sort -u > "$scratch/sources.list"
 [ -s "$scratch/sources.list" ] || fail "This machine's apt knows no place that has Debian 12."
 apt-config dump Acquire | grep -v ::IndexTargets > "$scratch/apt.conf"
-wanted=cmake,g++,g++-multilib,gnuplot-nox,make,pkg-config,libc6:i386
+wanted=cmake,g++,g++-multilib,gnuplot-nox,make,pkg-config,python3-scipy,libc6:i386
 system=$scratch/debian-$(echo "$wanted" | cat - "$scratch/sources.list" | cksum | tr ' ' -).tar
 if [ ! -e "$system" ]; then
     echo "A fresh Debian 12, into $system"

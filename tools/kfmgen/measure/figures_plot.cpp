@@ -90,8 +90,7 @@ std::string figuresScript(PictureKind kind, const Caption& caption, const Measur
     const auto place = [&](int from, int to) {
         return layout.place({from, to, PlotLayout::top, PlotLayout::top + panelHeight}) +
                format("set key at screen %.6f,%.6f\n", layout.x((from + to) / 2),
-                      layout.y(PlotLayout::top + panelHeight + PlotLayout::bottom + keyHeight / 2 -
-                               10));
+                      layout.y(PlotLayout::top + panelHeight + PlotLayout::bottom + keyHeight / 2));
     };
     std::string script = layout.head(kind, caption) +
                          format("set pointsize %g\n", kind == PictureKind::png ? 0.8 : 0.5) +

@@ -1,0 +1,103 @@
+#include "transforms.h"
+
+#include <bit>
+#include <cmath>
+
+#include "dct4_plans.h"
+#include "kfmrows.h"
+
+namespace kfm::python {
+namespace {
+
+int flagOf(Norm norm, bool inverse) {
+    if (norm == Norm::ortho) return kfmScaleBySqrtN;
+    if (inverse) return norm == Norm::backward ? kfmScaleInvByN : kfmScaleNone;
+    return norm == Norm::forward ? kfmScaleFwdByN : kfmScaleNone;
+}
+
+Outcome outcomeOf(KfmStatus status) {
+    if (status == kfmOk) return Outcome::done;
+    return status == kfmErrSize ? Outcome::badLength : Outcome::noMemory;
+}
+
+template <auto call, class Element, bool inverse>
+Outcome fixed(const Rows& rows) {
+    return outcomeOf(call(static_cast<const Element*>(rows.src), rows.srcStride, rows.srcDistance,
+                          static_cast<Element*>(rows.dst), rows.dstStride, rows.dstDistance,
+                          rows.length, rows.count, flagOf(rows.norm, inverse)));
+}
+
+template <auto call, class Element>
+Outcome byOrder(const Rows& rows) {
+    const auto length = static_cast<unsigned>(rows.length);
+    if (!std::has_single_bit(length)) return Outcome::badLength;
+    return outcomeOf(call(static_cast<const Element*>(rows.src), rows.srcStride, rows.srcDistance,
+                          static_cast<Element*>(rows.dst), rows.dstStride, rows.dstDistance,
+                          std::countr_zero(length), rows.count, flagOf(rows.norm, false), nullptr));
+}
+
+// That of scipy.fft: the sum twice, or its orthogonal or forward form.
+template <class Real>
+Real dct4Factor(Norm norm, int length) {
+    if (norm == Norm::ortho) return static_cast<Real>(std::sqrt(2.0 / length));
+    return norm == Norm::forward ? static_cast<Real>(1.0 / length) : Real(2);
+}
+
+template <auto call, class Spec, class Real>
+Outcome planned(const Rows& rows) {
+    const Spec* plan;
+    const PlanStatus status = dct4Plan(rows.length, plan);
+    if (status != PlanStatus::found)
+        return status == PlanStatus::badLength ? Outcome::badLength : Outcome::noMemory;
+    const auto dst = static_cast<Real*>(rows.dst);
+    const Outcome outcome =
+        outcomeOf(call(static_cast<const Real*>(rows.src), rows.srcStride, rows.srcDistance, dst,
+                       rows.dstStride, rows.dstDistance, rows.count, plan));
+    const Real factor = dct4Factor<Real>(rows.norm, rows.length);
+    for (std::ptrdiff_t row = 0; row < rows.count; ++row)
+        for (std::ptrdiff_t k = 0; k < rows.length; ++k)
+            dst[row * rows.dstDistance + k * rows.dstStride] *= factor;
+    return outcome;
+}
+
+int same(int length) { return length; }
+int ccsReals(int length) { return 2 * (length / 2 + 1); }
+int halfSpectrum(int length) { return length / 2 + 1; }
+
+constexpr Shape complexes{true, false, same}, reals{false, true, same}, ccs{false, true, ccsReals},
+    bins{true, true, halfSpectrum};
+
+constexpr const char* shortLengths = "2 to 64";
+
+}   // namespace
+
+#define KFM_BOTH(name, complex, inverse)                        \
+    fixed<kfmr##name##_32f##complex, Kfm32f##complex, inverse>, \
+        fixed<kfmr##name##_64f##complex, Kfm64f##complex, inverse>
+
+const Transform transforms[indexCount] = {
+    {"dft", shortLengths, complexes, complexes, false, KFM_BOTH(DFTFwd_CToC, c, false)},
+    {"idft", shortLengths, complexes, complexes, false, KFM_BOTH(DFTInv_CToC, c, true)},
+    {"rdft", shortLengths, reals, ccs, false, KFM_BOTH(DFTFwd_RToCCS, , false)},
+    {"rdft", shortLengths, reals, reals, false, KFM_BOTH(DFTFwd_RToPack, , false)},
+    {"rdft", shortLengths, reals, reals, false, KFM_BOTH(DFTFwd_RToPerm, , false)},
+    {"irdft", shortLengths, ccs, reals, true, KFM_BOTH(DFTInv_CCSToR, , true)},
+    {"irdft", shortLengths, reals, reals, false, KFM_BOTH(DFTInv_PackToR, , true)},
+    {"irdft", shortLengths, reals, reals, false, KFM_BOTH(DFTInv_PermToR, , true)},
+    {"rfft", shortLengths, reals, bins, false, KFM_BOTH(DFTFwd_RToCCS, , false)},
+    {"irfft", shortLengths, bins, reals, true, KFM_BOTH(DFTInv_CCSToR, , true)},
+    {"hartley", shortLengths, reals, reals, false, KFM_BOTH(Hartley, , false)},
+    {"wht", "powers of two from 2 to 8192", reals, reals, false, byOrder<kfmrWHT_32f, Kfm32f>,
+     byOrder<kfmrWHT_64f, Kfm64f>},
+    {"dct4", "powers of two from 2, from 32 on also one more", reals, reals, false,
+     planned<kfmrDCT4_32f, KfmDCT4Spec_32f, Kfm32f>,
+     planned<kfmrDCT4_64f, KfmDCT4Spec_64f, Kfm64f>}};
+
+bool hasLength(Index transform, bool doublePrecision, int length) {
+    if (transform == dct4) return isDct4Length(length, doublePrecision);
+    if (transform == wht)
+        return length >= 2 && length <= 8192 && std::has_single_bit(static_cast<unsigned>(length));
+    return length >= 2 && length <= 64;
+}
+
+}   // namespace kfm::python

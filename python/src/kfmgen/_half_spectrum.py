@@ -1,0 +1,62 @@
+"""rfft and irfft as NumPy has them: half a spectrum as complex numbers."""
+
+import operator
+
+import numpy as np
+
+from kfmgen._core import transform as _transform
+
+_AxisError = getattr(np, "exceptions", np).AxisError   # which moved there
+_RFFT, _IRFFT = 8, 9   # as core/transforms.h numbers them
+
+
+def with_length(x, count, axis):
+    """The first so many values along an axis, and zeros after them where there are fewer."""
+    x = np.asarray(x)
+    axis = operator.index(axis)
+    if not -x.ndim <= axis < x.ndim:
+        raise _AxisError(axis, x.ndim)
+    have = x.shape[axis]
+    if have == count:
+        return x
+    shape, part = list(x.shape), [slice(None)] * x.ndim
+    shape[axis], part[axis] = count, slice(min(have, count))
+    if have > count:
+        return x[tuple(part)]
+    padded = np.zeros(shape, x.dtype)
+    padded[tuple(part)] = x
+    return padded
+
+
+def rfft(x, n=None, axis=-1, norm="backward", out=None):
+    """DFT of 2 to 64 real samples: the N // 2 + 1 bins that :func:`numpy.fft.rfft` gives.
+
+    ``n`` is the length: of more samples the first are taken, fewer are followed by zeros.
+
+    >>> import numpy as np, kfmgen
+    >>> kfmgen.rfft(np.array([0.0, 1, 0, 0]))
+    array([ 1.+0.j,  0.-1.j, -1.+0.j])
+    """
+    if n is not None:
+        n = operator.index(n)
+        if n < 1:
+            raise ValueError(f"rfft: no length {n}: there are 2 to 64")
+        x = with_length(x, n, axis)
+    return _transform(_RFFT, x, 0, axis, norm, out)
+
+
+def irfft(x, n=None, axis=-1, norm="backward", out=None):
+    """Inverse of :func:`rfft`: real samples, as :func:`numpy.fft.irfft` gives them.
+
+    ``n`` is their number, ``2 * (bins - 1)`` if not given.
+
+    >>> import numpy as np, kfmgen
+    >>> kfmgen.irfft(kfmgen.rfft(np.array([1.0, 2, 3])), n=3).round(12)
+    array([1., 2., 3.])
+    """
+    if n is not None:
+        n = operator.index(n)
+        if n < 1:
+            raise ValueError(f"irfft: no length {n}: there are 2 to 64")
+        x = with_length(x, n // 2 + 1, axis)
+    return _transform(_IRFFT, x, n or 0, axis, norm, out)
