@@ -1,11 +1,11 @@
 #!/bin/sh
 # docs.sh [folder]: writes the site of the documentation into <folder>/docs, build/docs by default. Every
-# warning is an error: what is public and has no words is one. 77: doxygen or dot is not here.
+# warning is an error: what is public and has no words is one. 77: doxygen, dot or Python is not here.
 set -eu
 cd "$(dirname "$0")/.."
-for program in doxygen dot; do
+for program in doxygen dot python3; do
     if ! command -v "$program" >/dev/null; then
-        echo "$program is not installed (Debian: doxygen graphviz)." >&2
+        echo "$program is not installed (Debian: doxygen graphviz python3)." >&2
         exit 77
     fi
 done
@@ -15,6 +15,7 @@ OUTPUT=$(realpath "${1:-build}")
 inputs=$(mktemp -d)
 trap 'rm -rf "$inputs"' EXIT
 cp -R README.md CHANGELOG.md CONTRIBUTING.md docs include "$inputs"
+python3 docs/site/python_page.py python/src/kfmgen > "$inputs/docs/python.md"
 cd "$inputs"
 LAYOUT=$inputs/layout.xml
 VERSION=$(sed -n 's/^#define KFMGEN_VERSION_M[A-Z]* \([0-9]*\).*/\1/p' include/kfmgen.h | paste -sd.)

@@ -17,9 +17,9 @@ case ${1:-} in
              why="to measure beside other libraries, also for 32 bits" ;;
     format)  wanted="clang-format"
              why="to lay out the sources" ;;
-    tidy)    wanted="$tool libgtest-dev libfftw3-dev clang clang-tidy"
+    tidy)    wanted="$tool $python libgtest-dev libfftw3-dev clang clang-tidy"
              why="to look for mistakes in the sources" ;;
-    docs)    wanted="doxygen graphviz"
+    docs)    wanted="doxygen graphviz python3"
              why="to write the pages of the documentation" ;;
     wheel)   wanted=$python
              why="to build the Python package" ;;

@@ -10,7 +10,7 @@ if [ $# -gt 0 ]; then wanted=$(printf '|%s' "$@"); fi
 
 export CC=clang CXX=clang++
 cmake -S . -B "$folder" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON -DKFM_BUILD_BENCHMARKS=ON \
-    -DKFM_VARIANTS=OFF -DCMAKE_EXPORT_COMPILE_COMMANDS=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+    -DKFM_BUILD_PYTHON=ON -DKFM_VARIANTS=OFF -DCMAKE_EXPORT_COMPILE_COMMANDS=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
     > "$folder.log" 2>&1 || { cat "$folder.log"; exit 1; }
 
 # Each source once, though several programs compile it.
@@ -24,7 +24,7 @@ awk -v root="$PWD/" -v wanted="${wanted:+${wanted#|}}" -v list="$folder/once/sou
         sub(/^ *"file": "/, "", file)
         sub(/",?$/, "", file)
         mine = index(file, root) == 1 ? substr(file, length(root) + 1) : ""
-        mine = mine ~ /^(bench|src|tests|tools)\// && mine ~ wanted && !seen[mine]++
+        mine = mine ~ /^(bench|python|src|tests|tools)\// && mine ~ wanted && !seen[mine]++
     }
     /^}/ && mine {
         sub(/,\n$/, "\n", entry)

@@ -43,6 +43,14 @@ Real dct4Factor(Norm norm, int length) {
     return norm == Norm::forward ? static_cast<Real>(1.0 / length) : Real(2);
 }
 
+template <class Real>
+void scale(Real* values, std::ptrdiff_t stride, int count, Real factor) {
+    if (stride == 1)
+        for (int k = 0; k < count; ++k) values[k] *= factor;
+    else
+        for (int k = 0; k < count; ++k) values[k * stride] *= factor;
+}
+
 template <auto call, class Spec, class Real>
 Outcome planned(const Rows& rows) {
     const Spec* plan;
@@ -55,8 +63,7 @@ Outcome planned(const Rows& rows) {
                        rows.dstStride, rows.dstDistance, rows.count, plan));
     const Real factor = dct4Factor<Real>(rows.norm, rows.length);
     for (std::ptrdiff_t row = 0; row < rows.count; ++row)
-        for (std::ptrdiff_t k = 0; k < rows.length; ++k)
-            dst[row * rows.dstDistance + k * rows.dstStride] *= factor;
+        scale(dst + row * rows.dstDistance, rows.dstStride, rows.length, factor);
     return outcome;
 }
 
