@@ -94,7 +94,7 @@ endif()
 if(TARGET kfmgen_python)
     target_compile_options(kfmgen_python PRIVATE ${debug_symbols})
     math(EXPR next "${Python3_VERSION_MINOR} + 1")
-    kfm_package(python python3-kfmgen SECTION python FIELDS "Suggests: python3-scipy"
+    kfm_package(python python3-kfmgen SECTION python FIELDS "Suggests: python3-scipy, python3-dask"
         DEPENDS "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next}), python3-numpy"
         DESCRIPTION "signal transforms of short fixed length for NumPy arrays
 The transforms of libkfmgenw7 along any axis of arrays of any shape and strides,

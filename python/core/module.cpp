@@ -194,12 +194,23 @@ Outcome computeUnlocked(const Work& work, npy_intp bytes) {
     Py_END_ALLOW_THREADS return outcome;
 }
 
+// A Dask array is computed later, by calls that are given its blocks.
+PyObject* transformLazily(PyObject* const* arguments, Py_ssize_t count) {
+    const Reference module(PyImport_ImportModule("kfmgen._dask"));
+    if (!module) return nullptr;
+    const Reference function(PyObject_GetAttrString(module.object(), "transform"));
+    if (!function) return nullptr;
+    return PyObject_Vectorcall(function.object(), arguments, count, nullptr);
+}
+
 // transform(index, x, length, axis, norm, out)
 PyObject* transform(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
     if (count != 6) {
         PyErr_SetString(PyExc_TypeError, "six arguments are wanted");
         return nullptr;
     }
+    if (!PyArray_Check(arguments[1]) && PyObject_HasAttrString(arguments[1], "__dask_graph__"))
+        return transformLazily(arguments, count);
     const long number = PyLong_AsLong(arguments[0]);
     if (number < 0 || number >= indexCount) {
         if (!PyErr_Occurred()) PyErr_SetString(PyExc_ValueError, "no such transform");

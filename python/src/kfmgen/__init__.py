@@ -25,7 +25,8 @@ out : ndarray
     Where the result goes, of its shape and type. It may be the argument itself.
 
 Arrays of other types, integers say, are converted where the transform's type holds all of their values.
-Strides, alignment and the order of axes do not matter; contiguous rows are fastest.
+Strides, alignment and the order of axes do not matter; contiguous rows are fastest. Dask arrays stay
+lazy.
 
 Errors: ``ValueError`` for a length that there is not, a wrong ``norm`` or shape of ``out``,
 ``numpy.AxisError`` for the axis, ``TypeError`` for a type that is not converted, ``MemoryError``. None of
@@ -34,6 +35,7 @@ them leaves anything in ``out``.
 
 from kfmgen._half_spectrum import irfft, rfft
 from kfmgen._scipy import scipy_backend
+from kfmgen._spectrogram import spectrogram
 from kfmgen._transforms import dct4, dft, hartley, idft, irdft, rdft, wht
 
 __all__ = [
@@ -46,6 +48,7 @@ __all__ = [
     "rdft",
     "rfft",
     "scipy_backend",
+    "spectrogram",
     "wht",
 ]
 __version__ = "6.1"

@@ -12,20 +12,18 @@ _RFFT, _IRFFT = 8, 9   # as core/transforms.h numbers them
 
 def with_length(x, count, axis):
     """The first so many values along an axis, and zeros after them where there are fewer."""
-    x = np.asarray(x)
+    x = x if hasattr(x, "__dask_graph__") else np.asarray(x)
     axis = operator.index(axis)
     if not -x.ndim <= axis < x.ndim:
         raise _AxisError(axis, x.ndim)
     have = x.shape[axis]
     if have == count:
         return x
-    shape, part = list(x.shape), [slice(None)] * x.ndim
-    shape[axis], part[axis] = count, slice(min(have, count))
     if have > count:
-        return x[tuple(part)]
-    padded = np.zeros(shape, x.dtype)
-    padded[tuple(part)] = x
-    return padded
+        return x[(slice(None),) * (axis % x.ndim) + (slice(count),)]
+    widths = [(0, 0)] * x.ndim
+    widths[axis] = (0, count - have)
+    return np.pad(x, widths)
 
 
 def rfft(x, n=None, axis=-1, norm="backward", out=None):
