@@ -93,12 +93,15 @@ and spectrograms of a sound, in the terminal or drawn by gnuplot.")
 endif()
 if(TARGET kfmgen_python)
     target_compile_options(kfmgen_python PRIVATE ${debug_symbols})
+    # What of NumPy's binary interface the module is built for, under the name that Debian has for it.
+    file(STRINGS /usr/share/numpy3/versions numpy REGEX "^abi ")
+    string(REPLACE "abi " python3-numpy-abi numpy "${numpy}")
     math(EXPR next "${Python3_VERSION_MINOR} + 1")
     kfm_package(python python3-kfmgen SECTION python FIELDS "Suggests: python3-scipy, python3-dask"
-        DEPENDS "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next}), python3-numpy"
+        DEPENDS "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next}), python3-numpy, ${numpy}"
         DESCRIPTION "signal transforms of short fixed length for NumPy arrays
-The transforms of libkfmgenw7 along any axis of arrays of any shape and strides,
-many rows at a time, and a backend for scipy.fft.")
+The transforms of libkfmgenw7 along any axis of arrays of any shape and
+strides, many rows at a time, and a backend for scipy.fft.")
     kfm_documents(python python3-kfmgen)
     kfm_debug_symbols(python)
     set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/python/postinst
