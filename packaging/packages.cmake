@@ -96,9 +96,9 @@ if(TARGET kfmgen_python)
     # What of NumPy's binary interface the module is built for, under the name that Debian has for it.
     file(STRINGS /usr/share/numpy3/versions numpy REGEX "^abi ")
     string(REPLACE "abi " python3-numpy-abi numpy "${numpy}")
-    math(EXPR next "${Python3_VERSION_MINOR} + 1")
+    math(EXPR next "${KFM_PYTHON_MINOR} + 1")
     kfm_package(python python3-kfmgen SECTION python FIELDS "Suggests: python3-scipy, python3-dask"
-        DEPENDS "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next}), python3-numpy, ${numpy}"
+        DEPENDS "python3 (>= 3.${KFM_PYTHON_MINOR}), python3 (<< 3.${next}), python3-numpy, ${numpy}"
         DESCRIPTION "signal transforms of short fixed length for NumPy arrays
 The transforms of libkfmgenw7 along any axis of arrays of any shape and
 strides, many rows at a time, and a backend for scipy.fft.")

@@ -14,7 +14,7 @@ OUTPUT=$(realpath "${1:-build}")
 # Doxygen finds no page by a path with a space, so it reads copies.
 inputs=$(mktemp -d)
 trap 'rm -rf "$inputs"' EXIT
-cp -R README.md CHANGELOG.md CONTRIBUTING.md docs include "$inputs"
+cp -R README.md CHANGELOG.md CONTRIBUTING.md docs examples include "$inputs"
 python3 docs/site/python_page.py python/src/kfmgen > "$inputs/docs/python.md"
 cd "$inputs"
 LAYOUT=$inputs/layout.xml
