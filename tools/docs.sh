@@ -16,6 +16,9 @@ inputs=$(mktemp -d)
 trap 'rm -rf "$inputs"' EXIT
 cp -R README.md CHANGELOG.md CONTRIBUTING.md docs examples include "$inputs"
 python3 docs/site/python_page.py python/src/kfmgen > "$inputs/docs/python.md"
+# Doxygen takes every README for the main page.
+mv "$inputs/examples/README.md" "$inputs/examples/examples.md"
+sed -i 's,examples/README\.md,examples/examples.md,' "$inputs/README.md" "$inputs/docs/guide.md"
 cd "$inputs"
 LAYOUT=$inputs/layout.xml
 VERSION=$(sed -n 's/^#define KFMGEN_VERSION_M[A-Z]* \([0-9]*\).*/\1/p' include/kfmgen.h | paste -sd.)
