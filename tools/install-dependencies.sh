@@ -12,7 +12,8 @@ case ${1:-} in
              why="to build the command-line tool and to have a recording to show" ;;
     test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind
                      clang-format $python python3-scipy python3-pytest python3-hypothesis
-                     python3-dask python3-distributed python3-zarr python3-soundfile"
+                     python3-dask python3-distributed python3-zarr python3-soundfile
+                     python3-matplotlib alsa-utils"
              why="to build the tests, also for 32 bits" ;;
     bench)   wanted="$tool libfftw3-dev g++-multilib gnuplot-nox"
              why="to measure beside other libraries, also for 32 bits" ;;
