@@ -19,6 +19,6 @@ case ${1:-} in
     *) echo "usage: $0 [--check]" >&2; exit 2 ;;
 esac
 # shellcheck disable=SC2086
-find bench include python src tests tools \
+find bench examples include python src tests tools \
     \( -name '*.c' -o -name '*.cpp' -o -name '*.h' -o -name '*.hpp' \) -print0 |
     xargs -0 "$format" $how

@@ -13,7 +13,7 @@ case ${1:-} in
     test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind
                      clang-format $python python3-scipy python3-pytest python3-hypothesis
                      python3-dask python3-distributed python3-zarr python3-soundfile
-                     python3-matplotlib alsa-utils"
+                     python3-matplotlib alsa-utils libfftw3-dev"
              why="to build the tests, also for 32 bits" ;;
     bench)   wanted="$tool libfftw3-dev g++-multilib gnuplot-nox"
              why="to measure beside other libraries, also for 32 bits" ;;

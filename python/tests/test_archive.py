@@ -26,8 +26,8 @@ def archive(folder, samples=64 + 32 * 5999):
 
 def start(folder, *options):
     return subprocess.Popen(
-        [sys.executable, PROGRAM, "source.zarr", "-o", "out", "--workers", "2", "--block-bytes",
-         str(BLOCK), *options], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
+        [sys.executable, PROGRAM, "source.zarr", "-o", "out", "--block-bytes", str(BLOCK),
+         *(options or ("--workers", "2"))], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
         env={**os.environ, "DASK_DISTRIBUTED__SCHEDULER__ALLOWED_FAILURES": "3"})
 
 
@@ -94,6 +94,16 @@ def test_what_cannot_be_read_is_named_and_done_by_the_next_run(tmp_path):
     after = {path.name: path.stat().st_mtime_ns for path in results.iterdir()}
     assert {name for name in before if before[name] != after[name]} == set()
     assert len(after) - len(before) == len(failed)
+
+
+def test_a_cluster_that_runs(tmp_path):
+    from dask.distributed import LocalCluster
+
+    x = archive(tmp_path, 64 + 32 * 999)
+    with LocalCluster(n_workers=2, threads_per_worker=1, dashboard_address=None) as cluster:
+        status, out, err = finished(start(tmp_path, "--scheduler", cluster.scheduler_address))
+    assert (status, out[-1]) == (0, "10 of 10 blocks are in out"), err
+    assert powers(tmp_path).tobytes() == kfmgen.spectrogram(x, 64, 32).tobytes()
 
 
 def test_other_options_are_refused(tmp_path):
