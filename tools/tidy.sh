@@ -24,7 +24,7 @@ awk -v root="$PWD/" -v wanted="${wanted:+${wanted#|}}" -v list="$folder/once/sou
         sub(/^ *"file": "/, "", file)
         sub(/",?$/, "", file)
         mine = index(file, root) == 1 ? substr(file, length(root) + 1) : ""
-        mine = mine ~ /^(bench|python|src|tests|tools)\// && mine ~ wanted && !seen[mine]++
+        mine = mine ~ /^(bench|examples|python|src|tests|tools)\// && mine ~ wanted && !seen[mine]++
     }
     /^}/ && mine {
         sub(/,\n$/, "\n", entry)

@@ -93,8 +93,8 @@ void printTimes(Frame x) {
     Frame packed(length), back(length);
     std::vector<float> spectrum(length + 2);
     const auto bins = reinterpret_cast<fftwf_complex*>(spectrum.data());
-    const fftwf_plan there = fftwf_plan_dft_r2c_1d(length, x.data(), bins, FFTW_PATIENT);
-    const fftwf_plan here = fftwf_plan_dft_c2r_1d(length, bins, back.data(), FFTW_PATIENT);
+    fftwf_plan there = fftwf_plan_dft_r2c_1d(length, x.data(), bins, FFTW_PATIENT);
+    fftwf_plan here = fftwf_plan_dft_c2r_1d(length, bins, back.data(), FFTW_PATIENT);
     const auto ns =
         example::least({[&] {
                             kfmgDFTFwd_RToPerm_64_32f(x.data(), packed.data(), kfmScaleNone);
