@@ -28,14 +28,19 @@ else
     targets="x86-64"
     skipped="i386 was skipped: no 32-bit programs on this machine (Debian: g++-multilib)"
 fi
-: > "$build/CTestTestfile.cmake"
 generator=
 for target in $targets; do
     cmake --preset "$target" -B "$build/$target" ${generator:+"-DKFM_KERNELGEN=$generator"} \
         "$@" > "$build/configure-$target.log" || { cat "$build/configure-$target.log"; exit 1; }
     cmake --build "$build/$target" --parallel "$jobs" ${GOAL:+--target "$GOAL"}
-    echo "subdirs($target)" >> "$build/CTestTestfile.cmake"
     generator=$PWD/$build/$target/bin/kernelgen   # serves the targets that follow
 done
+# One goal of one target leaves what was built of others.
+if [ -n "${GOAL:-}" ] && [ -e "$build/targets" ]; then
+    for target in $(cat "$build/targets"); do
+        case " $targets " in *" $target "*) ;; *) targets="$targets $target" ;; esac
+    done
+fi
 echo "$targets" > "$build/targets"
+for target in $targets; do echo "subdirs($target)"; done > "$build/CTestTestfile.cmake"
 [ -z "$skipped" ] || echo "$skipped"
