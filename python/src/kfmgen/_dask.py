@@ -6,7 +6,6 @@ import dask.array as da
 import numpy as np
 
 from kfmgen import _core
-from kfmgen._spectrogram import _powers
 
 
 def _of_block(index, length, norm, block):
@@ -27,8 +26,9 @@ def transform(index, x, length, axis, norm, out):
                            allow_rechunk=True, meta=np.empty((0,) * x.ndim, sample.dtype))
 
 
-def spectrogram(x, length, hop, window):
-    """The frames that start in each chunk, from it and what of the next ones they reach into."""
+def spectrogram(x, length, hop, powers):
+    """The frames that start in each chunk, from it and what of the next ones they reach into;
+    ``powers(samples, first, count)`` computes those of a block."""
     # No frame reaches beyond the next chunk.
     if len(x.chunks[-1]) > 1 and min(x.chunks[-1]) < length - 1:
         least = min(length - 1, x.shape[-1])
@@ -48,7 +48,7 @@ def spectrogram(x, length, hop, window):
 
     def of_block(block, block_info=None):
         where = block_info[0]["chunk-location"][-1]
-        return _powers(block, offsets[where], counts[where], length, hop, window)
+        return powers(block, offsets[where], counts[where])
 
     return x.map_blocks(of_block, chunks=(*x.chunks[:-1], counts, (length // 2 + 1,)),
                         new_axis=x.ndim, meta=np.empty((0,) * (x.ndim + 1), x.dtype))

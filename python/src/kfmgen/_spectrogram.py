@@ -1,6 +1,7 @@
 """Powers over time and frequency, of arrays in memory and of those that Dask computes in chunks."""
 
 import operator
+from functools import partial
 
 import numpy as np
 
@@ -25,7 +26,7 @@ def _window(window, length):
     return values
 
 
-def _powers(samples, first, count, length, hop, window):
+def _powers(samples, first, count, *, length, hop, window):
     """Of the frames that start at first, first + hop ... of the last axis."""
     shape = (*samples.shape[:-1], count, length // 2 + 1)
     if count == 0:
@@ -66,9 +67,9 @@ def spectrogram(x, length, hop=None, window="hann"):
     x = x.astype(kind)
     values = _window(window, length)
     values = (values / values.sum()).astype(kind)
+    powers = partial(_powers, length=length, hop=hop, window=values)
     if lazy:
         from kfmgen._dask import spectrogram as of_chunks
 
-        return of_chunks(x, length, hop, values)
-    count = max(0, (x.shape[-1] - length) // hop + 1)
-    return _powers(x, 0, count, length, hop, values)
+        return of_chunks(x, length, hop, powers)
+    return powers(x, 0, max(0, (x.shape[-1] - length) // hop + 1))
