@@ -241,8 +241,10 @@ TEST_F(Format, TimesAndFrequencies) {
                                 "--window sqrt-hann sound.wav")
                                 .out);
     ASSERT_EQ(found.size(), 4 * 4u);
-    for (std::size_t i = 0; i < found.size(); ++i)
-        EXPECT_EQ(found[i][1], (2.0 * (i / 4) - 2) / 8000);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const std::size_t frame = i / 4;
+        EXPECT_EQ(found[i][1], (2.0 * frame - 2) / 8000);
+    }
     EXPECT_NEAR(found[0][3],
                 0.5 * (std::sin(0.625 * std::acos(-1)) + std::sin(0.875 * std::acos(-1))), 1e-7);
 }
