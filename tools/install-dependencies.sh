@@ -23,15 +23,13 @@ case ${1:-} in
              why="to look for mistakes in the sources" ;;
     docs)    wanted="doxygen graphviz python3"
              why="to write the pages of the documentation" ;;
-    wheel)   wanted=$python
-             why="to build the Python package" ;;
     packages)
              wanted="$tool $python dpkg-dev g++-multilib file"
              why="to build packages, also for i386" ;;
     test-packages)
              wanted="lintian mmdebstrap"
              why="to check packages and to install them on a system of their own" ;;
-    *) echo "usage: $0 install|demo|test|bench|format|tidy|docs|wheel|packages|test-packages" >&2; exit 2 ;;
+    *) echo "usage: $0 install|demo|test|bench|format|tidy|docs|packages|test-packages" >&2; exit 2 ;;
 esac
 
 installed() {
