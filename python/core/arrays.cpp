@@ -51,11 +51,11 @@ void simplify(std::vector<OuterAxis>& axes) {
 
 // Calls `each` with the two sides' offsets for every index of the axes but the last.
 template <class Each>
-Outcome forEachPlane(const std::vector<OuterAxis>& axes, Each each) {
+KfmStatus forEachPlane(const std::vector<OuterAxis>& axes, Each each) {
     std::vector<std::ptrdiff_t> index(axes.size() - 1);
     std::ptrdiff_t src = 0, dst = 0;
     for (;;) {
-        if (const Outcome outcome = each(src, dst); outcome != Outcome::done) return outcome;
+        if (const KfmStatus status = each(src, dst); status != kfmOk) return status;
         std::size_t i = index.size();
         while (i-- > 0) {
             src += axes[i].srcStep;
@@ -65,7 +65,7 @@ Outcome forEachPlane(const std::vector<OuterAxis>& axes, Each each) {
             dst -= axes[i].size * axes[i].dstStep;
             index[i] = 0;
         }
-        if (i == static_cast<std::size_t>(-1)) return Outcome::done;
+        if (i == static_cast<std::size_t>(-1)) return kfmOk;
     }
 }
 
@@ -86,11 +86,11 @@ void copyRow(char* to, std::ptrdiff_t toStride, const char* from, std::ptrdiff_t
 class Engine {
 public:
     explicit Engine(const Work& work)
-        : work_(work), call_(work.doublePrecision ? work.kind().twice : work.kind().single),
-          from_(work.kind().source, work.doublePrecision),
-          to_(work.kind().destination, work.doublePrecision) {}
+        : work_(work), call_(work.kind->call(work.doublePrecision)),
+          from_(work.kind->source, work.doublePrecision),
+          to_(work.kind->destination, work.doublePrecision) {}
 
-    Outcome run() const {
+    KfmStatus run() const {
         const OuterAxis& rows = work_.outer.back();
         const bool direct =
             from_.take(work_.src, rows.srcStep) && to_.take(work_.dst, rows.dstStep) &&
@@ -108,35 +108,30 @@ public:
 private:
     static constexpr std::ptrdiff_t blockBytes = 8192;
 
-    Outcome passThrough(const OuterAxis& rows) const {
+    KfmStatus passThrough(const OuterAxis& rows) const {
         const std::ptrdiff_t srcBytes = work_.src.count * from_.element;
         const std::ptrdiff_t dstBytes = work_.dst.count * to_.element;
         const std::ptrdiff_t most = std::max<std::ptrdiff_t>(
             1, std::min(rows.size, blockBytes / std::max(srcBytes, dstBytes)));
-        struct Free {
-            void operator()(char* block) const { std::free(block); }
-        };
-        const std::unique_ptr<char, Free> memory(
-            static_cast<char*>(std::malloc(most * (srcBytes + dstBytes))));
-        if (!memory) return Outcome::noMemory;
+        const auto memory = std::make_unique_for_overwrite<char[]>(most * (srcBytes + dstBytes));
         char* const sources = memory.get();
         char* const results = sources + most * srcBytes;
-        return forEachPlane(work_.outer, [&](std::ptrdiff_t src, std::ptrdiff_t dst) {
+        return forEachPlane(work_.outer, [&](std::ptrdiff_t src, std::ptrdiff_t dst) -> KfmStatus {
             for (std::ptrdiff_t first = 0; first < rows.size; first += most) {
                 const std::ptrdiff_t count = std::min(most, rows.size - first);
                 for (std::ptrdiff_t i = 0; i < count; ++i)
                     copyRow(sources + i * srcBytes, from_.element,
                             work_.src.data + src + (first + i) * rows.srcStep, work_.src.stride,
                             work_.src.count, from_.element);
-                const Outcome outcome =
+                const KfmStatus status =
                     call_({sources, 1, srcBytes / from_.unit, results, 1, dstBytes / to_.unit,
                            work_.length, count, work_.norm});
-                if (outcome != Outcome::done) return outcome;
+                if (status != kfmOk) return status;
                 for (std::ptrdiff_t i = 0; i < count; ++i)
                     copyRow(work_.dst.data + dst + (first + i) * rows.dstStep, work_.dst.stride,
                             results + i * dstBytes, to_.element, work_.dst.count, to_.element);
             }
-            return Outcome::done;
+            return kfmOk;
         });
     }
 
@@ -147,12 +142,11 @@ private:
 
 }   // namespace
 
-Outcome compute(Work work) try {
-    if (work.rows() == 0) return Outcome::done;
+KfmStatus compute(Work work) try {
     simplify(work.outer);
     return Engine(work).run();
 } catch (const std::bad_alloc&) {
-    return Outcome::noMemory;
+    return kfmErrNullPtr;   // as the library says of its own memory
 }
 
 }   // namespace kfm::python

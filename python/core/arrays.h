@@ -20,23 +20,16 @@ struct OuterAxis {
 };
 
 struct Work {
-    Index transform;
+    const Transform* kind;
     bool doublePrecision;
     Norm norm;
     int length;
-    Side src, dst;   // either the same place and spacing, or apart
-    std::vector<OuterAxis> outer;
-
-    const Transform& kind() const { return transforms[transform]; }
-    std::ptrdiff_t rows() const {
-        std::ptrdiff_t count = 1;
-        for (const OuterAxis& axis : outer) count *= axis.size;
-        return count;
-    }
+    Side src, dst;                  // either the same place and spacing, or apart
+    std::vector<OuterAxis> outer;   // none empty
 };
 
 // Arrays that the library can take as they lie are given to it, others pass block by block through a
-// few KiB of memory, at least a row. Nothing of Python is touched.
-Outcome compute(Work work);
+// few KiB of memory, at least a row. Nothing of Python is touched. Not kfmOk where memory is exhausted.
+KfmStatus compute(Work work);
 
 }   // namespace kfm::python

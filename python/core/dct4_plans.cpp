@@ -9,11 +9,13 @@ template <class Spec>
 struct Calls;
 template <>
 struct Calls<KfmDCT4Spec_32f> {
+    static constexpr auto size = kfmgDCT4GetSize_32f;
     static constexpr auto make = kfmgDCT4InitAlloc_32f;
     static constexpr auto free = kfmgDCT4Free_32f;
 };
 template <>
 struct Calls<KfmDCT4Spec_64f> {
+    static constexpr auto size = kfmgDCT4GetSize_64f;
     static constexpr auto make = kfmgDCT4InitAlloc_64f;
     static constexpr auto free = kfmgDCT4Free_64f;
 };
@@ -26,24 +28,23 @@ public:
         for (const Entry& entry : entries_) Calls<Spec>::free(entry.spec);
     }
 
-    PlanStatus find(int length, const Spec*& plan) {
+    KfmStatus find(int length, const Spec*& plan) {
         for (auto entry = entries_.begin(); entry != entries_.end(); ++entry)
             if (entry->length == length) {
                 entries_.splice(entries_.begin(), entries_, entry);
                 plan = entry->spec;
-                return PlanStatus::found;
+                return kfmOk;
             }
         Entry made{length, nullptr};
         const KfmStatus status = Calls<Spec>::make(&made.spec, length);
-        if (status != kfmOk)
-            return status == kfmErrSize ? PlanStatus::badLength : PlanStatus::noMemory;
+        if (status != kfmOk) return status;
         entries_.push_front(made);
         if (entries_.size() > most) {
             Calls<Spec>::free(entries_.back().spec);
             entries_.pop_back();
         }
         plan = made.spec;
-        return PlanStatus::found;
+        return kfmOk;
     }
 
 private:
@@ -56,19 +57,22 @@ private:
 };
 
 template <class Spec>
-PlanStatus findHere(int length, const Spec*& plan) {
+KfmStatus findHere(int length, const Spec*& plan) {
     thread_local Plans<Spec> plans;
     return plans.find(length, plan);
 }
 
 }   // namespace
 
-PlanStatus dct4Plan(int length, const KfmDCT4Spec_32f*& plan) { return findHere(length, plan); }
-PlanStatus dct4Plan(int length, const KfmDCT4Spec_64f*& plan) { return findHere(length, plan); }
+KfmStatus dct4Plan(int length, const KfmDCT4Spec_32f*& plan) { return findHere(length, plan); }
+KfmStatus dct4Plan(int length, const KfmDCT4Spec_64f*& plan) { return findHere(length, plan); }
 
-bool isDct4Length(int length, bool doublePrecision) {
+template <class Spec>
+KfmStatus dct4LengthStatus(int length) {
     int size;
-    return (doublePrecision ? kfmgDCT4GetSize_64f : kfmgDCT4GetSize_32f)(length, &size) == kfmOk;
+    return Calls<Spec>::size(length, &size);
 }
+template KfmStatus dct4LengthStatus<KfmDCT4Spec_32f>(int length);
+template KfmStatus dct4LengthStatus<KfmDCT4Spec_64f>(int length);
 
 }   // namespace kfm::python

@@ -5,13 +5,12 @@
 
 namespace kfm::python {
 
-enum class PlanStatus { found, badLength, noMemory };
+// kfmErrSize, or another status where memory is exhausted. The plan is valid until the calling thread asks for other lengths, of which it keeps the last few, or ends.
+KfmStatus dct4Plan(int length, const KfmDCT4Spec_32f*& plan);
+KfmStatus dct4Plan(int length, const KfmDCT4Spec_64f*& plan);
 
-// Valid until the calling thread asks for other lengths, of which it keeps the last few, or ends.
-PlanStatus dct4Plan(int length, const KfmDCT4Spec_32f*& plan);
-PlanStatus dct4Plan(int length, const KfmDCT4Spec_64f*& plan);
-
-// Without making a plan.
-bool isDct4Length(int length, bool doublePrecision);
+// What making a plan would say of the length: kfmOk or kfmErrSize.
+template <class Spec>
+KfmStatus dct4LengthStatus(int length);
 
 }   // namespace kfm::python

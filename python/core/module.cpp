@@ -100,13 +100,16 @@ PyObject* readSource(PyObject* object, const Transform& kind, bool& doublePrecis
     return nullptr;
 }
 
-// The length of the signal, from that of the source's axis and from what was asked for, 0 for nothing.
-bool readLength(Index index, npy_intp axis, npy_intp wanted, bool doublePrecision, int& length) {
-    const Transform& kind = transforms[index];
-    npy_intp signal = axis;
+// The length of the signal, from that of the source's axis and from what was asked for, or None.
+bool readLength(PyObject* object, const Transform& kind, npy_intp axis, bool doublePrecision,
+                int& length) {
+    const npy_intp pairs = kind.source.complex ? axis : axis / 2;
+    npy_intp signal = kind.inverse ? 2 * (pairs - 1) : axis;
+    if (object != Py_None) {
+        signal = PyNumber_AsSsize_t(object, PyExc_OverflowError);
+        if (signal == -1 && PyErr_Occurred()) return false;
+    }
     if (kind.inverse) {
-        const npy_intp pairs = kind.source.complex ? axis : axis / 2;
-        signal = wanted != 0 ? wanted : 2 * (pairs - 1);
         if (signal < 1 || signal > INT_MAX || kind.source.size(static_cast<int>(signal)) != axis) {
             PyErr_Format(PyExc_ValueError,
                          "%s: half a spectrum of %zd values is not one of length %zd", kind.name,
@@ -114,7 +117,8 @@ bool readLength(Index index, npy_intp axis, npy_intp wanted, bool doublePrecisio
             return false;
         }
     }
-    if (signal > INT_MAX || !hasLength(index, doublePrecision, static_cast<int>(signal))) {
+    if ((!kind.inverse && signal != axis) || signal > INT_MAX ||
+        !kind.hasLength(static_cast<int>(signal), doublePrecision)) {
         PyErr_Format(PyExc_ValueError, "%s: no length %zd: there are %s", kind.name, signal,
                      kind.lengths);
         return false;
@@ -186,12 +190,13 @@ Side sideOf(PyArrayObject* array, int axis) {
             static_cast<int>(PyArray_DIM(array, axis))};
 }
 
-Outcome computeUnlocked(const Work& work, npy_intp bytes) {
+KfmStatus computeUnlocked(const Work& work, npy_intp bytes) {
     constexpr npy_intp worthwhile = 8192;
     if (bytes < worthwhile) return compute(work);
-    Outcome outcome;
-    Py_BEGIN_ALLOW_THREADS outcome = compute(work);
-    Py_END_ALLOW_THREADS return outcome;
+    PyThreadState* const state = PyEval_SaveThread();
+    const KfmStatus status = compute(work);
+    PyEval_RestoreThread(state);
+    return status;
 }
 
 // A Dask array is computed later, by calls that are given its blocks.
@@ -212,29 +217,28 @@ PyObject* transform(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
     if (!PyArray_Check(arguments[1]) && PyObject_HasAttrString(arguments[1], "__dask_graph__"))
         return transformLazily(arguments, count);
     const long number = PyLong_AsLong(arguments[0]);
-    if (number < 0 || number >= indexCount) {
+    if (number < 0 || number >= static_cast<long>(transforms().size())) {
         if (!PyErr_Occurred()) PyErr_SetString(PyExc_ValueError, "no such transform");
         return nullptr;
     }
-    Work work{.transform = static_cast<Index>(number),
+    const Transform& kind = transforms()[number];
+    Work work{.kind = &kind,
               .doublePrecision = false,
               .norm = Norm::backward,
               .length = 0,
               .src = {},
               .dst = {},
               .outer = {}};
-    Reference source(readSource(arguments[1], work.kind(), work.doublePrecision));
+    Reference source(readSource(arguments[1], kind, work.doublePrecision));
     if (!source) return nullptr;
-    const npy_intp wanted = PyNumber_AsSsize_t(arguments[2], PyExc_OverflowError);
-    if (wanted == -1 && PyErr_Occurred()) return nullptr;
     int axis;
     if (!readAxis(arguments[3], PyArray_NDIM(source.array()), axis) ||
         !readNorm(arguments[4], work.norm) ||
-        !readLength(work.transform, PyArray_DIM(source.array(), axis), wanted, work.doublePrecision,
+        !readLength(arguments[2], kind, PyArray_DIM(source.array(), axis), work.doublePrecision,
                     work.length))
         return nullptr;
-    Reference out(readOut(arguments[5], work.kind(), source.array(), axis,
-                          work.kind().destination.size(work.length), work.doublePrecision));
+    Reference out(readOut(arguments[5], kind, source.array(), axis,
+                          kind.destination.size(work.length), work.doublePrecision));
     if (!out) return nullptr;
     if (PyArray_SIZE(out.array()) == 0) return out.release();
     if (arguments[5] != Py_None && mayOverlap(source.array(), out.array())) {
@@ -247,7 +251,7 @@ PyObject* transform(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
         if (i != axis)
             work.outer.push_back({PyArray_DIM(out.array(), i), PyArray_STRIDE(source.array(), i),
                                   PyArray_STRIDE(out.array(), i)});
-    if (computeUnlocked(work, PyArray_NBYTES(out.array())) != Outcome::done)
+    if (computeUnlocked(work, PyArray_NBYTES(out.array())) != kfmOk)
         return PyErr_NoMemory();   // lengths were looked at before
     return out.release();
 }
@@ -272,5 +276,12 @@ PyModuleDef definition = {PyModuleDef_HEAD_INIT,
 
 PyMODINIT_FUNC PyInit__core() {
     import_array();
-    return PyModule_Create(&kfm::python::definition);
+    PyObject* const module = PyModule_Create(&kfm::python::definition);
+    const auto table = kfm::python::transforms();
+    for (std::size_t i = 0; module && i < table.size(); ++i)
+        if (PyModule_AddIntConstant(module, table[i].constant, static_cast<long>(i)) < 0) {
+            Py_DECREF(module);
+            return nullptr;
+        }
+    return module;
 }

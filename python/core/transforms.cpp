@@ -15,25 +15,20 @@ int flagOf(Norm norm, bool inverse) {
     return norm == Norm::forward ? kfmScaleFwdByN : kfmScaleNone;
 }
 
-Outcome outcomeOf(KfmStatus status) {
-    if (status == kfmOk) return Outcome::done;
-    return status == kfmErrSize ? Outcome::badLength : Outcome::noMemory;
-}
-
 template <auto call, class Element, bool inverse>
-Outcome fixed(const Rows& rows) {
-    return outcomeOf(call(static_cast<const Element*>(rows.src), rows.srcStride, rows.srcDistance,
-                          static_cast<Element*>(rows.dst), rows.dstStride, rows.dstDistance,
-                          rows.length, rows.count, flagOf(rows.norm, inverse)));
+KfmStatus fixed(const Rows& rows) {
+    return call(static_cast<const Element*>(rows.src), rows.srcStride, rows.srcDistance,
+                static_cast<Element*>(rows.dst), rows.dstStride, rows.dstDistance, rows.length,
+                rows.count, flagOf(rows.norm, inverse));
 }
 
 template <auto call, class Element>
-Outcome byOrder(const Rows& rows) {
+KfmStatus byOrder(const Rows& rows) {
     const auto length = static_cast<unsigned>(rows.length);
-    if (!std::has_single_bit(length)) return Outcome::badLength;
-    return outcomeOf(call(static_cast<const Element*>(rows.src), rows.srcStride, rows.srcDistance,
-                          static_cast<Element*>(rows.dst), rows.dstStride, rows.dstDistance,
-                          std::countr_zero(length), rows.count, flagOf(rows.norm, false), nullptr));
+    if (!std::has_single_bit(length)) return kfmErrSize;
+    return call(static_cast<const Element*>(rows.src), rows.srcStride, rows.srcDistance,
+                static_cast<Element*>(rows.dst), rows.dstStride, rows.dstDistance,
+                std::countr_zero(length), rows.count, flagOf(rows.norm, false), nullptr);
 }
 
 // That of scipy.fft: the sum twice, or its orthogonal or forward form.
@@ -52,19 +47,19 @@ void scale(Real* values, std::ptrdiff_t stride, int count, Real factor) {
 }
 
 template <auto call, class Spec, class Real>
-Outcome planned(const Rows& rows) {
+KfmStatus planned(const Rows& rows) {
+    if (rows.count == 0) return dct4LengthStatus<Spec>(rows.length);
     const Spec* plan;
-    const PlanStatus status = dct4Plan(rows.length, plan);
-    if (status != PlanStatus::found)
-        return status == PlanStatus::badLength ? Outcome::badLength : Outcome::noMemory;
+    KfmStatus status = dct4Plan(rows.length, plan);
+    if (status != kfmOk) return status;
     const auto dst = static_cast<Real*>(rows.dst);
-    const Outcome outcome =
-        outcomeOf(call(static_cast<const Real*>(rows.src), rows.srcStride, rows.srcDistance, dst,
-                       rows.dstStride, rows.dstDistance, rows.count, plan));
+    status = call(static_cast<const Real*>(rows.src), rows.srcStride, rows.srcDistance, dst,
+                  rows.dstStride, rows.dstDistance, rows.count, plan);
+    if (status != kfmOk) return status;
     const Real factor = dct4Factor<Real>(rows.norm, rows.length);
     for (std::ptrdiff_t row = 0; row < rows.count; ++row)
         scale(dst + row * rows.dstDistance, rows.dstStride, rows.length, factor);
-    return outcome;
+    return kfmOk;
 }
 
 int same(int length) { return length; }
@@ -76,35 +71,30 @@ constexpr Shape complexes{true, false, same}, reals{false, true, same}, ccs{fals
 
 constexpr const char* shortLengths = "2 to 64";
 
-}   // namespace
-
 #define KFM_BOTH(name, complex, inverse)                        \
     fixed<kfmr##name##_32f##complex, Kfm32f##complex, inverse>, \
         fixed<kfmr##name##_64f##complex, Kfm64f##complex, inverse>
 
-const Transform transforms[indexCount] = {
-    {"dft", shortLengths, complexes, complexes, false, KFM_BOTH(DFTFwd_CToC, c, false)},
-    {"idft", shortLengths, complexes, complexes, false, KFM_BOTH(DFTInv_CToC, c, true)},
-    {"rdft", shortLengths, reals, ccs, false, KFM_BOTH(DFTFwd_RToCCS, , false)},
-    {"rdft", shortLengths, reals, reals, false, KFM_BOTH(DFTFwd_RToPack, , false)},
-    {"rdft", shortLengths, reals, reals, false, KFM_BOTH(DFTFwd_RToPerm, , false)},
-    {"irdft", shortLengths, ccs, reals, true, KFM_BOTH(DFTInv_CCSToR, , true)},
-    {"irdft", shortLengths, reals, reals, false, KFM_BOTH(DFTInv_PackToR, , true)},
-    {"irdft", shortLengths, reals, reals, false, KFM_BOTH(DFTInv_PermToR, , true)},
-    {"rfft", shortLengths, reals, bins, false, KFM_BOTH(DFTFwd_RToCCS, , false)},
-    {"irfft", shortLengths, bins, reals, true, KFM_BOTH(DFTInv_CCSToR, , true)},
-    {"hartley", shortLengths, reals, reals, false, KFM_BOTH(Hartley, , false)},
-    {"wht", "powers of two from 2 to 8192", reals, reals, false, byOrder<kfmrWHT_32f, Kfm32f>,
-     byOrder<kfmrWHT_64f, Kfm64f>},
-    {"dct4", "powers of two from 2, from 32 on also one more", reals, reals, false,
+constexpr Transform table[] = {
+    {"DFT", "dft", shortLengths, complexes, complexes, false, KFM_BOTH(DFTFwd_CToC, c, false)},
+    {"IDFT", "idft", shortLengths, complexes, complexes, false, KFM_BOTH(DFTInv_CToC, c, true)},
+    {"RDFT_CCS", "rdft", shortLengths, reals, ccs, false, KFM_BOTH(DFTFwd_RToCCS, , false)},
+    {"RDFT_PACK", "rdft", shortLengths, reals, reals, false, KFM_BOTH(DFTFwd_RToPack, , false)},
+    {"RDFT_PERM", "rdft", shortLengths, reals, reals, false, KFM_BOTH(DFTFwd_RToPerm, , false)},
+    {"IRDFT_CCS", "irdft", shortLengths, ccs, reals, true, KFM_BOTH(DFTInv_CCSToR, , true)},
+    {"IRDFT_PACK", "irdft", shortLengths, reals, reals, false, KFM_BOTH(DFTInv_PackToR, , true)},
+    {"IRDFT_PERM", "irdft", shortLengths, reals, reals, false, KFM_BOTH(DFTInv_PermToR, , true)},
+    {"RFFT", "rfft", shortLengths, reals, bins, false, KFM_BOTH(DFTFwd_RToCCS, , false)},
+    {"IRFFT", "irfft", shortLengths, bins, reals, true, KFM_BOTH(DFTInv_CCSToR, , true)},
+    {"HARTLEY", "hartley", shortLengths, reals, reals, false, KFM_BOTH(Hartley, , false)},
+    {"WHT", "wht", "powers of two from 2 to 8192", reals, reals, false,
+     byOrder<kfmrWHT_32f, Kfm32f>, byOrder<kfmrWHT_64f, Kfm64f>},
+    {"DCT4", "dct4", "powers of two from 2, from 32 on also one more", reals, reals, false,
      planned<kfmrDCT4_32f, KfmDCT4Spec_32f, Kfm32f>,
      planned<kfmrDCT4_64f, KfmDCT4Spec_64f, Kfm64f>}};
 
-bool hasLength(Index transform, bool doublePrecision, int length) {
-    if (transform == dct4) return isDct4Length(length, doublePrecision);
-    if (transform == wht)
-        return length >= 2 && length <= 8192 && std::has_single_bit(static_cast<unsigned>(length));
-    return length >= 2 && length <= 64;
-}
+}   // namespace
+
+std::span<const Transform> transforms() { return table; }
 
 }   // namespace kfm::python

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
+
+#include "kfmgen.h"
 
 namespace kfm::python {
 
@@ -11,17 +14,18 @@ enum class Norm { backward, ortho, forward };
 // So many rows. Strides are those of an element within its row, distances from row to row, both in
 // units of the side's Shape.
 struct Rows {
-    const void* src;
-    std::ptrdiff_t srcStride, srcDistance;
-    void* dst;
-    std::ptrdiff_t dstStride, dstDistance;
-    int length;   // of the signal
-    std::ptrdiff_t count;
-    Norm norm;
+    const void* src = nullptr;
+    std::ptrdiff_t srcStride = 0, srcDistance = 0;
+    void* dst = nullptr;
+    std::ptrdiff_t dstStride = 0, dstDistance = 0;
+    int length = 0;   // of the signal
+    std::ptrdiff_t count = 0;
+    Norm norm = Norm::backward;
 };
 
-enum class Outcome { done, badLength, noMemory };
-using Call = Outcome (*)(const Rows& rows);
+// kfmErrSize for a length that there is not, whatever the arrays; then kfmErrNullPtr also where memory is
+// exhausted.
+using Call = KfmStatus (*)(const Rows& rows);
 
 // What lies in the array of one side. The library counts a half spectrum in real numbers, whose pairs
 // NumPy may see as complex ones.
@@ -32,32 +36,19 @@ struct Shape {
 };
 
 struct Transform {
-    const char* name;   // in messages
+    const char* constant;   // of the module, its place in the table
+    const char* name;       // in messages
     const char* lengths;
     Shape source, destination;
     bool inverse;   // its length is not that of its source
     Call single, twice;
+
+    Call call(bool doublePrecision) const { return doublePrecision ? twice : single; }
+    bool hasLength(int length, bool doublePrecision) const {
+        return call(doublePrecision)({.length = length}) != kfmErrSize;
+    }
 };
 
-enum Index {
-    dft,
-    idft,
-    rdftCcs,
-    rdftPack,
-    rdftPerm,
-    irdftCcs,
-    irdftPack,
-    irdftPerm,
-    rfft,
-    irfft,
-    hartley,
-    wht,
-    dct4,
-    indexCount
-};
-extern const Transform transforms[indexCount];
-
-// Whether there is the transform of this length: nothing has to be undone later.
-bool hasLength(Index transform, bool doublePrecision, int length);
+std::span<const Transform> transforms();
 
 }   // namespace kfm::python

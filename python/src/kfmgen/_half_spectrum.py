@@ -4,10 +4,10 @@ import operator
 
 import numpy as np
 
+from kfmgen import _core
 from kfmgen._core import transform as _transform
 
 _AxisError = getattr(np, "exceptions", np).AxisError   # which moved there
-_RFFT, _IRFFT = 8, 9   # as core/transforms.h numbers them
 
 
 def with_length(x, count, axis):
@@ -36,11 +36,8 @@ def rfft(x, n=None, axis=-1, norm="backward", out=None):
     array([ 1.+0.j,  0.-1.j, -1.+0.j])
     """
     if n is not None:
-        n = operator.index(n)
-        if n < 1:
-            raise ValueError(f"rfft: no length {n}: there are 2 to 64")
-        x = with_length(x, n, axis)
-    return _transform(_RFFT, x, 0, axis, norm, out)
+        x = with_length(x, operator.index(n), axis)
+    return _transform(_core.RFFT, x, n, axis, norm, out)
 
 
 def irfft(x, n=None, axis=-1, norm="backward", out=None):
@@ -53,8 +50,5 @@ def irfft(x, n=None, axis=-1, norm="backward", out=None):
     array([1., 2., 3.])
     """
     if n is not None:
-        n = operator.index(n)
-        if n < 1:
-            raise ValueError(f"irfft: no length {n}: there are 2 to 64")
-        x = with_length(x, n // 2 + 1, axis)
-    return _transform(_IRFFT, x, n or 0, axis, norm, out)
+        x = with_length(x, operator.index(n) // 2 + 1, axis)
+    return _transform(_core.IRFFT, x, n, axis, norm, out)

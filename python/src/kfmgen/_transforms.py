@@ -1,12 +1,10 @@
 """The transforms whose results have the length of their axis, or that of a packed spectrum."""
 
+from kfmgen import _core
 from kfmgen._core import transform as _transform
 
-# As core/transforms.h numbers them.
-_DFT, _IDFT = 0, 1
-_RDFT = {"ccs": 2, "pack": 3, "perm": 4}
-_IRDFT = {"ccs": 5, "pack": 6, "perm": 7}
-_HARTLEY, _WHT, _DCT4 = 10, 11, 12
+_RDFT = {"ccs": _core.RDFT_CCS, "pack": _core.RDFT_PACK, "perm": _core.RDFT_PERM}
+_IRDFT = {"ccs": _core.IRDFT_CCS, "pack": _core.IRDFT_PACK, "perm": _core.IRDFT_PERM}
 
 
 def _of_layout(table, layout):
@@ -25,7 +23,7 @@ def dft(x, axis=-1, norm="backward", out=None):
     >>> kfmgen.dft(np.array([0, 1, 0, 0], dtype=np.complex64))
     array([ 1.+0.j,  0.-1.j, -1.+0.j,  0.+1.j], dtype=complex64)
     """
-    return _transform(_DFT, x, 0, axis, norm, out)
+    return _transform(_core.DFT, x, None, axis, norm, out)
 
 
 def idft(x, axis=-1, norm="backward", out=None):
@@ -35,7 +33,7 @@ def idft(x, axis=-1, norm="backward", out=None):
     >>> kfmgen.idft(kfmgen.dft(np.array([1j, 2, 3, 4]))).round(12)
     array([0.+1.j, 2.+0.j, 3.+0.j, 4.+0.j])
     """
-    return _transform(_IDFT, x, 0, axis, norm, out)
+    return _transform(_core.IDFT, x, None, axis, norm, out)
 
 
 def rdft(x, layout="ccs", axis=-1, norm="backward", out=None):
@@ -49,7 +47,7 @@ def rdft(x, layout="ccs", axis=-1, norm="backward", out=None):
     >>> kfmgen.rdft(np.array([1.0, 2, 3, 4]), layout="perm")
     array([10., -2., -2.,  2.])
     """
-    return _transform(_of_layout(_RDFT, layout), x, 0, axis, norm, out)
+    return _transform(_of_layout(_RDFT, layout), x, None, axis, norm, out)
 
 
 def irdft(x, layout="ccs", n=None, axis=-1, norm="backward", out=None):
@@ -65,7 +63,7 @@ def irdft(x, layout="ccs", n=None, axis=-1, norm="backward", out=None):
     index = _of_layout(_IRDFT, layout)
     if n is not None and layout != "ccs":
         raise ValueError(f'n is for layout "ccs": a spectrum in {layout!r} is as long as its signal')
-    return _transform(index, x, n or 0, axis, norm, out)
+    return _transform(index, x, n, axis, norm, out)
 
 
 def hartley(x, axis=-1, norm="backward", out=None):
@@ -77,7 +75,7 @@ def hartley(x, axis=-1, norm="backward", out=None):
     >>> kfmgen.hartley(np.array([0.0, 1, 0, 0]))
     array([ 1.,  1., -1., -1.])
     """
-    return _transform(_HARTLEY, x, 0, axis, norm, out)
+    return _transform(_core.HARTLEY, x, None, axis, norm, out)
 
 
 def wht(x, axis=-1, norm="backward", out=None):
@@ -89,7 +87,7 @@ def wht(x, axis=-1, norm="backward", out=None):
     >>> kfmgen.wht(np.array([1.0, 0, 1, 0]))
     array([2., 2., 0., 0.])
     """
-    return _transform(_WHT, x, 0, axis, norm, out)
+    return _transform(_core.WHT, x, None, axis, norm, out)
 
 
 def dct4(x, axis=-1, norm="backward", out=None):
@@ -104,4 +102,4 @@ def dct4(x, axis=-1, norm="backward", out=None):
     >>> kfmgen.dct4(kfmgen.dct4(x, norm="ortho"), norm="ortho").round(12)
     array([1., 2., 3., 4.])
     """
-    return _transform(_DCT4, x, 0, axis, norm, out)
+    return _transform(_core.DCT4, x, None, axis, norm, out)
