@@ -38,6 +38,12 @@ def _axis(x, axis):
     return axis % x.ndim
 
 
+def _axis_and_length(x, axis, n, of_size=lambda size: size):
+    """The axis, and the length asked for, or what follows from the size of the axis."""
+    axis = _axis(x, axis)
+    return axis, of_size(x.shape[axis]) if n is None else operator.index(n)
+
+
 def _norm(norm):
     if norm not in (None, "backward", "ortho", "forward"):
         raise _NotServed
@@ -47,44 +53,47 @@ def _norm(norm):
 def _complex(function):
     def transformed(x, n=None, axis=-1, norm=None):
         x = _array(x, _REAL + _COMPLEX)
-        axis = _axis(x, axis)
-        n = _short(x.shape[axis] if n is None else operator.index(n))
-        return function(_half_spectrum.with_length(x, n, axis), axis=axis, norm=_norm(norm))
+        axis, n = _axis_and_length(x, axis, n)
+        return function(_half_spectrum.with_length(x, _short(n), axis), axis=axis, norm=_norm(norm))
 
     return transformed
 
 
 def _rfft(x, n=None, axis=-1, norm=None):
     x = _array(x, _REAL)
-    axis = _axis(x, axis)
-    n = _short(x.shape[axis] if n is None else operator.index(n))
-    return _half_spectrum.rfft(x, n, axis, _norm(norm))
+    axis, n = _axis_and_length(x, axis, n)
+    return _half_spectrum.rfft(x, _short(n), axis, _norm(norm))
+
+
+def _signal_length(bins):
+    return 2 * (bins - 1)
 
 
 def _irfft(x, n=None, axis=-1, norm=None):
     x = _array(x, _REAL + _COMPLEX)
-    axis = _axis(x, axis)
-    n = _short(2 * (x.shape[axis] - 1) if n is None else operator.index(n))
-    return _half_spectrum.irfft(x, n, axis, _norm(norm))
+    axis, n = _axis_and_length(x, axis, n, _signal_length)
+    return _half_spectrum.irfft(x, _short(n), axis, _norm(norm))
 
 
-def _shape_and_axes(x, s, axes):
-    """As scipy reads them: of every axis that is transformed its number and length."""
+def _lengths_and_axes(x, s, axes, last_of_size=lambda size: size):
+    """As scipy reads them, for every axis that is transformed; all have to be short."""
     if axes is None:
         axes = range(x.ndim) if s is None else range(-len(s), 0)
     axes = [_axis(x, axis) for axis in np.atleast_1d(axes).tolist()]
-    lengths = [x.shape[axis] for axis in axes] if s is None else np.atleast_1d(s).tolist()
+    sizes = [x.shape[axis] for axis in axes]
+    lengths = sizes if s is None else np.atleast_1d(s).tolist()
     if len(lengths) != len(axes) or len(set(axes)) != len(axes) or not axes:
         raise _NotServed
-    return [x.shape[axis] if n == -1 else n for n, axis in zip(lengths, axes)], axes
+    lengths = [size if n == -1 else n for n, size in zip(lengths, sizes)]
+    if s is None:
+        lengths[-1] = last_of_size(lengths[-1])
+    return [_short(n) for n in lengths], axes
 
 
 def _complex_nd(function, default_axes):
     def transformed(x, s=None, axes=default_axes, norm=None):
         x = _array(x, _REAL + _COMPLEX)
-        lengths, axes = _shape_and_axes(x, s, axes)
-        for n in lengths:
-            _short(n)
+        lengths, axes = _lengths_and_axes(x, s, axes)
         for n, axis in zip(lengths, axes):
             x = function(_half_spectrum.with_length(x, n, axis), axis=axis, norm=_norm(norm))
         return x
@@ -97,9 +106,7 @@ def _rfftn(default_axes):
 
     def transformed(x, s=None, axes=default_axes, norm=None):
         x = _array(x, _REAL)
-        lengths, axes = _shape_and_axes(x, s, axes)
-        for n in lengths:
-            _short(n)
+        lengths, axes = _lengths_and_axes(x, s, axes)
         x = _rfft(x, lengths[-1], axes[-1], norm)
         return rest(x, lengths[:-1], axes[:-1], norm) if axes[:-1] else x
 
@@ -111,11 +118,7 @@ def _irfftn(default_axes):
 
     def transformed(x, s=None, axes=default_axes, norm=None):
         x = _array(x, _REAL + _COMPLEX)
-        lengths, axes = _shape_and_axes(x, s, axes)
-        if s is None:
-            lengths[-1] = 2 * (x.shape[axes[-1]] - 1)
-        for n in lengths:
-            _short(n)
+        lengths, axes = _lengths_and_axes(x, s, axes, _signal_length)
         if axes[:-1]:
             x = rest(x, lengths[:-1], axes[:-1], norm)
         return _irfft(x, lengths[-1], axes[-1], norm)
@@ -131,8 +134,7 @@ def _dct4(inverse):
         if type != 4:
             raise _NotServed
         x = _array(x, _REAL)
-        axis = _axis(x, axis)
-        n = x.shape[axis] if n is None else operator.index(n)
+        axis, n = _axis_and_length(x, axis, n)
         if n < 2 or n & (n - 1) or n > 1 << 26:
             raise _NotServed
         norm = _norm(norm)

@@ -64,7 +64,7 @@ def spectrogram(x, length, hop=None, window="hann"):
     if x.ndim == 0 or x.dtype.kind not in "fiub" or x.dtype.itemsize > 8:
         raise TypeError(f"spectrogram takes real samples, not {x.dtype}")
     kind = np.float32 if np.can_cast(x.dtype, np.float32) else np.float64
-    x = x.astype(kind)
+    x = x.astype(kind, copy=False)
     values = _window(window, length)
     values = (values / values.sum()).astype(kind)
     powers = partial(_powers, length=length, hop=hop, window=values)
