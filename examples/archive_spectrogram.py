@@ -139,7 +139,7 @@ def main():
     parser.add_argument("--workers", type=int, help="processes of the local cluster")
     parser.add_argument("--memory-limit", default="auto", help="of each of these, such as 1GB")
     parser.add_argument("--block-bytes", type=int, default=BLOCK_BYTES,
-                        help="of powers in a block (16777216)")
+                        help=f"of powers in a block ({BLOCK_BYTES})")
     options = parser.parse_args()
     stems = [Path(source).stem for source in options.source]
     if len(set(stems)) < len(stems):
