@@ -35,11 +35,6 @@ void addOptions(CLI::App& app, Options& options) {
 
 KfmStatus doNothing(const void*, void*, int) { return kfmOk; }
 
-PeerPlan peerOf(const registry::Function& function) {
-    return registry::findFamily(function.family)->byOrder ? plainLoop(function)
-                                                          : fftwPlan(function);
-}
-
 void measureInPlace(Result& result, void (*other)(), const Options& options) {
     Manner manner = options.manner;
     manner.inPlace = true;

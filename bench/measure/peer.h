@@ -52,4 +52,10 @@ PeerPlan halfLengthDct4Plan(int length, const registry::Element& element);
 // in place.
 PeerPlan plainLoop(const registry::Function& function);
 
+// Of these two the one that there is.
+inline PeerPlan peerOf(const registry::Function& function) {
+    return registry::findFamily(function.family)->byOrder ? plainLoop(function)
+                                                          : fftwPlan(function);
+}
+
 }   // namespace kfm::bench

@@ -56,10 +56,10 @@ Figure measure(const Subject& subject, int signals) {
             return std::vector<double>(destination, destination + exact.size());
         };
         subject.call(source, destination);
-        ours.add(outputs(), exact);
-        largest =
-            std::max(largest, definition::errorInUnits(outputs(), exact, subject.largest(exact),
-                                                       sizeof(Real) == sizeof(double)));
+        const std::vector<double> mine = outputs();
+        ours.add(mine, exact);
+        largest = std::max(largest, definition::errorInUnits(mine, exact, subject.largest(exact),
+                                                             sizeof(Real) == sizeof(double)));
         if (!peer) continue;
         peer.execute(source, destination);   // the last use of a source that it may overwrite
         std::vector<double> others = outputs();

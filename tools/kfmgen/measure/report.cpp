@@ -53,14 +53,15 @@ void report(const ReportOptions& options, const Measure& measure, std::ostream& 
     if (!options.picture.empty()) drawing.emplace(options.picture);
     bench::setPeerFolders(options.peerFolders);
     const std::vector<Figure> measured = figures();
+    const std::string details = circumstances(measured);
     if (options.format) {
         printRows(page, measure, *options.format, measured);
     } else {
-        page << measure.title << '\n' << circumstances(measured) << "\n\n";
+        page << measure.title << '\n' << details << "\n\n";
         printPage(page, measure, measured);
     }
     if (!drawing) return;
-    const Caption caption{measure.title, circumstances(measured), {}};
+    const Caption caption{measure.title, details, {}};
     drawing->out.write(
         drawing->gnuplot.draw(figuresScript(drawing->kind, caption, measure, measured)));
     drawing->out.complete();

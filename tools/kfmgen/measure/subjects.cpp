@@ -1,7 +1,6 @@
 #include "measure/subjects.h"
 
 #include <algorithm>
-#include <bit>
 #include <memory>
 
 #include "dct4_plan.h"
@@ -60,15 +59,13 @@ Subject fixedSubject(const registry::Function& function, const registry::Family&
             reinterpret_cast<bench::Transform>(function.address)(source, destination, kfmScaleNone);
         };
     subject.repeat = [&function] { return bench::Arrays(function, {}).repeat(function.address); };
-    subject.peer = [&function, byOrder = family.byOrder] {
-        return byOrder ? bench::plainLoop(function) : bench::fftwPlan(function);
-    };
+    subject.peer = [&function] { return bench::peerOf(function); };
     return subject;
 }
 
 template <class Real>
-Subject plannedSubject(std::shared_ptr<const Dct4Plan<Real>> plan, int length) {
-    const registry::Element& element = *registry::findElement(sizeof(Real) == 8 ? "64f" : "32f");
+Subject plannedSubject(std::shared_ptr<const Dct4Plan<Real>> plan, const registry::Element& element,
+                       int length) {
     const auto call = [plan](const void* source, void* destination) {
         plan->transform(static_cast<const Real*>(source), static_cast<Real*>(destination));
     };
@@ -96,14 +93,12 @@ Subject plannedSubject(std::shared_ptr<const Dct4Plan<Real>> plan, int length) {
 }
 
 template <class Real>
-void addPlanned(std::vector<Subject>& all, const SubjectChoice& choice) {
-    const registry::Element& element = *registry::findElement(sizeof(Real) == 8 ? "64f" : "32f");
-    for (int length = 1; length <= choice.longestPlanned; ++length) {
-        if (!std::has_single_bit(static_cast<unsigned>(length)) ||
-            !isChosen(choice, plannedFamily, element, length))
-            continue;
+void addPlanned(std::vector<Subject>& all, const SubjectChoice& choice, std::string_view suffix) {
+    const registry::Element& element = *registry::findElement(suffix);
+    for (int length = 1; length <= choice.longestPlanned; length *= 2) {
+        if (!isChosen(choice, plannedFamily, element, length)) continue;
         auto plan = std::make_shared<const Dct4Plan<Real>>(length);
-        if (*plan) all.push_back(plannedSubject<Real>(std::move(plan), length));
+        if (*plan) all.push_back(plannedSubject<Real>(std::move(plan), element, length));
     }
 }
 
@@ -120,8 +115,8 @@ std::vector<Subject> subjects(const SubjectChoice& choice) {
         if (isChosen(choice, family->name, element, length))
             all.push_back(fixedSubject(function, *family, element));
     }
-    addPlanned<Kfm32f>(all, choice);
-    addPlanned<Kfm64f>(all, choice);
+    addPlanned<Kfm32f>(all, choice, "32f");
+    addPlanned<Kfm64f>(all, choice, "64f");
     if (all.empty()) throw UsageError("no function of this family and precision has such a length");
     return all;
 }
