@@ -5,6 +5,6 @@
 #include "simd/f32x4.h"
 #include "simd/f64x2.h"
 #ifdef __AVX2__
-#include "simd/f32x8.h"
-#include "simd/f64x4.h"
+#include "simd/avx2/f32x8.h"
+#include "simd/avx2/f64x4.h"
 #endif

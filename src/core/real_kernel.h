@@ -6,6 +6,6 @@
 #include "simd/f32x2.h"
 #include "simd/f64x2.h"
 #ifdef __AVX2__
-#include "simd/f32x2_pairs.h"
+#include "simd/avx2/f32x2_pairs.h"
 #endif
 #include "simd/scalar.h"

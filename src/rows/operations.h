@@ -7,7 +7,7 @@
 
 #include "kfmgen.h"
 #ifdef __AVX2__
-#include "simd/f32x2_pairs.h"
+#include "simd/avx2/f32x2_pairs.h"
 #endif
 #include "simd/f32x2.h"
 #include "simd/launder.h"
@@ -38,15 +38,14 @@ struct VectorOfRows {
     KFM_OPERATION static void storeAnywhere(Value* p, Type v) { simd::storeUnaligned(p, v); }
     KFM_OPERATION static Type everywhere(const Value* p) { return simd::loadEverywhere<Type>(p); }
 };
-// Two floats are the lower half of a vector.
 template <>
 struct VectorOfRows<float, 2> {
     using Type = simd::f32x2;
 
-    KFM_OPERATION static Type load(const float* p) { return simd::HalfSingle::load(p); }
-    KFM_OPERATION static Type loadAnywhere(const float* p) { return simd::HalfSingle::load(p); }
-    KFM_OPERATION static void store(float* p, Type v) { simd::HalfSingle::store(p, v); }
-    KFM_OPERATION static void storeAnywhere(float* p, Type v) { simd::HalfSingle::store(p, v); }
+    KFM_OPERATION static Type load(const float* p) { return simd::loadBoth(p); }
+    KFM_OPERATION static Type loadAnywhere(const float* p) { return simd::loadBoth(p); }
+    KFM_OPERATION static void store(float* p, Type v) { simd::storeBoth(p, v); }
+    KFM_OPERATION static void storeAnywhere(float* p, Type v) { simd::storeBoth(p, v); }
     KFM_OPERATION static Type everywhere(const float* p) { return simd::loadEverywhere<Type>(p); }
 };
 #ifdef __AVX2__
@@ -54,15 +53,18 @@ template <>
 struct VectorOfRows<Kfm64fc, 2> {
     using Type = simd::f64x4;
 
-    KFM_OPERATION static Type loadAnywhere(const Kfm64fc* p) { return _mm256_loadu_pd(&p->re); }
-    KFM_OPERATION static void storeAnywhere(Kfm64fc* p, Type v) { _mm256_storeu_pd(&p->re, v); }
+    KFM_OPERATION static Type loadAnywhere(const Kfm64fc* p) {
+        return simd::loadUnaligned<Type>(&p->re);
+    }
+    KFM_OPERATION static void storeAnywhere(Kfm64fc* p, Type v) { simd::storeUnaligned(&p->re, v); }
     // Of one element; the kernel repeats it in the other half.
     KFM_OPERATION static simd::f64x2 everywhere(const double* p) { return simd::broadcast(p); }
 };
 #endif
 
 // Of as many rows as doubles fill a vector.
-KFM_OPERATION typename VectorOfRows<double, simd::vectorBytes / 8>::Type widen(simd::f32x4 narrow) {
+inline constexpr int wideRows = simd::vectorBytes / 8;
+KFM_OPERATION auto widen(VectorOfRows<float, wideRows>::Type narrow) {
 #ifdef __AVX2__
     return simd::widenHalves(narrow);
 #else

@@ -88,7 +88,8 @@ private:
 template <int rows>
 struct ShortBlock {
     static constexpr int columns = 2;
-    using Row = VectorOfRows<float, rows>;
+    using Half = simd::HalfSingle;
+    using Row = std::conditional_t<rows == 2, Half, VectorOfRows<float, rows>>;
 
     KFM_OPERATION static void in(const float* src, std::ptrdiff_t distance, float* buffer) {
         const simd::f32x4 low = loadTwo(src, distance);
@@ -104,8 +105,6 @@ struct ShortBlock {
     }
 
 private:
-    using Half = simd::HalfSingle;
-
     KFM_OPERATION static simd::f32x4 loadTwo(const float* row, std::ptrdiff_t distance) {
         return simd::select<0, 1, 4, 5>(Half::load(row), Half::load(row + distance));
     }

@@ -10,10 +10,20 @@
 namespace kfm::simd {
 
 // Whether vectors move from and to any address as fast as from and to aligned ones.
-#ifdef __AVX2__
+#if defined(__AVX2__) || defined(__ARM_NEON)
 inline constexpr bool movesAnywhere = true;
 #else
 inline constexpr bool movesAnywhere = false;
 #endif
+
+// The compiler leaves a value, vector or number, as it was computed, and in a register.
+template <class Value>
+KFM_OPERATION void pin(Value& a) {
+#ifdef __ARM_NEON
+    asm("" : "+w"(a));
+#else
+    asm("" : "+x"(a));
+#endif
+}
 
 }   // namespace kfm::simd

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #ifdef __AVX2__
-#include "simd/f32x8.h"
-#include "simd/f64x4.h"
+#include "simd/avx2/f32x8.h"
+#include "simd/avx2/f64x4.h"
 #else
 #include "simd/f32x4.h"
 #include "simd/f64x2.h"
@@ -51,57 +51,6 @@ using VectorOf = typename VectorWith<Real, static_cast<int>(16 / sizeof(Real))>:
 template <class Real, int lanes>
 using VectorUpTo =
     typename VectorWith<Real, std::min(lanes, vectorBytes / static_cast<int>(sizeof(Real)))>::Type;
-
-// Between vectors and memory; "aligned" is a multiple of 16 bytes.
-template <class Vector>
-Vector loadAligned(const float* p);
-template <class Vector>
-Vector loadAligned(const double* p);
-template <class Vector>
-Vector loadUnaligned(const float* p);
-template <class Vector>
-Vector loadUnaligned(const double* p);
-template <class Vector>
-Vector loadEverywhere(const float* p);
-template <class Vector>
-Vector loadEverywhere(const double* p);
-
-// clang-format off
-template <> KFM_OPERATION f32x4 loadAligned(const float* p) { return _mm_load_ps(p); }
-template <> KFM_OPERATION f64x2 loadAligned(const double* p) { return _mm_load_pd(p); }
-template <> KFM_OPERATION f32x4 loadUnaligned(const float* p) { return _mm_loadu_ps(p); }
-template <> KFM_OPERATION f64x2 loadUnaligned(const double* p) { return _mm_loadu_pd(p); }
-template <> KFM_OPERATION f32x4 loadEverywhere(const float* p) { return _mm_load1_ps(p); }
-template <> KFM_OPERATION f64x2 loadEverywhere(const double* p) { return _mm_load1_pd(p); }
-// clang-format on
-KFM_OPERATION void storeAligned(float* p, f32x4 v) { _mm_store_ps(p, v); }
-KFM_OPERATION void storeAligned(double* p, f64x2 v) { _mm_store_pd(p, v); }
-KFM_OPERATION void storeUnaligned(float* p, f32x4 v) { _mm_storeu_ps(p, v); }
-KFM_OPERATION void storeUnaligned(double* p, f64x2 v) { _mm_storeu_pd(p, v); }
-
-// To memory without a detour through the caches, whole vectors in their alignment; cheap where
-// whole cache lines are written. Ends with finishStreaming(), which makes the stores visible in
-// order.
-KFM_OPERATION void storeStreaming(float* p, f32x4 v) { _mm_stream_ps(p, v); }
-KFM_OPERATION void storeStreaming(double* p, f64x2 v) { _mm_stream_pd(p, v); }
-KFM_OPERATION void finishStreaming() { _mm_sfence(); }
-
-#ifdef __AVX2__
-// clang-format off
-template <> KFM_OPERATION f32x8 loadUnaligned(const float* p) { return _mm256_loadu_ps(p); }
-template <> KFM_OPERATION f64x4 loadUnaligned(const double* p) { return _mm256_loadu_pd(p); }
-template <> KFM_OPERATION f32x8 loadAligned(const float* p) { return _mm256_loadu_ps(p); }
-template <> KFM_OPERATION f64x4 loadAligned(const double* p) { return _mm256_loadu_pd(p); }
-template <> KFM_OPERATION f32x8 loadEverywhere(const float* p) { return _mm256_broadcast_ss(p); }
-template <> KFM_OPERATION f64x4 loadEverywhere(const double* p) { return _mm256_broadcast_sd(p); }
-// clang-format on
-KFM_OPERATION void storeUnaligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
-KFM_OPERATION void storeUnaligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
-KFM_OPERATION void storeAligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
-KFM_OPERATION void storeAligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
-KFM_OPERATION void storeStreaming(float* p, f32x8 v) { _mm256_stream_ps(p, v); }
-KFM_OPERATION void storeStreaming(double* p, f64x4 v) { _mm256_stream_pd(p, v); }
-#endif
 
 KFM_OPERATION f32x4 reverse(f32x4 v) { return select<3, 2, 1, 0>(v, v); }
 KFM_OPERATION f64x2 reverse(f64x2 v) { return select<1, 0>(v, v); }

@@ -26,9 +26,6 @@ KFM_OPERATION double broadcast(const OneLane<double>* factor) { return factor->v
 KFM_OPERATION float lane(const float* table, int index) { return table[index]; }
 KFM_OPERATION double lane(const double* table, int index) { return table[index]; }
 
-KFM_OPERATION void pin(float& a) { asm("" : "+x"(a)); }
-KFM_OPERATION void pin(double& a) { asm("" : "+x"(a)); }
-
 // Of this element only: the compiler must not fetch its neighbours along with it.
 template <class Real>
 KFM_OPERATION Real load(const Real* p) {

@@ -15,6 +15,15 @@ KFM_OPERATION f32x8 sub(f32x8 a, f32x8 b) { return _mm256_sub_ps(a, b); }
 KFM_OPERATION f32x8 mul(f32x8 a, f32x8 b) { return _mm256_mul_ps(a, b); }
 KFM_OPERATION f32x8 flip(f32x8 a, f32x8 mask) { return _mm256_xor_ps(a, mask); }
 
+// clang-format off
+template <> KFM_OPERATION f32x8 loadAligned(const float* p) { return _mm256_loadu_ps(p); }
+template <> KFM_OPERATION f32x8 loadUnaligned(const float* p) { return _mm256_loadu_ps(p); }
+template <> KFM_OPERATION f32x8 loadEverywhere(const float* p) { return _mm256_broadcast_ss(p); }
+// clang-format on
+KFM_OPERATION void storeAligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
+KFM_OPERATION void storeUnaligned(float* p, f32x8 v) { _mm256_storeu_ps(p, v); }
+KFM_OPERATION void storeStreaming(float* p, f32x8 v) { _mm256_stream_ps(p, v); }
+
 KFM_OPERATION f32x8 reverse(f32x8 v) {
     return _mm256_permutevar8x32_ps(v, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0));
 }
@@ -60,7 +69,6 @@ KFM_OPERATION f32x8 twice(f32x4 half) { return _mm256_set_m128(half, half); }
 KFM_OPERATION f32x8 asLower(f32x4 half) { return _mm256_castps128_ps256(half); }
 KFM_OPERATION f32x4 lower(f32x8 v) { return _mm256_castps256_ps128(v); }
 KFM_OPERATION f32x4 upper(f32x8 v) { return _mm256_extractf128_ps(v, 1); }
-KFM_OPERATION void pin(f32x8& a) { asm("" : "+x"(a)); }
 
 // A half of a (0: the lower one), then a half of b.
 template <int ofA, int ofB>

@@ -15,7 +15,15 @@ KFM_OPERATION f64x4 sub(f64x4 a, f64x4 b) { return _mm256_sub_pd(a, b); }
 KFM_OPERATION f64x4 mul(f64x4 a, f64x4 b) { return _mm256_mul_pd(a, b); }
 KFM_OPERATION f64x4 flip(f64x4 a, f64x4 mask) { return _mm256_xor_pd(a, mask); }
 KFM_OPERATION f64x4 twice(f64x2 half) { return _mm256_set_m128d(half, half); }
-KFM_OPERATION void pin(f64x4& a) { asm("" : "+x"(a)); }
+
+// clang-format off
+template <> KFM_OPERATION f64x4 loadAligned(const double* p) { return _mm256_loadu_pd(p); }
+template <> KFM_OPERATION f64x4 loadUnaligned(const double* p) { return _mm256_loadu_pd(p); }
+template <> KFM_OPERATION f64x4 loadEverywhere(const double* p) { return _mm256_broadcast_sd(p); }
+// clang-format on
+KFM_OPERATION void storeAligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
+KFM_OPERATION void storeUnaligned(double* p, f64x4 v) { _mm256_storeu_pd(p, v); }
+KFM_OPERATION void storeStreaming(double* p, f64x4 v) { _mm256_stream_pd(p, v); }
 
 template <int distance>
 KFM_OPERATION f64x4 exchange(f64x4 v) {

@@ -2,8 +2,8 @@
 // mixed precision they are widened to the halves of four double-precision lanes and back.
 #pragma once
 
+#include "simd/avx2/f64x4.h"
 #include "simd/f32x2.h"
-#include "simd/f64x4.h"
 
 namespace kfm::simd {
 
@@ -42,7 +42,7 @@ KFM_OPERATION f32x4 selectHalves(f32x4 a) {
 
 template <int i0, int i1>
 KFM_OPERATION f32x2 loadHalf(const float* p) {
-    if constexpr (i1 == i0 + 1) return HalfSingle::load(p + i0);
+    if constexpr (i1 == i0 + 1) return loadBoth(p + i0);
     else return loadPair<i0, i1>(p);
 }
 template <int i0, int i1, int i2, int i3>
