@@ -1,7 +1,10 @@
 # The target binary128: arithmetic in binary128, which the generator and the tests compute in.
 add_library(binary128 INTERFACE)
 set(KFM_BINARY128 ON)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+target_include_directories(binary128 INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(KFM_TARGET STREQUAL "aarch64")
+    # Its long double is binary128.
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_link_libraries(binary128 INTERFACE quadmath)
 elseif(KFM_TARGET STREQUAL "i386")
     # clang 14 aligns arguments to 4 bytes that GCC's libraries expect at multiples of 16.

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "definition/binary128.h"
+#include "binary128/binary128.h"
 #include "registry/registry.h"
 
 namespace kfm::definition {

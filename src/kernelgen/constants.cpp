@@ -1,7 +1,5 @@
 #include "kernelgen/constants.h"
 
-#include <quadmath.h>
-
 #include <cstdio>
 
 namespace kfm::kernelgen {
@@ -9,20 +7,21 @@ namespace {
 
 using Wide = Constant::Wide;
 
-Wide quantised(Wide value, int bits) { return scalbnq(rintq(scalbnq(value, bits)), -bits); }
+Wide quantised(Wide value, int bits) {
+    return quad::ldexp(quad::rint(quad::ldexp(value, bits)), -bits);
+}
 
-// The header's M_PIq is a literal that standard C++ does not have.
 Wide pi() {
-    static const Wide value = acosq(-1);
+    static const Wide value = quad::acos(Quad(-1));
     return value;
 }
 
 // cos (or sin) of `numerator/denominator` turns for an angle within the first octant.
 Wide octantCosine(long numerator, long denominator) {
-    return cosq(2 * pi() * numerator / denominator);
+    return quad::cos(2 * pi() * numerator / denominator);
 }
 Wide octantSine(long numerator, long denominator) {
-    return sinq(2 * pi() * numerator / denominator);
+    return quad::sin(2 * pi() * numerator / denominator);
 }
 
 }   // namespace
@@ -48,7 +47,7 @@ Constant Constant::sinTurn(long numerator, long denominator) {
     return cosTurn(4 * numerator - denominator, 4 * denominator);
 }
 
-Constant Constant::inverseSqrt(int n) { return Constant(1 / sqrtq(Wide(n))); }
+Constant Constant::inverseSqrt(int n) { return Constant(1 / quad::sqrt(Wide(n))); }
 
 Constant Constant::settled(Wide sum) { return Constant(quantised(sum, 88)); }
 
@@ -66,10 +65,6 @@ std::string Constant::asDouble() const {
     return text;
 }
 
-std::string Constant::asDecimal() const {
-    char text[60];
-    quadmath_snprintf(text, sizeof text, "%.20Qg", value_);
-    return text;
-}
+std::string Constant::asDecimal() const { return quad::decimal(value_); }
 
 }   // namespace kfm::kernelgen

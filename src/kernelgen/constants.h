@@ -7,11 +7,13 @@
 
 #include <string>
 
+#include "binary128/binary128.h"
+
 namespace kfm::kernelgen {
 
 class Constant {
 public:
-    using Wide = __float128;
+    using Wide = Quad;
 
     constexpr Constant() = default;
     constexpr Constant(int value) : value_(value) {}

@@ -71,7 +71,7 @@ WideSignal reference(const std::vector<Real>& x) {
     if (n < 128 || n % 2) {
         const std::vector<double> samples(x.begin(), x.end());
         std::ranges::transform(definition::dct4(samples), y.begin(),
-                               [](definition::Quad value) { return static_cast<Wide>(value); });
+                               [](Quad value) { return static_cast<Wide>(value); });
         return y;
     }
     std::vector<WideComplex> u(n / 2);

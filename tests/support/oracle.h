@@ -9,8 +9,7 @@
 
 namespace kfm::tests {
 
-using definition::Quad, definition::UnitRoot, definition::unitRoot;
-namespace quad = definition::quad;
+using definition::UnitRoot, definition::unitRoot;
 
 // The transform of `source` without scaling, in the destination's layout.
 std::vector<Quad> definition(const Transform& transform, const Signal& source);

@@ -16,8 +16,6 @@ const Measure accuracyMeasure = {.title = "Mean error in units of the last place
 
 namespace {
 
-using definition::Quad;
-
 // Of errors and of exact outputs.
 struct Squares {
     Quad errors = 0, outputs = 0;

@@ -84,10 +84,9 @@ Subject plannedSubject(std::shared_ptr<const Dct4Plan<Real>> plan, const registr
             .peerFactor = 2,
             .definition = definition::dct4,
             .largest =
-                [](std::span<const definition::Quad> outputs) {
-                    definition::Quad most = 0;
-                    for (const auto& output : outputs)
-                        most = std::max(most, definition::quad::abs(output));
+                [](std::span<const Quad> outputs) {
+                    Quad most = 0;
+                    for (const auto& output : outputs) most = std::max(most, quad::abs(output));
                     return most;
                 }};
 }

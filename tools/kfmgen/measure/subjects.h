@@ -38,8 +38,8 @@ struct Subject {
     std::function<bench::PeerPlan()> peer;
     double peerFactor;   // of its outputs to ours; 0 where they lie otherwise
 
-    std::function<std::vector<definition::Quad>(std::span<const double>)> definition;
-    std::function<definition::Quad(std::span<const definition::Quad>)> largest;
+    std::function<std::vector<Quad>(std::span<const double>)> definition;
+    std::function<Quad(std::span<const Quad>)> largest;
 };
 
 // In the order of `kfmgen list`. Throws UsageError where there is none.
