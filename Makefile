@@ -10,8 +10,11 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-.PHONY: all test test-sanitized memcheck demo bench measurements tune install uninstall \
-	packages test-packages header format tidy docs clean
+OWN := $(shell tools/own_target.sh)
+
+.PHONY: all test test-aarch64 test-aarch64-selection test-sanitized memcheck demo bench \
+	measurements instructions tune install uninstall packages packages-aarch64 test-packages \
+	header format tidy docs clean
 
 all:
 	@tools/build.sh "$(JOBS)"
@@ -21,6 +24,18 @@ test:
 	@tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON -DKFM_BUILD_TOOL=ON \
 		-DKFM_BUILD_PYTHON=ON -DKFM_PYTHON=/usr/bin/python3
 	@ctest --test-dir "$$BUILD" --output-on-failure --no-tests=error --parallel "$(JOBS)"
+
+# Elsewhere by a cross compiler and an emulator, which takes long: a selection says most of it.
+test-aarch64:
+	@tools/install-dependencies.sh test-aarch64
+	@TARGETS=aarch64 tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON
+	@ctest --test-dir "$$BUILD/aarch64" --output-on-failure --no-tests=error --parallel "$(JOBS)"
+
+test-aarch64-selection:
+	@tools/install-dependencies.sh test-aarch64
+	@TARGETS=aarch64 GOAL=selection_tests tools/build.sh "$(JOBS)" -DKFM_BUILD_TESTS=ON
+	@ctest --test-dir "$$BUILD/aarch64" -C selection -R "^selection/" --output-on-failure \
+		--no-tests=error --parallel "$(JOBS)"
 
 test-sanitized: export BUILD := $(BUILD)/sanitized
 test-sanitized:
@@ -37,8 +52,8 @@ memcheck:
 
 demo:
 	@tools/install-dependencies.sh demo
-	@TARGETS=x86-64 GOAL=kfmgen tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=ON
-	@"$$BUILD/x86-64/bin/kfmgen" spectrum "$(FILE)"
+	@TARGETS=own GOAL=kfmgen tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=ON
+	@"$$BUILD/$(OWN)/bin/kfmgen" spectrum "$(FILE)"
 
 bench:
 	@tools/install-dependencies.sh bench
@@ -46,6 +61,14 @@ bench:
 	@$(EACH_TARGET) cmake --build "$$BUILD/$$target" --target bench; done
 
 measurements: bench
+	@bench/renew_tables.sh "$$BUILD"
+
+# Of AArch64 beside x86-64, where a cross compiler builds the one and the machine's own the other.
+instructions:
+	@tools/install-dependencies.sh test-aarch64
+	@TARGETS=own GOAL=kfmgenw7 tools/build.sh "$(JOBS)"
+	@TARGETS=aarch64 GOAL=kfmgenw7 tools/build.sh "$(JOBS)"
+	@bench/count_instructions.sh "$$BUILD" > "$$BUILD/instructions.csv"
 	@bench/renew_tables.sh "$$BUILD"
 
 tune:
@@ -66,12 +89,17 @@ packages:
 	@tools/install-dependencies.sh packages
 	@packaging/build.sh "$(JOBS)"
 
+# By a cross compiler: the libraries and what programs are built with.
+packages-aarch64:
+	@tools/install-dependencies.sh packages-aarch64
+	@TARGETS=aarch64 packaging/build.sh "$(JOBS)"
+
 test-packages:
 	@tools/install-dependencies.sh test-packages
 	@tests/packages/packages_test.sh "$$BUILD/packages"
 
 header:
-	@TARGETS=x86-64 GOAL=header tools/build.sh "$(JOBS)"
+	@TARGETS=own GOAL=header tools/build.sh "$(JOBS)"
 
 format:
 	@tools/install-dependencies.sh format

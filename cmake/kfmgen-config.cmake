@@ -3,6 +3,8 @@
 set(kfmgen_target x86-64)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     set(kfmgen_target i386)
+elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+    set(kfmgen_target aarch64)
 endif()
 set(kfmgen_targets ${CMAKE_CURRENT_LIST_DIR}/kfmgen-targets-${kfmgen_target}.cmake)
 if(EXISTS ${kfmgen_targets})

@@ -1498,7 +1498,7 @@ KFM_API KfmStatus kfmgWHT_64f(const Kfm64f *src, Kfm64f *dst, int order, int fla
  * is aligned within: the size has room for rounding its address down, which is what happens, except
  * that an address with bit 31 set is rounded up. The plan of a length up to 32 may then reach
  * beyond `size`, by up to 11 bytes. src and dst need the alignment of an element only.
- * Moving: on x86-64 a block holds no addresses. Its bytes may be copied to another block whose
+ * Moving: on 64-bit targets a block holds no addresses. Its bytes may be copied to another block whose
  * address leaves the same remainder modulo 32, and the handle, moved with it, works there. On i386
  * a plan stays where it was made.
  * Aliasing: dst may be src. They must not overlap otherwise.

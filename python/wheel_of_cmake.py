@@ -1,4 +1,4 @@
-"""Builds the wheel for `pip install ./python` in a checkout: what `make` builds below build/x86-64, with
+"""Builds the wheel for `pip install ./python` in a checkout: what `make` builds below build/, with
 the libraries inside. It needs NumPy where it is built, CMake and a compiler; nothing is fetched."""
 
 import base64
@@ -29,11 +29,12 @@ def _built():
     if subprocess.run([python, "-c", "import numpy"], env=environment, capture_output=True).returncode:
         raise SystemExit(f"{python} has no NumPy, which the package is built with and for.")
     build = Path(environment.get("BUILD", "build"))
-    environment.update(TARGETS="x86-64", GOAL="kfmgen_wheel")
+    environment.update(TARGETS="own", GOAL="kfmgen_wheel")
     subprocess.run([ROOT / "tools" / "build.sh", environment.get("JOBS", str(os.cpu_count())),
                     "-DKFM_BUILD_PYTHON=ON", f"-DKFM_PYTHON={python}"],
                    cwd=ROOT, env=environment, check=True)
-    return ROOT / build / "x86-64"
+    own = subprocess.run([ROOT / "tools" / "own_target.sh"], capture_output=True, text=True, check=True)
+    return ROOT / build / own.stdout.strip()
 
 
 def _metadata():

@@ -7,8 +7,8 @@ set(configure ${CMAKE_COMMAND} -S ${source_dir} ${arguments})
 file(REMOVE_RECURSE ${scratch})
 unset(ENV{CXX})
 
-refused("is for x86 processors" -B ${scratch}/another_processor
-    -D "CMAKE_CXX_FLAGS=${flags} -U__x86_64__ -U__i386__")
+refused("compiles for another machine" -B ${scratch}/another_processor
+    -D "CMAKE_CXX_FLAGS=${flags} -U__x86_64__ -U__i386__ -U__AARCH64EL__")
 
 # For a project around it, targets have the names of the installed package. A small one is built.
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/install/consumer

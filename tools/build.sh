@@ -3,8 +3,9 @@
 # build and run, under $BUILD/<target>. Leaves the list of targets in $BUILD/targets and a test file
 # that joins their tests, so that one ctest run reports on all of them.
 #
-# BUILD is the folder for all of it, "build" by default; TARGETS narrows the choice of targets, GOAL
-# names something other than everything to build.
+# BUILD is the folder for all of it, "build" by default; TARGETS names the targets, "own" for that of
+# this machine's programs, GOAL something other than everything to build. A target that only a cross
+# compiler builds here, aarch64, is built alone and enters no list.
 set -eu
 cd "$(dirname "$0")/.."
 build=${BUILD:-build}
@@ -19,9 +20,12 @@ runs_32_bit_programs() {
 }
 
 mkdir -p "$build"
+own=$(tools/own_target.sh)
 skipped=
 if [ -n "${TARGETS:-}" ]; then
-    targets=$TARGETS
+    targets=$(echo "$TARGETS" | sed "s/\bown\b/$own/")
+elif [ "$own" != x86-64 ]; then
+    targets=$own
 elif runs_32_bit_programs; then
     targets="x86-64 i386"
 else
@@ -29,12 +33,20 @@ else
     skipped="i386 was skipped: no 32-bit programs on this machine (Debian: g++-multilib)"
 fi
 generator=
+crossed=
+if [ "$targets" = aarch64 ] && [ "$own" != aarch64 ]; then   # an emulator would run it for long
+    crossed=yes
+    cmake --preset "$own" -B "$build/$own" > "$build/configure-$own.log"
+    cmake --build "$build/$own" --parallel "$jobs" --target kernelgen
+    generator=$PWD/$build/$own/bin/kernelgen
+fi
 for target in $targets; do
     cmake --preset "$target" -B "$build/$target" ${generator:+"-DKFM_KERNELGEN=$generator"} \
         "$@" > "$build/configure-$target.log" || { cat "$build/configure-$target.log"; exit 1; }
     cmake --build "$build/$target" --parallel "$jobs" ${GOAL:+--target "$GOAL"}
     generator=$PWD/$build/$target/bin/kernelgen   # serves the targets that follow
 done
+[ -z "$crossed" ] || exit 0
 # One goal of one target leaves what was built of others.
 if [ -n "${GOAL:-}" ] && [ -e "$build/targets" ]; then
     for target in $(cat "$build/targets"); do

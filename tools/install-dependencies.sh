@@ -3,6 +3,11 @@
 # machine lacks. Does nothing when all are there, fails when some cannot be had.
 set -eu
 
+multilib=g++-multilib
+cross="clang binutils-aarch64-linux-gnu libc6-dev-arm64-cross libstdc++-12-dev-arm64-cross qemu-user"
+if [ "$("$(dirname "$0")/own_target.sh")" = aarch64 ]; then
+    multilib= cross=libgtest-dev
+fi
 tool="libcli11-dev libsndfile1-dev"
 python="python3-dev python3-numpy"
 case ${1:-} in
@@ -10,12 +15,15 @@ case ${1:-} in
              why="to build the command-line tool" ;;
     demo)    wanted="$tool alsa-utils"
              why="to build the command-line tool and to have a recording to show" ;;
-    test)    wanted="$tool gnuplot-nox libgtest-dev googletest g++-multilib pkg-config valgrind
+    test)    wanted="$tool gnuplot-nox libgtest-dev googletest $multilib pkg-config valgrind
                      clang-format $python python3-scipy python3-pytest python3-hypothesis
                      python3-dask python3-distributed python3-zarr python3-soundfile
                      python3-matplotlib alsa-utils libfftw3-dev"
              why="to build the tests, also for 32 bits" ;;
-    bench)   wanted="$tool libfftw3-dev g++-multilib gnuplot-nox"
+    test-aarch64)
+             wanted="$cross googletest"
+             why="to build the tests for 64-bit ARM and to run them" ;;
+    bench)   wanted="$tool libfftw3-dev $multilib gnuplot-nox"
              why="to measure beside other libraries, also for 32 bits" ;;
     format)  wanted="clang-format"
              why="to lay out the sources" ;;
@@ -24,12 +32,16 @@ case ${1:-} in
     docs)    wanted="doxygen graphviz python3"
              why="to write the pages of the documentation" ;;
     packages)
-             wanted="$tool $python dpkg-dev g++-multilib file"
+             wanted="$tool $python dpkg-dev $multilib file"
              why="to build packages, also for i386" ;;
+    packages-aarch64)
+             wanted="$cross dpkg-dev file"
+             why="to build packages for 64-bit ARM" ;;
     test-packages)
              wanted="lintian mmdebstrap"
              why="to check packages and to install them on a system of their own" ;;
-    *) echo "usage: $0 install|demo|test|bench|format|tidy|docs|packages|test-packages" >&2; exit 2 ;;
+    *) echo "usage: $0 install|demo|test|test-aarch64|bench|format|tidy|docs|packages|packages-aarch64|test-packages" >&2
+       exit 2 ;;
 esac
 
 installed() {

@@ -45,7 +45,7 @@ PeerPlan fftwRowsPlan(const registry::Function& function, const Rows& rows);
 PeerPlan fftwDct4Plan(int length, const registry::Element& element);
 
 // The DCT-IV by FFTW's complex transform of half the length between two rotations; empty also where
-// the processor has no AVX2, for which the rotations are compiled.
+// a processor of x86 has no AVX2, for which the rotations are compiled.
 PeerPlan halfLengthDct4Plan(int length, const registry::Element& element);
 
 // The function's Walsh-Hadamard transform by the plain loop, unscaled: a copy of the source, then

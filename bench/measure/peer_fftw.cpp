@@ -272,7 +272,9 @@ PeerPlan fftwDct4Plan(int length, const registry::Element& element) {
 }
 
 PeerPlan halfLengthDct4Plan(int length, const registry::Element& element) {
+#ifndef __aarch64__
     if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma")) return {};
+#endif
     return fastestOf(element, [&](const auto& api) { return api.halfLengthDct4(length, element); });
 }
 

@@ -1,5 +1,5 @@
 // The DCT-IV of 2 m reals as a user writes it around a complex transform of length m: rotate pairs
-// of inputs, transform, rotate into pairs of outputs. Compiled with AVX2, so there is nothing in
+// of inputs, transform, rotate into pairs of outputs. On x86 compiled with AVX2, so there is nothing in
 // here that other code shares; the caller asks the processor first.
 #pragma once
 

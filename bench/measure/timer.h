@@ -74,7 +74,11 @@ inline Subject cycleSubject() {
     return Subject([](long cycles) {
         unsigned sum = 0, step = 1;
         for (long i = 0; i < cycles; i += stepsPerBlock)
+#ifdef __aarch64__
+            asm volatile(".rept 1024\n\tadd %w0, %w0, %w1\n\t.endr" : "+r"(sum) : "r"(step));
+#else
             asm volatile(".rept 1024\n\tadd %1, %0\n\t.endr" : "+r"(sum) : "r"(step) : "cc");
+#endif
     });
 }
 

@@ -13,7 +13,12 @@ template <class Kernel, class Memory, class Element, class... Further>
 [[gnu::always_inline]] inline KfmStatus runKernel(const Element* src, Element* dst, int flag,
                                                   Further... further) {
     if (src == nullptr || dst == nullptr) return kfmErrNullPtr;
-    const auto* factor = chooseScale<Kernel::direction>(Kernel::scales, flag);
+    const auto* scales = &Kernel::scales;
+#ifdef __aarch64__
+    launder(scales);   // one address, which takes two instructions, not one for each factor
+    if (scales == nullptr) __builtin_unreachable();
+#endif
+    const auto* factor = chooseScale<Kernel::direction>(*scales, flag);
     if (factor == nullptr) return kfmErrFlag;
     launder(factor);
     Kernel::template transform<Memory>(src, dst, factor, further...);

@@ -24,7 +24,7 @@ std::string kernelFunctions(const Family& family, int length, const Element& ele
                (element.doublePrecision ? "Double" : "Single") + ">(" + arguments(family) + ");\n";
     };
     const std::string name = "KfmStatus " + registry::functionName(family, length, element);
-    if (!target.splitsByAlignment() || !registry::testsAlignment(family, length, element))
+    if (target.movesAnywhere || !registry::testsAlignment(family, length, element))
         return name + head + "    return " + status("Unaligned") + "}\n";
     const std::string copy = registry::unalignedName(family, length, element);
     const bool hasCopy = registry::hasUnalignedCopy(family, length, element);

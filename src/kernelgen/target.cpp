@@ -5,10 +5,11 @@
 
 namespace kfm::kernelgen {
 namespace {
-constexpr std::array<Target, 3> allTargets = {{
-    {"sse2-x86-64", 16, 16, ""},
-    {"avx2-x86-64", 32, 16, "sse2-x86-64"},
-    {"sse2-i386", 16, 8, ""},
+constexpr std::array<Target, 4> allTargets = {{
+    {"sse2-x86-64", 16, 16, false, ""},
+    {"avx2-x86-64", 32, 16, true, "sse2-x86-64"},
+    {"sse2-i386", 16, 8, false, ""},
+    {"neon-aarch64", 16, 32, true, "sse2-x86-64"},
 }};
 }   // namespace
 

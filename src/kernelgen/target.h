@@ -11,10 +11,8 @@ struct Target {
     std::string_view name;
     int vectorBytes;
     int vectorRegisters;
+    bool movesAnywhere;          // vectors, as fast as from and to multiples of 16
     std::string_view likeness;   // whose schedules serve until its own are measured
-
-    // Processors with longer vectors than 16 bytes move them from and to any address at full speed.
-    bool splitsByAlignment() const { return vectorBytes == 16; }
 };
 
 std::span<const Target> targets();

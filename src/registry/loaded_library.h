@@ -7,9 +7,12 @@
 namespace kfm::registry {
 
 struct LoadedLibrary {
-    std::string file;   // its path, without symbolic links
+    std::string file;           // its path, without symbolic links
+    std::string target;         // "x86-64", "i386" or "aarch64"
+    std::string instructions;   // "SSE2", "AVX2" or "NEON"
+    int vectorBits = 128;       // of its widest vectors
     bool variant = false;
-    int vectorBits = 128;   // of its widest vectors
+    bool movesAnywhere = false;   // its vectors, as fast as from and to multiples of 16: one path
 };
 
 const LoadedLibrary& loadedLibrary();

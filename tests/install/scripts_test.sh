@@ -45,7 +45,7 @@ END
 fake bin/ldconfig <<'END'
 if [ "${1:-}" = -p ]; then cat cache; else echo ldconfig >> log; fi
 END
-for command in cat env find grep ln mkdir realpath rm rmdir sed sh sort touch tr xargs; do
+for command in cat dirname env find grep ln mkdir realpath rm rmdir sed sh sort touch tr uname xargs; do
     ln -s "$(command -v "$command")" bin/
 done
 

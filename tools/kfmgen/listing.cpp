@@ -17,9 +17,8 @@ void printInfo(std::ostream& out) {
         << "version    " << version.versionMajor << '.' << version.versionMinor << ", build "
         << version.buildMajor << '.' << version.buildNumber << " (" << version.versionText << ")\n"
         << "date       " << version.buildDate << '\n'
-        << "target     " << version.targetCode << ", " << (sizeof(void*) == 8 ? "x86-64" : "i386")
-        << ", " << (loaded.variant ? "AVX2" : "SSE2") << ", vectors of " << loaded.vectorBits
-        << " bits\n"
+        << "target     " << version.targetCode << ", " << loaded.target << ", "
+        << loaded.instructions << ", vectors of " << loaded.vectorBits << " bits\n"
         << "functions  " << registry::functions().size() << " in " << registry::families().size()
         << " families\n";
 }

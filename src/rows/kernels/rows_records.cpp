@@ -18,19 +18,21 @@ RowsForms widestForms(const Element& element, const Target& target) {
 
 RowsForms rowsForms(std::string_view source, int length, const Element& element,
                     const Target& target) {
-    static constexpr struct {
+    struct Row {
         std::string_view target, source, element, spacing;
         const char* lengths;
-    } singly[] = {
+    };
+    static constexpr Row singly[] = {
 #define KFM_ROWS_SINGLY(target, source, element, spacing, lengths) \
     {#target, #source, #element, #spacing, #lengths},
 #include "rows/singly.def"
 #undef KFM_ROWS_SINGLY
         {}};
     RowsForms forms = widestForms(element, target);
+    const bool own = std::ranges::find(singly, target.name, &Row::target) != std::end(singly);
+    const std::string_view name = own ? target.name : target.likeness;
     for (const auto& row : singly) {
-        if (row.target != target.name || row.source != source || row.element != element.suffix)
-            continue;
+        if (row.target != name || row.source != source || row.element != element.suffix) continue;
         std::istringstream lengths(row.lengths);
         const std::vector<int> all{std::istream_iterator<int>(lengths), {}};
         if (std::ranges::count(all, length) == 0) continue;

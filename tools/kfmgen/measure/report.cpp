@@ -26,7 +26,7 @@ std::string circumstances(Figures figures) {
     std::set<std::string> peers;
     for (const Figure& figure : figures)
         if (figure.peer) peers.insert(figure.peerName);
-    std::string text = processor() + (loaded.variant ? ", AVX2" : ", SSE2");
+    std::string text = processor() + ", " + loaded.instructions;
     const char* separator = "; beside ";
     for (const std::string& peer : peers) {
         text += separator + peer;

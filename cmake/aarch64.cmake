@@ -1,0 +1,18 @@
+# 64-bit ARM: on such a machine by its own compiler, elsewhere by clang with Debian's libraries for
+# cross compilers, and what is built is run by an emulator.
+if(NOT CMAKE_HOST_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+    set(CMAKE_SYSTEM_NAME Linux)
+    set(CMAKE_SYSTEM_PROCESSOR aarch64)
+    set(triple aarch64-linux-gnu)
+    foreach(language IN ITEMS C CXX)
+        set(CMAKE_${language}_COMPILER_TARGET ${triple})
+    endforeach()
+    set(CMAKE_C_COMPILER clang)
+    set(CMAKE_CXX_COMPILER clang++)
+    foreach(tool IN ITEMS ar as nm objcopy objdump ranlib readelf strip)
+        string(TOUPPER ${tool} variable)
+        find_program(CMAKE_${variable} ${triple}-${tool})
+    endforeach()
+    set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64 -L /usr/${triple})
+    set(CMAKE_INSTALL_LIBDIR lib/${triple} CACHE PATH "Object libraries, beside those of this machine")
+endif()
