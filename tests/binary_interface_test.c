@@ -27,7 +27,7 @@ static void load(void* function, const char* name) {
     failures += address == NULL;
 }
 
-#if defined(__x86_64__)
+#ifdef __LP64__
 enum { nameOffset = 24, textOffset = 32, dateOffset = 40 };
 #else
 enum { nameOffset = 20, textOffset = 24, dateOffset = 28 };

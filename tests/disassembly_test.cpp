@@ -27,7 +27,7 @@ std::vector<Kernel> kernels() {
     for (const registry::Family& family : registry::families())
         for (const registry::Element* element : family.elements)
             for (int length = family.first; length <= family.last; ++length) {
-                const bool copied = !loadedLibrary().variant &&
+                const bool copied = !loadedLibrary().movesAnywhere &&
                                     registry::hasUnalignedCopy(family, length, *element);
                 const std::string copy =
                     copied ? registry::unalignedName(family, length, *element) : "";
@@ -47,18 +47,16 @@ std::string targetFunction(const Instruction& instruction) {
                                        instruction.operands.find_first_of("+>@", open) - open - 1);
 }
 
+// The last operand, before the name of the target.
 unsigned long targetAddress(const Instruction& instruction) {
-    return std::stoul(instruction.operands, nullptr, 16);
-}
-
-bool leaves(const Instruction& instruction) {
-    return instruction.mnemonic.starts_with("ret") || instruction.mnemonic.starts_with("jmp");
+    const std::string address = instruction.operands.substr(0, instruction.operands.find(" <"));
+    return std::stoul(address.substr(address.find_last_of(" ,") + 1), nullptr, 16);
 }
 
 // Indices of the instructions that may run right after number `i`.
 std::vector<std::size_t> successors(const Code& code, std::size_t i, const std::string& name) {
     std::vector<std::size_t> result;
-    if (!leaves(code[i]) && i + 1 < code.size()) result.push_back(i + 1);
+    if (!code[i].leaves() && i + 1 < code.size()) result.push_back(i + 1);
     if (code[i].isJump() && targetFunction(code[i]) == name) {
         const auto target =
             std::ranges::lower_bound(code, targetAddress(code[i]), {}, &Instruction::address);
@@ -122,8 +120,7 @@ TEST(Disassembly, KernelsRunStraightThrough) {
         if (hasCycle(code, kernel.name)) return std::string("has a cycle");
         return firstWhere(code, [](const Instruction& instruction) {
             return instruction.mnemonic.starts_with("loop") ||
-                   instruction.mnemonic.starts_with("rep") ||
-                   (instruction.isJump() && instruction.operands.find('*') != std::string::npos);
+                   instruction.mnemonic.starts_with("rep") || instruction.jumpsToRegister();
         });
     });
 }
@@ -145,6 +142,19 @@ TEST(Disassembly, KernelsCallOnlyTheirUnalignedCopyAndTheAllocator) {
     });
 }
 
+// Real transforms of length 2 and 4 have no constant to multiply by.
+TEST(Disassembly, SingleKernelsWithoutProductsStayInSinglePrecision) {
+    forEveryKernel([](const Kernel& kernel, const Code& code) {
+        if (!kernel.name.ends_with("_2_32f") && !kernel.name.ends_with("_4_32f"))
+            return std::string();
+        return firstWhere(code, [](const Instruction& instruction) {
+            return instruction.converts() || instruction.computesWide();
+        });
+    });
+}
+
+#ifndef __aarch64__
+
 // An instruction of the old encoding beside one that uses the upper halves of the registers waits
 // for those, and so does the caller's where a function returns with them in use.
 TEST(Disassembly, VariantsKeepToTheNewEncodingAndLeaveNoUpperHalves) {
@@ -157,7 +167,7 @@ TEST(Disassembly, VariantsKeepToTheNewEncodingAndLeaveNoUpperHalves) {
                 << name << ": " << instruction.mnemonic << ' ' << instruction.operands;
             upperHalves |= instruction.uses("%ymm");
             if (instruction.mnemonic == "vzeroupper") upperHalves = false;
-            EXPECT_FALSE(upperHalves && instruction.mnemonic.starts_with("ret")) << name;
+            EXPECT_FALSE(upperHalves && instruction.returns()) << name;
         }
     }
 }
@@ -166,21 +176,6 @@ TEST(Disassembly, KernelsDoNotUseTheX87) {
     forEveryKernel([](const Kernel&, const Code& code) {
         return firstWhere(code, [](const Instruction& instruction) {
             return instruction.mnemonic[0] == 'f';
-        });
-    });
-}
-
-// Real transforms of length 2 and 4 have no constant to multiply by.
-TEST(Disassembly, SingleKernelsWithoutProductsStayInSinglePrecision) {
-    forEveryKernel([](const Kernel& kernel, const Code& code) {
-        if (!kernel.name.ends_with("_2_32f") && !kernel.name.ends_with("_4_32f"))
-            return std::string();
-        return firstWhere(code, [](const Instruction& instruction) {
-            const std::string_view stem = instruction.stem().substr(0, 3);
-            const bool computes = stem == "add" || stem == "sub" || stem == "mul" || stem == "div";
-            const bool wide =
-                instruction.mnemonic.ends_with("sd") || instruction.mnemonic.ends_with("pd");
-            return stem == "cvt" || (computes && wide);
         });
     });
 }
@@ -197,6 +192,8 @@ TEST(Disassembly, AlignedKernelsUseAlignedMoves) {
         });
     });
 }
+#endif
+
 #endif
 
 }   // namespace

@@ -172,5 +172,49 @@ TEST_P(Memory, CallersMayAlignTheStackToFourBytes) {
 
 #endif
 
+#ifdef __aarch64__
+
+// d8 to d15 belong to the caller.
+using CallersRegisters = std::array<std::uint64_t, 8>;
+
+// Calls with these in the caller's registers, and a null work buffer; they are then what the
+// function left.
+void callWith(CallersRegisters& registers, void (*function)(), const void* source,
+              void* destination) {
+    register const void* x0 asm("x0") = source;
+    register void* x1 asm("x1") = destination;
+    register long x2 asm("x2") = kfmScaleBySqrtN;
+    register void* x3 asm("x3") = nullptr;
+    asm volatile("ldp d8, d9, [%[registers]]\n\t"
+                 "ldp d10, d11, [%[registers], #16]\n\t"
+                 "ldp d12, d13, [%[registers], #32]\n\t"
+                 "ldp d14, d15, [%[registers], #48]\n\t"
+                 "blr %[function]\n\t"
+                 "stp d8, d9, [%[registers]]\n\t"
+                 "stp d10, d11, [%[registers], #16]\n\t"
+                 "stp d12, d13, [%[registers], #32]\n\t"
+                 "stp d14, d15, [%[registers], #48]"
+                 : "+r"(x0), "+r"(x1), "+r"(x2), "+r"(x3)
+                 : [function] "r"(function), [registers] "r"(registers.data())
+                 : "x4", "x5", "x6", "x7", "x8", "x9", "x10", "x11", "x12", "x13", "x14", "x15",
+                   "x16", "x17", "x18", "x30", "v0", "v1", "v2", "v3", "v4", "v5", "v6", "v7", "v8",
+                   "v9", "v10", "v11", "v12", "v13", "v14", "v15", "v16", "v17", "v18", "v19",
+                   "v20", "v21", "v22", "v23", "v24", "v25", "v26", "v27", "v28", "v29", "v30",
+                   "v31", "cc", "memory");
+}
+
+TEST_P(Memory, CallersRegistersAreKept) {
+    const Bytes expected = run(GetParam(), source_, kfmScaleBySqrtN);
+    Bytes output(expected.size());
+    CallersRegisters registers;
+    for (std::size_t i = 0; i < registers.size(); ++i) registers[i] = 0x0123456789abcdef * (i + 1);
+    const CallersRegisters before = registers;
+    callWith(registers, GetParam().function->address, source_.data(), output.data());
+    EXPECT_EQ(registers, before);
+    EXPECT_EQ(output, expected);
+}
+
+#endif
+
 }   // namespace
 }   // namespace kfm::tests

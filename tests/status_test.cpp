@@ -132,7 +132,7 @@ TEST_P(GenericStatus, EveryBitOfTheArgumentsCounts) {
 
 KFM_FOR_EVERY_GENERIC_TRANSFORM(GenericStatus);
 
-#ifdef __x86_64__
+#ifdef __LP64__
 
 TEST_P(FixedStatus, TheFlagIsTheLowerHalfOfItsRegister) {
     using Function = KfmStatus (*)(const void*, void*, long, void*);

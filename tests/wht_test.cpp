@@ -216,7 +216,7 @@ TEST(WhtBufferSize, RefusesOtherOrdersAndWritesNothing) {
         }
 }
 
-#ifdef __x86_64__
+#ifdef __LP64__
 
 TEST(WhtBufferSize, TheOrderIsTheLowerHalfOfItsRegister) {
     using Query = KfmStatus (*)(long, int*);

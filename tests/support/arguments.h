@@ -12,7 +12,7 @@ inline std::vector<int> oneBitFrom(int value) {
     return result;
 }
 
-#ifdef __x86_64__
+#ifdef __LP64__
 
 // An int in a register of 64 bits, as it may come: its upper half is left to chance.
 inline constexpr unsigned long upperHalves[] = {1, 0x80000000, 0xffffffff};

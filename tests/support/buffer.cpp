@@ -28,11 +28,12 @@ bool allCanary(const std::byte* first, const std::byte* last) {
 GuardedBuffer::GuardedBuffer(std::size_t bytes, Flush flush, std::size_t offset) : size_(bytes) {
     const std::size_t page = pageSize();
     pageBytes_ = (bytes + offset + page - 1) / page * page;
-    void* mapped =
-        mmap(nullptr, pageBytes_ + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void* mapped = mmap(nullptr, pageBytes_ + 2 * page, PROT_READ | PROT_WRITE,
+                        MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (mapped == MAP_FAILED) throw std::bad_alloc();
     pages_ = static_cast<std::byte*>(mapped) + page;
-    if (mprotect(pages_, pageBytes_, PROT_READ | PROT_WRITE) != 0) throw std::bad_alloc();
+    for (std::byte* guard : {pages_ - page, pages_ + pageBytes_})
+        if (mprotect(guard, page, PROT_NONE) != 0) throw std::bad_alloc();
     std::memset(pages_, static_cast<int>(canary), pageBytes_);
     data_ = flush == Flush::start ? pages_ + offset : pages_ + pageBytes_ - bytes - offset;
 }
