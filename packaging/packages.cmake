@@ -109,5 +109,9 @@ strides, many rows at a time, and a backend for scipy.fft.")
 endif()
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/control/shlibs
     ${PROJECT_BINARY_DIR}/control/symbols ${PROJECT_SOURCE_DIR}/packaging/triggers)
+# For what another machine runs the tools are its own.
+foreach(tool IN ITEMS OBJCOPY READELF STRIP)
+    set(CPACK_KFM_${tool} ${CMAKE_${tool}})
+endforeach()
 set(CPACK_KFM_CONTROL ${PROJECT_BINARY_DIR}/control)
 include(CPack)

@@ -1,9 +1,11 @@
 #!/bin/sh
-# installed_test.sh <source folder>: in the folder /work of a fresh system, which packages_test.sh has
-# filled, installs the packages of both architectures side by side, looks at their files, does what
-# the README says, and purges them. Nothing may be left, and nothing tell where they were built.
+# installed_test.sh <source folder> <architectures>: in the folder /work of a fresh system, which
+# packages_test.sh has filled, installs the packages of the architectures side by side, looks at their
+# files, does what the README says, and purges them. Nothing may be left, and nothing tell where they
+# were built.
 set -eu
 built=$1
+architectures=$2
 cd /work
 status=0
 complain() { echo "$*" >&2; status=1; }
@@ -36,30 +38,53 @@ for file in $(dpkg -L $installed | sort -u); do
         complain "$file has no debug symbols."
 done
 
-v3=
-! /lib64/ld-linux-x86-64.so.2 --help | grep -q 'x86-64-v3 (supported' ||
-    v3=glibc-hwcaps/x86-64-v3
 mkdir home
-# programs <multiarch name> <variant> [<compiler flag>]: what the README says, with a folder of
-# commands before the others: compilers of the target, and a make that has nothing to do.
-programs() {
+# commands <multiarch name> <C compiler> <C++ compiler>: a folder of that name, with commands that go
+# before others in its folder bin: compilers of the target, and a make that has nothing to do.
+commands() {
     mkdir -p "$1/bin"
     printf '#!/bin/sh\n' > "$1/bin/make"
-    for compiler in cc c++; do
-        printf '#!/bin/sh\nexec /usr/bin/%s %s "$@"\n' "$compiler" "${3:-}" > "$1/bin/$compiler"
-    done
+    printf '#!/bin/sh\nexec /usr/bin/%s "$@"\n' "$2" > "$1/bin/cc"
+    printf '#!/bin/sh\nexec /usr/bin/%s "$@"\n' "$3" > "$1/bin/c++"
     chmod +x "$1"/bin/*
     cd "$1"
-    PATH=$PWD/bin:$PATH PKG_CONFIG_LIBDIR=/usr/lib/$1/pkgconfig quietly sh -eux ../readme.sh
+    export PKG_CONFIG_LIBDIR="/usr/lib/$1/pkgconfig"
+}
+# programs <multiarch name> <variant> [<compiler flag>]: what the README says.
+programs() {
+    commands "$1" "cc ${3:-}" "c++ ${3:-}"
+    PATH=$PWD/bin:$PATH quietly sh -eux ../readme.sh
     quietly cmake -D multiarch="$1" -D variant="$2" -D program="$PWD/build/example" \
         -P ../taken.cmake
     cd ..
 }
-programs x86_64-linux-gnu "$v3"
-programs i386-linux-gnu "" -m32
-printf '%s\n' 1 0 0 0 0 0 0 0 > impulse.txt
-[ "$(kfmgen transform --length 8 impulse.txt | grep -c ',1,0$')" -eq 8 ] ||
-    complain "The spectrum of an impulse is not flat."
+# emulated <multiarch name>: its first programs, in C and C++, and the first linked statically.
+emulated() {
+    commands "$1" "clang --target=$1" "clang++ --target=$1"
+    sed '/^kfmgen /,$d; /^python3 /d; s,^\./,qemu-aarch64 ./,' ../readme.sh > first.sh
+    echo 'cc -static example.c $(pkg-config --static --cflags --libs kfmgen) && qemu-aarch64 ./a.out' \
+        >> first.sh
+    [ "$(grep -c qemu-aarch64 first.sh)" -ge 4 ] || complain "The README has other programs."
+    PATH=$PWD/bin:$PATH quietly sh -eux first.sh
+    cd ..
+}
+for architecture in $architectures; do
+    case $architecture in
+    amd64)
+        v3=
+        ! /lib64/ld-linux-x86-64.so.2 --help | grep -q 'x86-64-v3 (supported' ||
+            v3=glibc-hwcaps/x86-64-v3
+        programs x86_64-linux-gnu "$v3" ;;
+    i386) programs i386-linux-gnu "" -m32 ;;
+    "$(dpkg --print-architecture)") programs aarch64-linux-gnu "" ;;
+    *) emulated aarch64-linux-gnu ;;
+    esac
+done
+if command -v kfmgen > /dev/null; then
+    printf '%s\n' 1 0 0 0 0 0 0 0 > impulse.txt
+    [ "$(kfmgen transform --length 8 impulse.txt | grep -c ',1,0$')" -eq 8 ] ||
+        complain "The spectrum of an impulse is not flat."
+fi
 
 quietly apt-get purge -y --autoremove $installed
 files > after

@@ -2,6 +2,6 @@
 # script is given.
 include(${CMAKE_CURRENT_LIST_DIR}/taken_libraries.cmake)
 takes(/lib/${multiarch} ldd ${program})   # a link to the folder below, whose name the kernel has
-if(multiarch MATCHES "^x86_64")
+if(NOT multiarch MATCHES "^i386")
     takes(/usr/lib/${multiarch} kfmgen info)
 endif()
