@@ -25,9 +25,8 @@ function(kfm_add_transform_library name)
     add_library(${name}-planner OBJECT
         dct4/arena.cpp dct4/env_list.cpp dct4/index_maps.cpp dct4/input_stage.cpp dct4/numbers.cpp
         dct4/output_stage.cpp dct4/recursion.cpp dct4/root.cpp)
-    # Frames of several pages are touched page by page, so that the guard page of a stack holds.
     foreach(part IN ITEMS codelets planner)
-        target_compile_options(${name}-${part} PRIVATE -fstack-clash-protection ${arg_FLAGS})
+        target_compile_options(${name}-${part} PRIVATE ${KFM_LONG_FRAME_FLAGS} ${arg_FLAGS})
     endforeach()
     add_library(${name}-calls OBJECT
         ${entries} core/version.cpp wht/buffer_size.cpp dct4/calls.cpp)

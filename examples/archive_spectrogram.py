@@ -111,8 +111,10 @@ def run(client, options):
     for future in running:
         done += 1
         name = names.pop(future)
-        if future.status != "finished":
-            failed.append(f"{name}: {future.exception()}")
+        # What a worker that is killed had done is lost, and done again while this waits.
+        error = future.exception()
+        if error is not None:
+            failed.append(f"{name}: {error}")
         following = submit()
         if following:
             running.add(following)
