@@ -10,8 +10,6 @@ COMPILER := $(if $(filter-out default,$(origin CXX)),$(shell echo "$(notdir $(CX
 export BUILD := build$(addprefix /,$(filter-out g++,$(COMPILER)))
 EACH_TARGET = set -e; for target in $$(cat "$$BUILD/targets"); do
 
-OWN := $(shell tools/own_target.sh)
-
 .PHONY: all test test-aarch64 test-aarch64-selection test-sanitized memcheck demo bench \
 	measurements instructions tune install uninstall packages packages-aarch64 test-packages \
 	header format tidy docs clean
@@ -53,7 +51,7 @@ memcheck:
 demo:
 	@tools/install-dependencies.sh demo
 	@TARGETS=own GOAL=kfmgen tools/build.sh "$(JOBS)" -DKFM_BUILD_TOOL=ON
-	@"$$BUILD/$(OWN)/bin/kfmgen" spectrum "$(FILE)"
+	@"$$BUILD/$$(tools/own_target.sh)/bin/kfmgen" spectrum "$(FILE)"
 
 bench:
 	@tools/install-dependencies.sh bench

@@ -3,7 +3,11 @@ include(CheckCXXSourceCompiles)
 
 # kfm_find_target(<target> <instructions> <condition>): sets KFM_TARGET and KFM_INSTRUCTIONS, the row
 # of the generator for any machine of this target, where the condition holds for the preprocessor.
+# Looks no further where they are set.
 function(kfm_find_target target instructions condition)
+    if(KFM_TARGET)
+        return()
+    endif()
     string(MAKE_C_IDENTIFIER KFM_IS_${target} is)
     check_cxx_source_compiles("
 #if !(${condition})

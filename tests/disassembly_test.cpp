@@ -27,7 +27,7 @@ std::vector<Kernel> kernels() {
     for (const registry::Family& family : registry::families())
         for (const registry::Element* element : family.elements)
             for (int length = family.first; length <= family.last; ++length) {
-                const bool copied = !loadedLibrary().movesAnywhere &&
+                const bool copied = !loadedLibrary().movesAnywhere() &&
                                     registry::hasUnalignedCopy(family, length, *element);
                 const std::string copy =
                     copied ? registry::unalignedName(family, length, *element) : "";

@@ -1,6 +1,6 @@
-// Every function of the libraries runs on any processor of the target (x86: with SSE2), every function
-// of the variant on any with AVX2, and none multiplies and adds at once. Which instructions those have is not
-// listed here: the assembler is told the processor and given the machine code again.
+// Every function of the libraries runs on any processor of the target (x86: with SSE2), every
+// function of the variant on any with AVX2, and none multiplies and adds at once. Which instructions
+// those have is not listed here: the assembler is told the processor and given the machine code again.
 #include <gtest/gtest.h>
 #include <unistd.h>
 

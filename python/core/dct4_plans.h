@@ -5,7 +5,8 @@
 
 namespace kfm::python {
 
-// kfmErrSize, or another status where memory is exhausted. The plan is valid until the calling thread asks for other lengths, of which it keeps the last few, or ends.
+// kfmErrSize, or another status where memory is exhausted. The plan is valid until the calling thread
+// asks for other lengths, of which it keeps the last few, or ends.
 KfmStatus dct4Plan(int length, const KfmDCT4Spec_32f*& plan);
 KfmStatus dct4Plan(int length, const KfmDCT4Spec_64f*& plan);
 

@@ -18,7 +18,6 @@ LoadedLibrary libraryOf(const void* address) {
     result.variant = result.file.find("/glibc-hwcaps/") != std::string::npos;
     if (result.variant) result.vectorBits = 256;
     result.instructions = result.target == "aarch64" ? "NEON" : result.variant ? "AVX2" : "SSE2";
-    result.movesAnywhere = result.instructions != "SSE2";
     return result;
 }
 

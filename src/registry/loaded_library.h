@@ -12,7 +12,9 @@ struct LoadedLibrary {
     std::string instructions;   // "SSE2", "AVX2" or "NEON"
     int vectorBits = 128;       // of its widest vectors
     bool variant = false;
-    bool movesAnywhere = false;   // its vectors, as fast as from and to multiples of 16: one path
+
+    // Its vectors, as fast as from and to multiples of 16: there is one path.
+    bool movesAnywhere() const { return instructions != "SSE2"; }
 };
 
 const LoadedLibrary& loadedLibrary();

@@ -8,7 +8,8 @@ namespace kfm::tool {
 
 class SpectrumAnalysis {
 public:
-    // `visit` is given each slice of `sliceSeconds`, with 0 of as many as fit a screen, and the grid of its spectrum.
+    // `visit` is given each slice of `sliceSeconds`, with 0 of as many as fit a screen, and the grid of
+    // its spectrum.
     using Visit = std::function<void(const Slice&, const FrequencyGrid&)>;
     SpectrumAnalysis(double rate, double sliceSeconds, Visit visit);
     SpectrumAnalysis(const SpectrumAnalysis&) = delete;   // its parts call one another

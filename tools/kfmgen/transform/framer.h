@@ -29,8 +29,9 @@ public:
     Framer(SampleSource& source, const Framing& framing, std::size_t width);
 
     // The values of the next frame, valid until the next call; none after the first frame that
-    // reaches the end of the stream, or with Tail::cover after the last that holds a sample. A short one is filled up with zeros or left out. Throws
-    // InputError when nothing but a short one would be left out.
+    // reaches the end of the stream, or with Tail::cover after the last that holds a sample. A short
+    // one is filled up with zeros or left out. Throws InputError when nothing but a short one would be
+    // left out.
     std::span<const double> next();
 
     std::uint64_t samples() const { return samples_; }   // in the frames so far, without padding
