@@ -117,9 +117,11 @@ std::vector<Quad> dct4(std::span<const double> source) {
     std::vector<Quad> cosines, result(n);
     for (std::size_t i = 0; i < 8 * n; ++i)
         cosines.push_back(unitRoot(static_cast<long>(i), static_cast<long>(8 * n)).re);
-    for (std::size_t k = 0; k < n; ++k)
-        for (std::size_t i = 0; i < n; ++i)
+    for (std::size_t i = 0; i < n; ++i) {
+        if (source[i] == 0) continue;   // of unit impulses nearly all
+        for (std::size_t k = 0; k < n; ++k)
             result[k] += source[i] * cosines[(2 * i + 1) * (2 * k + 1) % (8 * n)];
+    }
     return result;
 }
 
