@@ -62,10 +62,10 @@ TYPED_TEST(Dct4Codelets, OddTransformsAreTheDefinition) {
 // The sums G(p) of a sub-transform.
 std::vector<WideComplex> mirroredSums(const std::vector<WideComplex>& u) {
     const long M = static_cast<long>(u.size());
-    std::vector<WideComplex> G(M);
+    std::vector<WideComplex> G(M), angles;
+    for (long i = 0; i < 4 * M; ++i) angles.push_back(unitAngle(static_cast<Wide>(i) / (2 * M)));
     for (long p = 0; p < M; ++p)
-        for (long k = 0; k < M; ++k)
-            G[p] += u[k] * unitAngle(static_cast<Wide>(k * (4 * p + 1) % (4 * M)) / (2 * M));
+        for (long k = 0; k < M; ++k) G[p] += product(u[k], angles[k * (4 * p + 1) % (4 * M)]);
     return G;
 }
 

@@ -63,30 +63,45 @@ inline std::vector<WideComplex> transformByHalves(const std::vector<WideComplex>
     return result;
 }
 
-// By the definition for short and odd lengths, else by a complex transform of half the length.
-template <class Real>
-WideSignal reference(const std::vector<Real>& x) {
-    const std::size_t n = x.size();
-    WideSignal y(n);
-    if (n < 128 || n % 2) {
-        const std::vector<double> samples(x.begin(), x.end());
-        std::ranges::transform(definition::dct4(samples), y.begin(),
-                               [](Quad value) { return static_cast<Wide>(value); });
+// The transform of n elements: by the definition for short and odd lengths, else by a complex
+// transform of half the length, whose angles serve all signals.
+class Reference {
+public:
+    explicit Reference(std::size_t n) {
+        if (n < 128 || n % 2) return;
+        for (std::size_t i = 0; i < n / 2; ++i) {
+            before_.push_back(unitAngle(-Wide(4 * i + 1) / (4 * n)));
+            after_.push_back(unitAngle(-static_cast<Wide>(i) / n));
+        }
+        for (std::size_t j = 0; j < n / 4; ++j)
+            roots_.push_back(unitAngle(-static_cast<Wide>(4 * j) / n));
+    }
+
+    template <class Real>
+    WideSignal operator()(const std::vector<Real>& x) const {
+        const std::size_t n = x.size();
+        WideSignal y(n);
+        if (roots_.empty()) {
+            const std::vector<double> samples(x.begin(), x.end());
+            std::ranges::transform(definition::dct4(samples), y.begin(),
+                                   [](Quad value) { return static_cast<Wide>(value); });
+            return y;
+        }
+        std::vector<WideComplex> u(n / 2);
+        for (std::size_t i = 0; i < n / 2; ++i)
+            u[i] = product(WideComplex(x[2 * i], x[n - 1 - 2 * i]), before_[i]);
+        u = transformByHalves(u, roots_);
+        for (std::size_t k = 0; k < n / 2; ++k) {
+            const WideComplex z = product(u[k], after_[k]);
+            y[2 * k] = z.real();
+            y[n - 1 - 2 * k] = -z.imag();
+        }
         return y;
     }
-    std::vector<WideComplex> u(n / 2);
-    for (std::size_t i = 0; i < n / 2; ++i)
-        u[i] = WideComplex(x[2 * i], x[n - 1 - 2 * i]) * unitAngle(-Wide(4 * i + 1) / (4 * n));
-    std::vector<WideComplex> roots(n / 4);
-    for (std::size_t j = 0; j < n / 4; ++j) roots[j] = unitAngle(-static_cast<Wide>(4 * j) / n);
-    u = transformByHalves(u, roots);
-    for (std::size_t k = 0; k < n / 2; ++k) {
-        const WideComplex z = u[k] * unitAngle(-static_cast<Wide>(k) / n);
-        y[2 * k] = z.real();
-        y[n - 1 - 2 * k] = -z.imag();
-    }
-    return y;
-}
+
+private:
+    std::vector<WideComplex> before_, roots_, after_;
+};
 
 template <class Real>
 double errorInUnits(const Real* actual, const WideSignal& expected) {
@@ -125,6 +140,7 @@ std::vector<std::vector<Real>> signals(std::size_t n, int rounds) {
 template <class Real>
 void expectDefinition(std::size_t n, int rounds, auto&& transform) {
     const std::size_t bytes = n * sizeof(Real);
+    const Reference reference(n);
     double worst = 0;
     for (const std::vector<Real>& x : signals<Real>(n, rounds)) {
         const WideSignal expected = reference(x);
