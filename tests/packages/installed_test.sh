@@ -22,7 +22,8 @@ quietly apt-get install -y --no-install-recommends ./*.deb
 installed=$(for deb in *.deb; do
     echo "$(dpkg-deb -f "$deb" Package):$(dpkg-deb -f "$deb" Architecture)"
 done)
-[ -z "$(dpkg --verify $installed | tee /dev/stderr)" ] || complain "That was packed otherwise."
+changed=$(dpkg --verify $installed)
+[ -z "$changed" ] || complain "$changed: packed otherwise."
 
 for file in $(dpkg -L $installed | sort -u); do
     [ -f "$file" ] && [ ! -L "$file" ] || continue

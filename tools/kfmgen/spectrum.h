@@ -14,7 +14,7 @@ struct SpectrumOptions {
     bool logarithmic = true;
 };
 
-void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& page);
+void showSpectrum(const InputOptions& input, double sliceSeconds, std::ostream& out);
 void drawSpectrum(const InputOptions& input, const SpectrumOptions& options);
 
 }   // namespace kfm::tool

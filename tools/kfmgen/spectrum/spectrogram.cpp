@@ -8,7 +8,7 @@ namespace kfm::tool {
 // At most a quarter of a frame, so that no sample weighs little, and as many steps as columns, or
 // a power of two times as many: slices that are merged by twos then fill the picture.
 std::size_t pictureHop(std::uint64_t samples, std::size_t frame, std::size_t columns) {
-    const auto most = static_cast<double>(frame / 4);
+    const double most = std::floor(static_cast<double>(frame) / 4);
     double hop = samples > 0 ? static_cast<double>(samples) / static_cast<double>(columns) : most;
     while (hop > most) hop /= 2;
     return static_cast<std::size_t>(std::max(std::ceil(hop), std::ceil(most / 4)));
