@@ -101,13 +101,16 @@ def test_plans_are_freed():
         for k in range(1, 15):
             kfmgen.dct4(np.ones(2**k))
 
-    def grown(task):
-        for i in range(420):
-            if i == 20:
-                memory = resident()
+    def run(task, times):
+        for _ in range(times):
             thread = threading.Thread(target=task)
             thread.start()
             thread.join()
+
+    def grown(task):
+        run(task, 20)
+        memory = resident()
+        run(task, 400)
         return resident() - memory
 
     # 400 kB of plans in each thread; an emulator keeps some of any thread.

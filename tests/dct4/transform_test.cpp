@@ -21,7 +21,7 @@ TYPED_TEST(Dct4Transform, IsTheDefinition) {
         const Specification<TypeParam> specification(length);
         expectDefinition<TypeParam>(length,
                                     length <= 32     ? 200
-                                    : length <= 2048 ? 8
+                                    : length <= 4096 ? 8
                                                      : 2,
                                     [&](const TypeParam* src, TypeParam* dst) {
                                         Dct4<TypeParam>::transform(src, dst,
